@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iterator>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -141,7 +142,7 @@ class FlightList {
     Handle PackRow(const Flight& flight);
 
     std::shared_ptr<Arena> arena_;
-    std::vector<Handle> handles_;
+    std::pmr::vector<Handle> handles_;
     char* rowStart_ = nullptr;  // of the row being written
     char* rowEnd_ = nullptr;
 };
