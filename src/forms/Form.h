@@ -36,6 +36,7 @@ struct Form {
     Form* owner = nullptr;
     WindowState windowState = WindowState::Normal;
     WindowBox box;
+    bool centreRequest = false;  // on the screen; taken once by the front end
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn
