@@ -50,10 +50,21 @@ void Thin(std::vector<Place>& places, std::size_t count) {
     places = std::move(kept);
 }
 
+// Leaves every `step`th place out, so that its flights fall through to the next wider set.
+void LeaveOut(std::vector<Place>& places, std::size_t step) {
+    std::vector<Place> kept;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        if (i % step != step - 2) kept.push_back(places[i]);
+    }
+    places = std::move(kept);
+}
+
 // Chooses which places get sets, so that all sets together are about `total`, and adds airports of a larger
 // world when there are too few. Small worlds keep most flights for the sets of countries, whose shares can
 // then be watched.
 void Apportion(Places& places, std::size_t total) {
+    LeaveOut(places.Regions, 6);
+    LeaveOut(places.Countries, 5);
     Thin(places.Countries, total * 45 / 100);
     Thin(places.States, total / 12);
     Thin(places.Cities, total / 8);

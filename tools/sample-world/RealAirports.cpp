@@ -32,7 +32,7 @@ const std::vector<RealAirport>& RealAirports() {
         {"KSAN", "San Diego International", northAmerica, us, "CA", "San Diego", 32.734, -117.190, 5,
          "9 2865x61"},
         {"KLAS", "Las Vegas International", northAmerica, us, "NV", "Las Vegas", 36.080, -115.152, 665,
-         "8L 4424x46, 8R 3208x46, 1R 2977x46"},
+         "8R 3208x46, 1L 2978x46, 1R 2977x46"},
         {"PHNL", "Honolulu International", northAmerica, us, "HI", "Honolulu", 21.319, -157.922, 4,
          "8L 3767x61, 8R 3657x61, 4R 2744x46, 8 1551x91W"},
         {"PANC", "Anchorage International", northAmerica, us, "AK", "Anchorage", 61.174, -149.996, 46,
