@@ -59,9 +59,9 @@ void LeaveOut(std::vector<Place>& places, std::size_t step) {
     places = std::move(kept);
 }
 
-// Chooses which places get sets, so that all sets together are about `total`, and adds airports of a larger
-// world when there are too few. Small worlds keep most flights for the sets of countries, whose shares can
-// then be watched.
+// Chooses which places get sets, so that all sets together are about `total`, and adds airports that no
+// scenery has when there are too few. Small worlds keep most flights for the sets of countries, whose shares
+// can then be watched.
 void Apportion(Places& places, std::size_t total) {
     LeaveOut(places.Regions, 6);
     LeaveOut(places.Countries, 5);
@@ -73,7 +73,8 @@ void Apportion(Places& places, std::size_t total) {
     const std::size_t left = total > others ? total - others : 0;
     Thin(places.Airports, total < 150 ? total / 8 : left);
     if (total < 150) return;
-    for (int index = 40000; places.Airports.size() < left; ++index) {
+    constexpr int unusedCodes = 40000;  // no world has as many airports
+    for (int index = unusedCodes; places.Airports.size() < left; ++index) {
         places.Airports.push_back({InventedCode(index), "", ""});
     }
 }

@@ -10,8 +10,8 @@
 namespace orlo::world {
 
 // Writes the airline file: one global set and sets for regions, countries, states, cities and airports, some
-// seven sets for each airline. Where the world has too few places for them, sets follow for airports that
-// only a larger world of this seed has. Throws std::runtime_error when the file cannot be written.
+// seven sets for each airline. Where the world has too few places for them, sets of airports follow whose
+// codes stand in no scenery. Throws std::runtime_error when the file cannot be written.
 void WriteAirlineSets(const std::filesystem::path& path, const std::vector<Airport>& airports,
                       const Fleet& fleet, std::uint64_t seed);
 

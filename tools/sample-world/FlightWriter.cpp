@@ -68,7 +68,7 @@ class FlightWriter {
     void Write(int index) {
         WriteComment(index);
         const Oddity oddity = OddityOf(index);
-        AircraftClass wanted = DrawClass();
+        AircraftClass wanted = oddity == Oddity::TooFar ? HugeJet : DrawClass();
         Round round = oddity == Oddity::UnknownAirport ? RoundToNowhere()
                       : oddity == Oddity::TooFar       ? FarthestRound()
                                                        : DrawRound(wanted);
@@ -81,11 +81,7 @@ class FlightWriter {
         PutTailNumber(variant, home, oddity);
         file.Put(',').PutNumber(random.Between(1, 99)).Put("%,");
         const Timetable times = DrawTimes(round, PerformanceOf(TypeOf(variant)).CruiseSpeed);
-        if (times.PeriodHours == 0) {
-            file.Put("WEEK");
-        } else {
-            file.PutNumber(times.PeriodHours).Put("Hr");
-        }
+        PutPeriod(times.PeriodHours);
         file.Put(visual ? ",VFR" : ",IFR");
         for (int leg = 0; leg < round.LegCount; ++leg) PutLeg(round, times, leg, visual, variant, oddity);
         file.Line(index % 700 == 350 ? " ; charter" : "");
@@ -97,13 +93,11 @@ class FlightWriter {
     }
 
     void WriteComment(int index) {
-        if (index % 500 == 0)
-            file.Put(index % 1000 == 0 ? "; flights from number " : "// flights from number ")
-                .PutNumber(index + 1)
-                .EndLine();
-        if (index == 500)
-            file.Line(
-                "AC#1,SMP-0001,50%,24Hr,IFR,10:00:00,11:00:00,200,F,0001,KSEA // one leg alone is no flight");
+        if (index % 500 != 0) return;
+        file.Put(index % 1000 == 0 ? "; " : "// ").Put("flights from number ").PutNumber(index + 1).EndLine();
+        if (index != 500) return;
+        file.Put("AC#1,SMP-0001,50%,24Hr,IFR,10:00:00,11:00:00,200,F,0001,KSEA");
+        file.Line(" // one leg alone is no flight");
     }
 
     static Oddity OddityOf(int index) {
@@ -188,8 +182,8 @@ class FlightWriter {
         Timetable times;
         times.PeriodHours = ChoosePeriod(busy);
         const int period = times.PeriodHours == 0 ? Week : times.PeriodHours * 60;
-        if (times.PeriodHours == 0) busy += Stretch(ground, legs, Week - busy);
-        int clock = random.Between(0, (period - busy) / 5) * 5;
+        if (times.PeriodHours == 0) busy += Stretch(ground, legs, std::max(0, Week - busy));
+        int clock = random.Between(0, std::max(0, period - busy) / 5) * 5;
         for (std::size_t i = 0; i < legs; ++i) {
             times.Departures[i] = clock;
             times.Arrivals[i] = clock + flying[i];
@@ -219,8 +213,17 @@ class FlightWriter {
         return added;
     }
 
+    void PutPeriod(int hours) {
+        if (hours == 0) {
+            file.Put("WEEK");
+        } else {
+            file.PutNumber(hours).Put("Hr");
+        }
+    }
+
     void PutTime(int minutes, bool week) {
-        if (week) file.PutNumber(minutes / Day).Put('/');
+        // In a world of few airports, a slow aircraft may need more than the week for its round.
+        if (week) file.PutNumber(minutes / Day % 7).Put('/');
         file.PutNumber(minutes % Day / 60, 2).Put(':').PutNumber(minutes % 60, 2).Put(":00");
     }
 
