@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+#include "services/MessageHost.h"
+
+namespace orlo {
+
+inline constexpr std::string_view kApplicationTitle = "Orlo";
+inline constexpr std::string_view kBackupSuffix = ".orlo.bak";
+
+// A message under the application's title; without an owner the front end takes its topmost window.
+inline MessageAnswer ShowMessage(MessageHost& messages, std::string_view text, int flags,
+                                 Form* owner = nullptr) {
+    return messages.ShowMessage(text, flags, kApplicationTitle, owner);
+}
+
+}  // namespace orlo

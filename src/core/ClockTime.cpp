@@ -1,0 +1,64 @@
+#include "core/ClockTime.h"
+
+#include "core/Number.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+// One or two digits up to `most`.
+std::optional<std::int32_t> ParseTimeField(std::string_view text, std::int32_t most) {
+    if (text.empty() || text.size() > 2) return std::nullopt;
+    std::int32_t value = 0;
+    for (char digit : text) {
+        if (digit < '0' || digit > '9') return std::nullopt;
+        value = value * 10 + (digit - '0');
+    }
+    if (value > most) return std::nullopt;
+    return value;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> ParseClockTime(std::string_view text) {
+    text = TrimBlanks(text);
+    const std::size_t first = text.find(':');
+    if (first == std::string_view::npos) return std::nullopt;
+    const std::size_t second = text.find(':', first + 1);
+    const bool hasSeconds = second != std::string_view::npos;
+    const auto hours = ParseTimeField(text.substr(0, first), 23);
+    const auto minutes =
+        ParseTimeField(text.substr(first + 1, hasSeconds ? second - first - 1 : text.npos), 59);
+    const auto seconds = hasSeconds ? ParseTimeField(text.substr(second + 1), 59) : 0;
+    if (!hours || !minutes || !seconds) return std::nullopt;
+    return *hours * kSecondsPerHour + *minutes * kSecondsPerMinute + *seconds;
+}
+
+std::string FormatClockTime(std::int64_t seconds) {
+    std::int64_t time = seconds % kSecondsPerDay;
+    if (time < 0) time += kSecondsPerDay;
+    return Concat(FormatDigits(time / kSecondsPerHour, 2), ":",
+                  FormatDigits(time / kSecondsPerMinute % kSecondsPerMinute, 2), ":",
+                  FormatDigits(time % kSecondsPerMinute, 2));
+}
+
+std::optional<WeekTime> ParseWeekTime(std::string_view text) {
+    const SplitTime split = SplitDayPrefix(text);
+    if (split.Prefix.empty()) return std::nullopt;
+    const auto day = ParseWholeNumber(split.Prefix.substr(0, split.Prefix.size() - 1));
+    const auto seconds = ParseClockTime(split.Clock);
+    if (!day || *day < 0 || *day > 6 || !seconds) return std::nullopt;
+    return WeekTime{*day, *seconds};
+}
+
+std::string FormatWeekTime(const WeekTime& time) {
+    return Concat(time.Day, "/", FormatClockTime(time.Seconds));
+}
+
+SplitTime SplitDayPrefix(std::string_view text) {
+    const std::size_t slash = text.find('/');
+    if (slash == std::string_view::npos) return {{}, text};
+    return {text.substr(0, slash + 1), text.substr(slash + 1)};
+}
+
+}  // namespace orlo

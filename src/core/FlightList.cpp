@@ -1,0 +1,268 @@
+#include "core/FlightList.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace orlo {
+namespace {
+
+// In front of each row's fields.
+struct RowHead {
+    std::uint32_t legCount;
+    std::uint32_t length;  // bytes of the fields
+};
+
+constexpr std::size_t kRowAlignment = 8;
+constexpr std::size_t kFirstChunk = 16 * 1024;
+constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
+constexpr std::size_t kLargePage = 2 * 1024 * 1024;
+
+char* FieldsOf(char* rowStart) {
+    return rowStart + sizeof(RowHead);
+}
+
+// A separator inside a field would shift all fields behind it.
+void CopyField(char*& out, std::string_view field) {
+    if (field.empty()) return;
+    std::memcpy(out, field.data(), field.size());
+    if (field.find(kFieldSeparator) != std::string_view::npos) {
+        std::replace(out, out + field.size(), kFieldSeparator, ' ');
+    }
+    out += field.size();
+}
+
+std::size_t PackedSize(const Flight& flight) {
+    std::size_t size = flight.ACNumber.size() + flight.TailNumber.size() + flight.Percent.size() +
+                       flight.Period.size() + flight.FlightType.size() + kFlightFields;
+    for (const Leg& leg : flight.Legs) {
+        size += leg.DepartTime.size() + leg.ETA.size() + 1 + leg.FlightLevel.size() + leg.NumberMode.size() +
+                leg.FlightNumber.size() + leg.Destination.size() + kLegFields;
+    }
+    return size;
+}
+
+}  // namespace
+
+// Memory of rows: chunks that only grow, so that a row never moves.
+class FlightList::Arena {
+  public:
+    // Room for a row's head and `mostBytes` of fields.
+    char* Reserve(std::size_t mostBytes) {
+        const std::size_t wanted = sizeof(RowHead) + mostBytes + kRowAlignment;
+        if (static_cast<std::size_t>(end_ - next_) < wanted) AddChunk(wanted);
+        return next_;
+    }
+
+    // Takes what a reserved row used.
+    void Commit(const char* rowEnd) {
+        const auto used = static_cast<std::size_t>(rowEnd - next_);
+        next_ += (used + kRowAlignment - 1) / kRowAlignment * kRowAlignment;
+    }
+
+    std::size_t Bytes() const { return bytes_; }
+
+    Arena() = default;
+    Arena(const Arena&) = delete;
+    Arena& operator=(const Arena&) = delete;
+    ~Arena() {
+        for (const Chunk& chunk : chunks_) memory_->deallocate(chunk.start, chunk.size, chunk.alignment);
+    }
+
+  private:
+    struct Chunk {
+        void* start;
+        std::size_t size;
+        std::size_t alignment;
+    };
+
+    void AddChunk(std::size_t wanted) {
+        const std::size_t size = std::max(wanted, std::clamp(bytes_ / 4, kFirstChunk, kLargestChunk));
+        const std::size_t alignment = size >= kLargestChunk ? kLargePage : kRowAlignment;
+        chunks_.reserve(chunks_.size() + 1);
+        chunks_.push_back({memory_->allocate(size, alignment), size, alignment});
+        next_ = static_cast<char*>(chunks_.back().start);
+        end_ = next_ + size;
+        bytes_ += size;
+    }
+
+    // The first touch of fresh memory costs more than filling it; a program that sets a resource of large
+    // pages as the default one saves most of that.
+    std::pmr::memory_resource* memory_ = std::pmr::get_default_resource();
+    std::vector<Chunk> chunks_;
+    char* next_ = nullptr;
+    char* end_ = nullptr;
+    std::size_t bytes_ = 0;
+};
+
+LegView FieldReader::NextLeg() {
+    LegView leg;
+    leg.DepartTime = Next();
+    leg.ETA = Next();
+    if (!leg.ETA.empty() && leg.ETA.front() == '@') {
+        leg.FixedETA = true;
+        leg.ETA.remove_prefix(1);
+    }
+    leg.FlightLevel = Next();
+    leg.NumberMode = Next();
+    leg.FlightNumber = Next();
+    leg.Destination = Next();
+    return leg;
+}
+
+std::string_view FlightView::StartAirport() const {
+    if (LegCount == 0) return {};
+    const std::size_t last = LegText.rfind(kFieldSeparator);
+    return last == std::string_view::npos ? LegText : LegText.substr(last + 1);
+}
+
+FlightList::FlightList() : arena_(std::make_shared<Arena>()) {}
+
+FlightList FlightList::SharingRowsOf(const FlightList& other) {
+    FlightList list;
+    list.arena_ = other.arena_;
+    return list;
+}
+
+std::string_view FlightList::Row(std::int32_t index) const {
+    const auto* start =
+        reinterpret_cast<const char*>(handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
+    RowHead head;
+    std::memcpy(&head, start, sizeof head);
+    return {start + sizeof head, head.length};
+}
+
+FlightView FlightList::At(std::int32_t index) const {
+    const auto* start =
+        reinterpret_cast<const char*>(handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
+    RowHead head;
+    std::memcpy(&head, start, sizeof head);
+    const std::string_view row(start + sizeof head, head.length);
+    FieldReader reader(row);
+    FlightView flight;
+    flight.ACNumber = reader.Next();
+    flight.TailNumber = reader.Next();
+    flight.Percent = reader.Next();
+    flight.Period = reader.Next();
+    flight.FlightType = reader.Next();
+    flight.LegCount = static_cast<std::int32_t>(head.legCount);
+    flight.Removed = Removed(index);
+    if (flight.LegCount > 0) {
+        const char* legs = flight.FlightType.data() + flight.FlightType.size() + 1;
+        flight.LegText = row.substr(static_cast<std::size_t>(legs - row.data()));
+    }
+    return flight;
+}
+
+Flight FlightList::Unpack(std::int32_t index) const {
+    const FlightView view = At(index);
+    Flight flight;
+    flight.ACNumber = view.ACNumber;
+    flight.TailNumber = view.TailNumber;
+    flight.Percent = view.Percent;
+    flight.Period = view.Period;
+    flight.FlightType = view.FlightType;
+    flight.Removed = view.Removed;
+    flight.Legs.reserve(static_cast<std::size_t>(view.LegCount));
+    for (const LegView& leg : view) {
+        flight.Legs.push_back({std::string(leg.DepartTime), std::string(leg.ETA), leg.FixedETA,
+                               std::string(leg.FlightLevel), std::string(leg.NumberMode),
+                               std::string(leg.FlightNumber), std::string(leg.Destination)});
+    }
+    return flight;
+}
+
+void FlightList::SetRemoved(std::int32_t index, bool removed) {
+    Handle& handle = handles_[static_cast<std::size_t>(index)];
+    handle = removed ? handle | kRemovedBit : handle & ~kRemovedBit;
+}
+
+FlightList::Handle FlightList::PackRow(const Flight& flight) {
+    BeginRow(PackedSize(flight));
+    AddField(flight.ACNumber);
+    AddField(flight.TailNumber);
+    AddField(flight.Percent);
+    AddField(flight.Period);
+    AddField(flight.FlightType);
+    for (const Leg& leg : flight.Legs) {
+        AddField(leg.DepartTime);
+        AddArrival(leg.ETA, leg.FixedETA);
+        AddField(leg.FlightLevel);
+        AddField(leg.NumberMode);
+        AddField(leg.FlightNumber);
+        AddField(leg.Destination);
+    }
+    EndRow(flight.LegCount(), flight.Removed);
+    const Handle handle = handles_.back();
+    handles_.pop_back();
+    return handle;
+}
+
+void FlightList::Replace(std::int32_t index, const Flight& flight) {
+    handles_[static_cast<std::size_t>(index)] = PackRow(flight);
+}
+
+void FlightList::Append(const Flight& flight) {
+    handles_.push_back(PackRow(flight));
+}
+
+void FlightList::AppendFrom(const FlightList& other, std::int32_t index) {
+    if (arena_ == other.arena_) {
+        handles_.push_back(other.handles_[static_cast<std::size_t>(index)]);
+        return;
+    }
+    const auto* start =
+        reinterpret_cast<const char*>(other.handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
+    RowHead head;
+    std::memcpy(&head, start, sizeof head);
+    char* fields = RowBuffer(head.length);
+    std::memcpy(fields, start + sizeof head, head.length);
+    CommitRow(head.length, static_cast<std::int32_t>(head.legCount));
+    SetRemoved(Count() - 1, other.Removed(index));
+}
+
+void FlightList::Truncate(std::int32_t count) {
+    handles_.resize(static_cast<std::size_t>(count));
+}
+
+void FlightList::Clear() {
+    *this = FlightList();
+}
+
+void FlightList::BeginRow(std::size_t mostBytes) {
+    rowStart_ = arena_->Reserve(mostBytes);
+    rowEnd_ = FieldsOf(rowStart_);
+}
+
+void FlightList::AddField(std::string_view field) {
+    CopyField(rowEnd_, field);
+    *rowEnd_++ = kFieldSeparator;
+}
+
+void FlightList::AddArrival(std::string_view eta, bool fixed) {
+    if (fixed) *rowEnd_++ = '@';
+    AddField(eta);
+}
+
+void FlightList::EndRow(std::int32_t legCount, bool removed) {
+    assert(rowEnd_ > FieldsOf(rowStart_));
+    CommitRow(static_cast<std::size_t>(rowEnd_ - FieldsOf(rowStart_)) - 1, legCount);
+    SetRemoved(Count() - 1, removed);
+}
+
+char* FlightList::RowBuffer(std::size_t mostBytes) {
+    rowStart_ = arena_->Reserve(mostBytes);
+    return FieldsOf(rowStart_);
+}
+
+void FlightList::CommitRow(std::size_t length, std::int32_t legCount) {
+    const RowHead head{static_cast<std::uint32_t>(legCount), static_cast<std::uint32_t>(length)};
+    std::memcpy(rowStart_, &head, sizeof head);
+    arena_->Commit(FieldsOf(rowStart_) + length);
+    handles_.push_back(reinterpret_cast<Handle>(rowStart_));
+}
+
+std::size_t FlightList::MemoryBytes() const {
+    return arena_->Bytes() + handles_.capacity() * sizeof(Handle);
+}
+
+}  // namespace orlo

@@ -1,0 +1,197 @@
+#include "core/FlightplanFile.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/Application.h"
+#include "core/FieldScan.h"
+#include "core/Number.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::size_t kFewestFields = kFlightFields + 2 * kLegFields;  // two complete legs
+constexpr std::size_t kPercentField = 2;
+constexpr std::size_t kLongestLevel = 3;
+constexpr std::size_t kLongestNumber = 4;
+constexpr int kLinesBetweenProgress = 201;
+constexpr std::string_view kMostPercent = "99%";
+
+// An activity of 100 is never kept, and neither is one that doesn't read.
+bool KeepsPercent(std::string_view percent) {
+    const auto value = ParseWholeNumber(percent.substr(0, percent.empty() ? 0 : percent.size() - 1));
+    return value && *value != 100;
+}
+
+// A level given in feet becomes hundreds of feet: 3500 is "035", 10000 is "100".
+std::string NormalLevel(std::string_view level) {
+    if (level.size() <= kLongestLevel) return std::string(level);
+    if (level.size() == kLongestLevel + 1) return Concat("0", level.substr(0, 2));
+    return std::string(level.substr(0, kLongestLevel));
+}
+
+std::string_view FieldOf(std::string_view line, const FieldScan& fields, std::size_t index) {
+    return line.substr(fields.Start(index), fields.FieldLength(index));
+}
+
+// Whether the row of these fields is the line as it stands, with other separators.
+bool IsNormal(std::string_view line, const FieldScan& fields, std::size_t legs) {
+    if (!KeepsPercent(FieldOf(line, fields, kPercentField))) return false;
+    for (std::size_t leg = 0, field = kFlightFields; leg < legs; ++leg, field += kLegFields) {
+        if (fields.FieldLength(field + 2) > kLongestLevel || fields.FieldLength(field + 4) > kLongestNumber)
+            return false;
+    }
+    return true;
+}
+
+void AppendAsItStands(std::string_view line, const FieldScan& fields, std::size_t kept, std::size_t legs,
+                      FlightList& flights) {
+    const std::size_t length = fields.End(kept - 1);
+    char* row = flights.RowBuffer(length);
+    std::memcpy(row, line.data(), length);
+    for (std::size_t i = 0; i + 1 < kept; ++i) row[fields.End(i)] = kFieldSeparator;
+    flights.CommitRow(length, static_cast<std::int32_t>(legs));
+}
+
+void AppendNormalised(std::string_view line, const FieldScan& fields, std::size_t legs, FlightList& flights) {
+    const auto field = [&](std::size_t index) { return TrimBlanks(FieldOf(line, fields, index)); };
+    flights.BeginRow(fields.Length() + kMostPercent.size() + 1);
+    for (std::size_t i = 0; i < kFlightFields; ++i) {
+        flights.AddField(i != kPercentField || KeepsPercent(field(i)) ? field(i) : kMostPercent);
+    }
+    for (std::size_t leg = 0, i = kFlightFields; leg < legs; ++leg, i += kLegFields) {
+        flights.AddField(field(i));
+        flights.AddField(field(i + 1));
+        flights.AddField(NormalLevel(field(i + 2)));
+        flights.AddField(field(i + 3));
+        flights.AddField(field(i + 4).substr(0, kLongestNumber));
+        flights.AddField(field(i + 5));
+    }
+    flights.EndRow(static_cast<std::int32_t>(legs), false);
+}
+
+// Appends lines to a list with one scan buffer for all of them.
+class LinePacker {
+  public:
+    explicit LinePacker(FlightList& flights) : flights_(flights) {}
+
+    bool Append(std::string_view line) {
+        if (line.empty() || line.front() == ';' || line.substr(0, 2) == "//") return false;
+        fields_.Scan(line);
+        if (fields_.Count() < kFewestFields) return false;
+        const std::size_t legs = (fields_.Count() - kFlightFields) / kLegFields;
+        if (!fields_.HasBlanks() && IsNormal(line, fields_, legs)) {
+            AppendAsItStands(line, fields_, kFlightFields + legs * kLegFields, legs, flights_);
+        } else {
+            AppendNormalised(line, fields_, legs, flights_);
+        }
+        return true;
+    }
+
+  private:
+    FlightList& flights_;
+    FieldScan fields_;
+};
+
+// Collects rows as lines and hands them on in large pieces.
+class RowWriter {
+  public:
+    explicit RowWriter(OutputFile& file) : file_(file) { buffer_.reserve(kPiece + kPiece / 4); }
+
+    void Add(std::string_view row) {
+        const std::size_t start = buffer_.size();
+        buffer_.append(row);
+        std::replace(buffer_.begin() + static_cast<std::ptrdiff_t>(start), buffer_.end(), kFieldSeparator,
+                     ',');
+        buffer_.append("\r\n");
+        if (buffer_.size() >= kPiece) Flush();
+    }
+    bool Finish() {
+        Flush();
+        return !failed_;
+    }
+
+  private:
+    static constexpr std::size_t kPiece = 1024 * 1024;
+
+    void Flush() {
+        if (!failed_ && !buffer_.empty()) failed_ = !file_.Write(buffer_);
+        buffer_.clear();
+    }
+
+    OutputFile& file_;
+    std::string buffer_;
+    bool failed_ = false;
+};
+
+bool WriteRows(FileSystem& files, const std::string& path, const FlightList& flights, bool removed) {
+    const auto file = files.CreateReplacing(path);
+    if (!file) return false;
+    RowWriter writer(*file);
+    for (std::int32_t i = 0; i < flights.Count(); ++i) {
+        if (flights.Removed(i) == removed) writer.Add(flights.Row(i));
+    }
+    return writer.Finish() && file->Commit();
+}
+
+}  // namespace
+
+bool AppendFlightplanLine(std::string_view line, FlightList& flights) {
+    return LinePacker(flights).Append(line);
+}
+
+void ReadFlightplan(Session& session, Services& services) {
+    session.Flights.Clear();
+    services.progress.SetMax(100);
+    services.progress.SetValue(0);
+    services.windows.ProcessEvents();
+
+    const auto file = services.files.OpenForReading(session.FlightplanPath);
+    if (!file) {
+        ShowMessage(services.messages, "Flightplan file not found or access denied.", kMarkCritical);
+        return;
+    }
+    const std::uint64_t size = std::max<std::uint64_t>(file->Size(), 1);
+    LineReader lines(*file);
+    LinePacker packer(session.Flights);
+    std::uint64_t total = 0;
+    int lineCounter = 0;
+    while (const auto line = lines.Next()) {
+        total += line->size();
+        if (lineCounter == kLinesBetweenProgress) {
+            lineCounter = 0;
+            services.progress.SetValue(static_cast<int>(std::min<std::uint64_t>(total * 100 / size, 100)));
+            services.windows.ProcessEvents();
+        } else {
+            ++lineCounter;
+        }
+        packer.Append(*line);
+    }
+}
+
+PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
+                                bool backup) {
+    if (backup) BackUpOnce(files, path);
+    PlanWriteResult result;
+    for (std::int32_t i = 0; i < flights.Count(); ++i) result.RemovedCount += flights.Removed(i) ? 1 : 0;
+
+    const std::string removedPath = JoinPath(ParentFolder(path), kRemovedFlightsName);
+    // The removed flights first, so that a kill between the two files loses none of them.
+    if (result.RemovedCount > 0) result.RemovedWritten = WriteRows(files, removedPath, flights, true);
+    result.PlanWritten = WriteRows(files, path, flights, false);
+    if (result.RemovedCount == 0 && result.PlanWritten) {
+        files.DeleteFile(removedPath);
+        result.RemovedWritten = !files.FileExists(removedPath);
+    }
+    return result;
+}
+
+void BackUpOnce(FileSystem& files, const std::string& path) {
+    const std::string backupPath = Concat(path, kBackupSuffix);
+    if (!files.FileExists(backupPath) && files.FileExists(path)) files.CopyFile(path, backupPath);
+}
+
+}  // namespace orlo

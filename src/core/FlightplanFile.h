@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/FlightList.h"
+#include "core/Session.h"
+#include "services/Services.h"
+
+namespace orlo {
+
+// FlightPlans.txt: one flight a line, fields separated by ",": aircraft, tail number, percent, period, flight
+// type, then six fields a leg (departure, arrival with "@" in front when fixed, level, number mode, flight
+// number, destination). docs/flightplan-file.md tells the form.
+
+inline constexpr std::string_view kRemovedFlightsName = "Removed Flights.txt";
+
+// Appends the flight of one line; false, with nothing changed, for a comment and for a line without two
+// complete legs. Blanks around fields, an activity of 100 and long levels and flight numbers are normalised
+// here.
+bool AppendFlightplanLine(std::string_view line, FlightList& flights);
+
+// Reads session.FlightplanPath into session.Flights in one pass. A file that can't be reached gives a
+// critical message and leaves Flights empty. Progress runs from 0 to 100.
+void ReadFlightplan(Session& session, Services& services);
+
+struct PlanWriteResult {
+    bool PlanWritten = false;
+    bool RemovedWritten = false;  // also true when there was none to write and an old file is gone
+    std::int32_t RemovedCount = 0;
+
+    bool Complete() const { return PlanWritten && RemovedWritten; }
+};
+
+// Writes all flights: those with the Removed mark to "Removed Flights.txt" in the folder of `path`, which is
+// deleted when there are none, all others to `path`. With `backup` the file at `path` is copied once to its
+// name with ".orlo.bak" before. What can't be written leaves the old file whole.
+PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
+                                bool backup);
+
+// Copies `path` to its name with ".orlo.bak" unless that stands already.
+void BackUpOnce(FileSystem& files, const std::string& path);
+
+}  // namespace orlo

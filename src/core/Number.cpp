@@ -1,0 +1,112 @@
+#include "core/Number.h"
+
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+// Sign, digits and fraction of a typed number.
+struct NumberParts {
+    bool negative = false;
+    std::string_view whole;
+    std::string_view fraction;
+};
+
+std::optional<NumberParts> SplitNumber(std::string_view text) {
+    text = TrimBlanks(text);
+    NumberParts parts;
+    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+        parts.negative = text.front() == '-';
+        text.remove_prefix(1);
+    }
+    std::size_t length = 0;
+    while (length < text.size() && IsDigit(text[length])) ++length;
+    parts.whole = text.substr(0, length);
+    text.remove_prefix(length);
+    if (!text.empty()) {
+        if (text.front() != '.') return std::nullopt;
+        parts.fraction = text.substr(1);
+        for (char character : parts.fraction) {
+            if (!IsDigit(character)) return std::nullopt;
+        }
+    }
+    if (parts.whole.empty() && parts.fraction.empty()) return std::nullopt;
+    return parts;
+}
+
+// Whether the fraction rounds the whole number up, halves to even.
+bool RoundsUp(std::string_view fraction, bool wholeIsOdd) {
+    if (fraction.empty() || fraction.front() < '5') return false;
+    if (fraction.front() > '5') return true;
+    for (char digit : fraction.substr(1)) {
+        if (digit != '0') return true;
+    }
+    return wholeIsOdd;
+}
+
+}  // namespace
+
+double RoundHalfEven(double value) {
+    const double lower = std::floor(value);
+    const double rest = value - lower;
+    if (rest < 0.5) return lower;
+    if (rest > 0.5) return lower + 1;
+    return std::fmod(lower, 2.0) == 0 ? lower : lower + 1;
+}
+
+std::optional<std::int32_t> ParseWholeNumber(std::string_view text) {
+    const auto parts = SplitNumber(text);
+    if (!parts) return std::nullopt;
+    std::int64_t value = 0;
+    for (char digit : parts->whole) {
+        value = value * 10 + (digit - '0');
+        if (value > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+    }
+    if (RoundsUp(parts->fraction, value % 2 != 0)) ++value;
+    if (parts->negative) value = -value;
+    if (value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int32_t>(value);
+}
+
+std::optional<double> ParseDecimal(std::string_view text) {
+    const auto parts = SplitNumber(text);
+    if (!parts) return std::nullopt;
+    double value = 0;
+    for (char digit : parts->whole) value = value * 10 + (digit - '0');
+    double weight = 0.1;
+    for (char digit : parts->fraction) {
+        value += weight * (digit - '0');
+        weight /= 10;
+    }
+    if (!std::isfinite(value)) return std::nullopt;
+    return parts->negative ? -value : value;
+}
+
+std::string FormatDigits(std::int64_t value, int digits) {
+    const bool negative = value < 0;
+    std::string text =
+        std::to_string(negative ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value));
+    if (digits > 0 && text.size() < static_cast<std::size_t>(digits)) {
+        text.insert(0, static_cast<std::size_t>(digits) - text.size(), '0');
+    }
+    return negative ? "-" + text : text;
+}
+
+std::string FormatFixed(double value, int decimals) {
+    char buffer[400];
+    const int length = std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
+    return length > 0 ? std::string(buffer, static_cast<std::size_t>(length)) : std::string();
+}
+
+}  // namespace orlo

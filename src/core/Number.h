@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orlo {
+
+// The nearest whole number, halves to the even one.
+double RoundHalfEven(double value);
+
+// A whole number as people type it, independent of locale: blanks around, an optional sign, digits, an
+// optional fraction that is rounded with halves to even. Nothing for any other text and for values out of
+// 32-bit range.
+std::optional<std::int32_t> ParseWholeNumber(std::string_view text);
+
+// The same form as a number with its fraction kept, for places that ask for a single-precision value.
+std::optional<double> ParseDecimal(std::string_view text);
+
+// The number filled with zeros on the left to at least `digits` digits; a minus sign stands in front.
+std::string FormatDigits(std::int64_t value, int digits);
+
+// The number with exactly `decimals` digits behind the point, rounded as the C library does.
+std::string FormatFixed(double value, int decimals);
+
+}  // namespace orlo

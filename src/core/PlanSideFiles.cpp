@@ -1,0 +1,107 @@
+#include "core/PlanSideFiles.h"
+
+#include <algorithm>
+
+#include "core/Application.h"
+#include "core/FlightplanFile.h"
+#include "core/Number.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::size_t kNumberStart = 3;  // behind "AC#"
+
+// Hands each line that is no comment and has exactly `fieldCount` fields to `take`. False when the file can't
+// be opened.
+template <typename Take>
+bool ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCount, Take take) {
+    const auto file = files.OpenForReading(path);
+    if (!file) return false;
+    LineReader lines(*file);
+    while (const auto line = lines.Next()) {
+        const std::string_view text = CutComments(TrimBlanks(*line));
+        if (text.empty()) continue;
+        if (static_cast<std::size_t>(std::count(text.begin(), text.end(), ',')) + 1 != fieldCount) continue;
+        take(SplitText(text, ','));
+    }
+    return true;
+}
+
+// A quote behind a leading blank stays: the blanks go last.
+std::string TitleOf(std::string_view field) {
+    if (!field.empty() && field.front() == '"') field.remove_prefix(1);
+    if (!field.empty() && field.back() == '"') field.remove_suffix(1);
+    return std::string(TrimBlanks(field));
+}
+
+std::string BesidePlan(const Session& session, std::string_view name) {
+    return JoinPath(ParentFolder(session.FlightplanPath), name);
+}
+
+}  // namespace
+
+std::string PlanAircraftPath(const Session& session) {
+    return BesidePlan(session, "Aircraft.txt");
+}
+std::string PlanAirportsPath(const Session& session) {
+    return BesidePlan(session, "Airports.txt");
+}
+
+std::int32_t AircraftNumber(std::string_view acNumber) {
+    if (acNumber.size() <= kNumberStart) return 0;
+    return ParseWholeNumber(acNumber.substr(kNumberStart)).value_or(0);
+}
+
+void ReadPlanAircraft(Session& session, Services& services) {
+    session.PlanAircrafts.clear();
+    session.MaxACNumber = 0;
+    const bool found = ReadRecords(services.files, PlanAircraftPath(session), 3, [&](const auto& fields) {
+        PlanAircraft aircraft;
+        aircraft.ACNumber = TrimBlanks(fields[0]);
+        aircraft.CruiseSpeed = TrimBlanks(fields[1]);
+        aircraft.Title = TitleOf(fields[2]);
+        session.MaxACNumber = std::max(session.MaxACNumber, AircraftNumber(fields[0]));
+        session.PlanAircrafts.push_back(std::move(aircraft));
+    });
+    if (!found) {
+        ShowMessage(services.messages,
+                    "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder.",
+                    kMarkCritical);
+    }
+}
+
+void ReadPlanAirports(Session& session, Services& services) {
+    session.PlanAirports.clear();
+    session.PlanAirportIndex.Clear();
+    const bool found = ReadRecords(services.files, PlanAirportsPath(session), 4, [&](const auto& fields) {
+        PlanAirport airport;
+        airport.ICAO = TrimBlanks(fields[0]);
+        airport.Latitude = TrimBlanks(fields[1]);
+        airport.Longitude = TrimBlanks(fields[2]);
+        airport.Altitude = TrimBlanks(fields[3]);
+        session.PlanAirportIndex.Add(airport.ICAO, session.PlanAirportCount());
+        session.PlanAirports.push_back(std::move(airport));
+    });
+    if (!found) {
+        ShowMessage(services.messages,
+                    "File 'AIRPORTS.TXT' not found. Please copy the file to the Flightplan folder.",
+                    kMarkCritical);
+    }
+}
+
+bool WritePlanAircraft(const Session& session, FileSystem& files) {
+    const std::string path = PlanAircraftPath(session);
+    if (session.BackupPlan) BackUpOnce(files, path);
+    const auto file = files.CreateReplacing(path);
+    if (!file) return false;
+    std::string text;
+    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+        text.append(Concat(aircraft.ACNumber, ",", aircraft.CruiseSpeed, ",\"", aircraft.Title, "\"\r\n"));
+    }
+    return file->Write(text) && file->Commit();
+}
+
+}  // namespace orlo

@@ -1,0 +1,109 @@
+#include "core/TextLines.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::size_t kBufferSize = 1024 * 1024;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// Length of the line at the front of `text`; npos where its end isn't in it.
+std::size_t LineLength(std::string_view text) {
+    const std::size_t lineFeed = text.find('\n');
+    const std::size_t carriageReturn = text.substr(0, lineFeed).find('\r');
+    return carriageReturn != std::string_view::npos ? carriageReturn : lineFeed;
+}
+
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
+    return text;
+}
+
+}  // namespace
+
+LineReader::LineReader(InputFile& file) : file_(file), buffer_(kBufferSize) {}
+
+// Reads more bytes behind those not yet given out. False at the end of the file.
+bool LineReader::Fill() {
+    if (atEnd_) return false;
+    if (start_ > 0) {
+        std::memmove(buffer_.data(), buffer_.data() + start_, end_ - start_);
+        end_ -= start_;
+        start_ = 0;
+    }
+    if (end_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
+    const std::size_t read = file_.Read(std::span<char>(buffer_.data() + end_, buffer_.size() - end_));
+    end_ += read;
+    atEnd_ = read == 0;
+    return !atEnd_;
+}
+
+std::optional<std::string_view> LineReader::TakeLine(std::size_t length) {
+    std::string_view line(buffer_.data() + start_, length);
+    start_ += length;
+    if (first_) line = WithoutByteOrderMark(line);
+    first_ = false;
+    return line;
+}
+
+std::optional<std::string_view> LineReader::Next() {
+    std::size_t searched = 0;  // bytes that hold no line end
+    for (;;) {
+        if (skipLineFeed_ && start_ < end_) {
+            if (buffer_[start_] == '\n') ++start_;
+            skipLineFeed_ = false;
+        }
+        const std::string_view rest(buffer_.data() + start_, end_ - start_);
+        const std::size_t found = LineLength(rest.substr(std::min(searched, rest.size())));
+        if (found != std::string_view::npos) {
+            const std::size_t length = searched + found;
+            skipLineFeed_ = rest[length] == '\r';
+            const auto line = TakeLine(length);
+            ++start_;
+            return line;
+        }
+        searched = rest.size();
+        if (!Fill()) {
+            if (start_ == end_) return std::nullopt;
+            return TakeLine(end_ - start_);
+        }
+    }
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+    text = WithoutByteOrderMark(text);
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t length = LineLength(text);
+        lines.push_back(text.substr(0, length));
+        if (length == std::string_view::npos) break;
+        const bool pair = text.substr(length, 2) == "\r\n";
+        text.remove_prefix(length + (pair ? 2 : 1));
+    }
+    return lines;
+}
+
+std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path) {
+    const auto file = files.OpenForReading(path);
+    if (!file) return std::nullopt;
+    std::string bytes;
+    bytes.resize(file->Size());
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+        const std::size_t read = file->Read(std::span<char>(bytes.data() + length, bytes.size() - length));
+        if (read == 0) break;
+        length += read;
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+std::string_view CutComments(std::string_view line) {
+    return BeforeFirst(BeforeFirst(line, ";"), "//");
+}
+
+}  // namespace orlo

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/Control.h"
+
+namespace orlo {
+
+enum class PointerShape { Normal, Hourglass };
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+// The window's place in the units of its front end. A height of -1: no place was ever stored.
+struct WindowBox {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t width = 0;
+    std::int32_t height = -1;
+};
+
+// A window as data. Writing it by code fires nothing.
+struct Form {
+    Form(std::string_view nameOf, std::string_view captionOf);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form() = default;
+
+    const std::string name;
+    std::string caption;
+    bool enabled = true;
+    bool visible = false;
+    PointerShape pointer = PointerShape::Normal;
+    Form* owner = nullptr;
+    WindowState windowState = WindowState::Normal;
+    WindowBox box;
+    Button* defaultButton = nullptr;
+    Button* cancelButton = nullptr;
+    int frozen = 0;             // above 0 nothing is drawn
+    bool closeRequest = false;  // ends ShowModal, which clears it
+
+    Control* focus = nullptr;   // the control that has the focus
+    bool focusRequest = false;  // the front end moves the focus there and clears it
+    void SetFocus(Control& control);
+
+    // In the order of declaration.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    // By name without regard to case; null when missing.
+    Control* Find(std::string_view controlName) const;
+
+  private:
+    friend struct Control;
+    void Register(Control& control);
+
+    std::vector<Control*> controls_;
+    std::unordered_map<std::string, Control*> byName_;  // upper-cased names
+};
+
+}  // namespace orlo

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orlo {
+
+// One file open for reading from its start to its end.
+class InputFile {
+  public:
+    virtual ~InputFile() = default;
+
+    // Bytes put into the front of `buffer`; 0 at the end of the file and after a failure.
+    virtual std::size_t Read(std::span<char> buffer) = 0;
+
+    // Size in bytes when the file was opened.
+    virtual std::uint64_t Size() const = 0;
+};
+
+// One file being written whole. Nothing is seen under the file's own name before Commit: the bytes go beside
+// it and are renamed over it, or, where the folder takes no second file, into it in place. Destroying the
+// file without a Commit leaves what was there before.
+class OutputFile {
+  public:
+    virtual ~OutputFile() = default;
+
+    // False once any write failed (full disk, short write); later calls change nothing.
+    virtual bool Write(std::string_view bytes) = 0;
+
+    // True when the complete file stands under its name. False leaves the old file whole.
+    virtual bool Commit() = 0;
+};
+
+struct FolderEntry {
+    std::string name;  // without a path, as the folder spells it
+    bool isFolder = false;
+};
+
+// The file system as the program sees it. Paths are the system's bytes with its separators; every name is
+// found without regard to case when no entry is spelled exactly so. Nothing here throws: what can't be done
+// answers false, an empty result or null, and leaves the disk as it was.
+class FileSystem {
+  public:
+    virtual ~FileSystem() = default;
+
+    // The path with each existing component spelled as the disk spells it; components that don't exist stay.
+    virtual std::string Resolve(const std::string& path) = 0;
+
+    virtual bool FileExists(const std::string& path) = 0;  // a file that isn't a folder
+    virtual bool FolderExists(const std::string& path) = 0;
+    virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder
+
+    // Null when the path names no readable file.
+    virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
+
+    // A file that replaces `path` whole on Commit. Links are followed; a read-only target is refused. Null
+    // when neither a file beside it nor the file itself can be opened.
+    virtual std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) = 0;
+
+    // A file that is truncated at once and written in place: logs and the outputs of a merge. Commit closes
+    // it.
+    virtual std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) = 0;
+
+    virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole
+    virtual bool DeleteFile(const std::string& path) = 0;
+    virtual bool CreateFolders(const std::string& path) = 0;  // with its parents; true when it stands
+
+    // Entries without "." and "..", sorted by name with case folded so that a walk is repeatable. Empty when
+    // the path is no readable folder.
+    virtual std::vector<FolderEntry> ListFolder(const std::string& path) = 0;
+};
+
+}  // namespace orlo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orlo {
+
+struct Form;
+
+// What a file dialog is asked with. A filter is "Name|Pattern" pairs joined by "|".
+struct FileDialog {
+    std::string title;
+    std::string startFile;
+    std::string filter;
+    int filterIndex = 1;  // counted from 1
+    std::string startFolder;
+    bool fileMustExist = false;
+    bool pathMustExist = false;
+    bool overwritePrompt = false;
+    std::string defaultExtension;
+};
+
+// The front end as the logic sees it: windows, dialogs, timers and the processing of events.
+class WindowHost {
+  public:
+    virtual ~WindowHost() = default;
+
+    // Lets waiting events run: paints, timers and events of the topmost modal form.
+    virtual void ProcessEvents() = 0;
+
+    virtual void ShowForm(Form& form) = 0;  // not modal
+    // Blocks until the form's close request, which it takes.
+    virtual void ShowModal(Form& form, Form* owner) = 0;
+    virtual void UnloadForm(Form& form) = 0;
+
+    // One shot of `milliseconds`; firing runs the event procedure of the timer's name.
+    virtual void StartTimer(std::string_view name, int milliseconds) = 0;
+    virtual void StopTimer(std::string_view name) = 0;
+    virtual bool TimerArmed(std::string_view name) const = 0;
+
+    // Chosen path; empty on cancel.
+    virtual std::string ShowOpenDialog(const FileDialog& dialog) = 0;
+    virtual std::string ShowSaveDialog(const FileDialog& dialog) = 0;
+
+    // Nothing on cancel.
+    virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view defaultText) = 0;
+
+    // Asks for a printer and prints the text, fixed-pitch, size 10. False on cancel, and then nothing is
+    // printed.
+    virtual bool ShowPrintDialog(std::string_view title) = 0;
+    virtual void Print(std::string_view text) = 0;
+
+    // Opens a document with the system's default handler.
+    virtual bool OpenDocument(const std::string& path, const std::string& workingFolder) = 0;
+};
+
+}  // namespace orlo

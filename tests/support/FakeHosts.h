@@ -1,0 +1,123 @@
+#pragma once
+
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/Text.h"
+#include "services/Services.h"
+#include "support/MemoryFileSystem.h"
+
+namespace orlo::test {
+
+class FakeProgress : public ProgressHost {
+  public:
+    std::vector<std::string> lines;  // "text ...", "max N", "value N", "show", "close"
+    void SetText(std::string_view text) override { lines.push_back(Concat("text ", text)); }
+    void SetMax(int maximum) override { lines.push_back(Concat("max ", maximum)); }
+    void SetValue(int value) override { lines.push_back(Concat("value ", value)); }
+    void Show(Form*) override { lines.push_back("show"); }
+    void Close() override { lines.push_back("close"); }
+};
+
+class FakeMessages : public MessageHost {
+  public:
+    std::vector<std::pair<int, std::string>> shown;  // flags and text
+    std::deque<MessageAnswer> answers;               // taken in order; without one the answer is OK or No
+    MessageAnswer ShowMessage(std::string_view text, int flags, std::string_view, Form*) override {
+        shown.emplace_back(flags, text);
+        if (answers.empty()) return (flags & 7) == kButtonsOk ? MessageAnswer::Ok : MessageAnswer::No;
+        const MessageAnswer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+class FakeWindows : public WindowHost {
+  public:
+    std::deque<std::string> paths;   // answers of file dialogs; without one they are cancelled
+    std::deque<std::string> inputs;  // answers of input boxes
+    std::vector<std::string> printed;
+    std::vector<std::string> timers;
+    int eventsProcessed = 0;
+    void ProcessEvents() override { ++eventsProcessed; }
+    void ShowForm(Form&) override {}
+    void ShowModal(Form&, Form*) override {}
+    void UnloadForm(Form&) override {}
+    void StartTimer(std::string_view name, int) override { timers.emplace_back(name); }
+    void StopTimer(std::string_view name) override { std::erase(timers, std::string(name)); }
+    bool TimerArmed(std::string_view name) const override {
+        for (const std::string& timer : timers) {
+            if (timer == name) return true;
+        }
+        return false;
+    }
+    std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
+    std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
+    std::optional<std::string> InputBox(std::string_view, std::string_view, std::string_view) override {
+        if (inputs.empty()) return std::nullopt;
+        return Take(inputs);
+    }
+    bool ShowPrintDialog(std::string_view) override { return true; }
+    void Print(std::string_view text) override { printed.emplace_back(text); }
+    bool OpenDocument(const std::string&, const std::string&) override { return true; }
+
+  private:
+    static std::string Take(std::deque<std::string>& queue) {
+        if (queue.empty()) return {};
+        std::string answer = queue.front();
+        queue.pop_front();
+        return answer;
+    }
+};
+
+class FakeSettings : public SettingsStore {
+  public:
+    std::map<std::string, std::string> values;  // upper-cased "KEYPATH\NAME"
+    std::vector<std::string> written;           // names in the order of writing
+    std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override {
+        const auto found = values.find(UpperText(Concat(keyPath, "\\", name)));
+        if (found == values.end()) return std::nullopt;
+        return found->second;
+    }
+    bool Set(std::string_view keyPath, std::string_view name, std::string_view value) override {
+        values[UpperText(Concat(keyPath, "\\", name))] = value;
+        written.emplace_back(name);
+        return true;
+    }
+    bool Flush() override { return true; }
+};
+
+// Draws from a list that repeats; without one all draws are 0.5.
+class FakeRandom : public RandomSource {
+  public:
+    std::vector<double> draws;
+    std::size_t taken = 0;
+    int seedings = 0;
+    double Next() override { return draws.empty() ? 0.5 : draws[taken++ % draws.size()]; }
+    void SeedFromClock() override { ++seedings; }
+};
+
+class FakeClock : public Clock {
+  public:
+    std::int64_t now = 0;
+    std::int64_t Now() const override { return now; }
+};
+
+// All services as fakes.
+struct FakeWorld {
+    MemoryFileSystem files;
+    FakeSettings userSettings;
+    FakeSettings machineSettings;
+    FakeProgress progress;
+    FakeMessages messages;
+    FakeWindows windows;
+    FakeRandom random;
+    FakeClock clock;
+    Services services{files, userSettings, machineSettings, progress, messages, windows, random, clock};
+};
+
+}  // namespace orlo::test

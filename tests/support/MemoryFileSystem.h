@@ -1,0 +1,137 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Path.h"
+#include "core/Text.h"
+#include "services/FileSystem.h"
+
+namespace orlo::test {
+
+// A file system in memory, with case-insensitive names, that fails on demand. Folders exist by their files.
+class MemoryFileSystem : public FileSystem {
+  public:
+    std::map<std::string, std::string> files;  // full path to content
+    std::vector<std::string> folders;          // empty ones
+    int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
+    bool failCommit = false;                   // the rename at the end fails
+    bool failCreate = false;
+
+    std::string Resolve(const std::string& path) override {
+        for (const auto& [name, content] : files) {
+            if (EqualNoCase(name, path)) return name;
+        }
+        return path;
+    }
+    bool FileExists(const std::string& path) override { return files.contains(Resolve(path)); }
+    bool FolderExists(const std::string& path) override {
+        const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");
+        for (const std::string& name : folders) {
+            if (StartsWithNoCase(JoinPath(name, ""), folder)) return true;
+        }
+        for (const auto& [name, content] : files) {
+            if (StartsWithNoCase(name, folder)) return true;
+        }
+        return false;
+    }
+    std::optional<std::uint64_t> FileSize(const std::string& path) override {
+        const auto found = files.find(Resolve(path));
+        if (found == files.end()) return std::nullopt;
+        return found->second.size();
+    }
+    std::unique_ptr<InputFile> OpenForReading(const std::string& path) override {
+        const auto found = files.find(Resolve(path));
+        if (found == files.end()) return nullptr;
+        return std::make_unique<Reader>(found->second);
+    }
+    std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) override {
+        if (failCreate) return nullptr;
+        return std::make_unique<Writer>(*this, Resolve(path), false);
+    }
+    std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) override {
+        if (failCreate) return nullptr;
+        return std::make_unique<Writer>(*this, Resolve(path), true);
+    }
+    bool CopyFile(const std::string& from, const std::string& to) override {
+        if (!FileExists(from) || failCreate) return false;
+        const std::string content = files[Resolve(from)];
+        files[Resolve(to)] = content;
+        return true;
+    }
+    bool DeleteFile(const std::string& path) override { return files.erase(Resolve(path)) > 0; }
+    bool CreateFolders(const std::string& path) override {
+        folders.push_back(path);
+        return true;
+    }
+    std::vector<FolderEntry> ListFolder(const std::string& path) override {
+        const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");
+        std::map<std::string, FolderEntry> entries;  // by folded name
+        const auto add = [&](std::string_view full, bool isFile) {
+            if (!StartsWithNoCase(full, folder) || full.size() == folder.size()) return;
+            const std::string_view rest = full.substr(folder.size());
+            const std::string_view name = rest.substr(0, rest.find(kPathSeparator));
+            const bool isFolder = !isFile || name.size() < rest.size();
+            entries.try_emplace(UpperText(name), FolderEntry{std::string(name), isFolder});
+        };
+        for (const auto& [name, content] : files) add(name, true);
+        for (const std::string& name : folders) add(name, false);
+        std::vector<FolderEntry> list;
+        for (auto& [key, entry] : entries) list.push_back(std::move(entry));
+        return list;
+    }
+
+  private:
+    class Reader : public InputFile {
+      public:
+        explicit Reader(std::string content) : content_(std::move(content)) {}
+        std::size_t Read(std::span<char> buffer) override {
+            const std::size_t count = content_.copy(buffer.data(), buffer.size(), at_);
+            at_ += count;
+            return count;
+        }
+        std::uint64_t Size() const override { return content_.size(); }
+
+      private:
+        std::string content_;
+        std::size_t at_ = 0;
+    };
+
+    class Writer : public OutputFile {
+      public:
+        Writer(MemoryFileSystem& owner, std::string path, bool inPlace)
+            : owner_(owner), path_(std::move(path)), inPlace_(inPlace) {
+            if (inPlace_) owner_.files[path_].clear();
+        }
+        bool Write(std::string_view bytes) override {
+            if (owner_.failAfterBytes >= 0 &&
+                content_.size() + bytes.size() > static_cast<std::size_t>(owner_.failAfterBytes)) {
+                failed_ = true;
+            }
+            if (failed_) return false;
+            content_.append(bytes);
+            if (inPlace_) owner_.files[path_] = content_;
+            return true;
+        }
+        bool Commit() override {
+            if (failed_ || owner_.failCommit) return false;
+            owner_.files[path_] = content_;
+            return true;
+        }
+
+      private:
+        MemoryFileSystem& owner_;
+        std::string path_;
+        bool inPlace_;
+        std::string content_;
+        bool failed_ = false;
+    };
+
+    friend class Writer;
+};
+
+}  // namespace orlo::test
