@@ -119,12 +119,9 @@ Section SectionOf(const Variant& variant, const Fleet& fleet, std::size_t number
     Section section;
     section.Title = variant.Title;
     if (number > 0) section.Texture = std::to_string(number);
-    if (number % 5 == 4) section.Model = "b";
-    section.Variation = "Private";
-    if (variant.AirlineIndex >= 0) {
-        section.Airline = AirlineOf(fleet, variant).Name;
-        section.Variation = section.Airline;
-    }
+    if (number % 5 == 4) section.Model.push_back('b');
+    if (variant.AirlineIndex >= 0) section.Airline = AirlineOf(fleet, variant).Name;
+    section.Variation = variant.AirlineIndex >= 0 ? section.Airline : std::string("Private");
     return section;
 }
 
