@@ -27,10 +27,12 @@ std::vector<std::int32_t> SurfacesByAircraft(const std::vector<FSAircraft>& fsAi
     return surfaces;
 }
 
-// Whether an airline has more of the set's flights, in whole percent, than planned.
+// Whether an airline has more of the set's flights, in whole percent, than planned. A planned percent can be
+// negative, as read.
 bool IsOverShare(const AirlineEntry& entry, std::int32_t setFlights) {
+    if (setFlights == 0) return entry.PlannedPercent < 0;
     const std::int64_t achieved = static_cast<std::int64_t>(entry.Flights) * 100;
-    return setFlights > 0 && achieved >= (static_cast<std::int64_t>(entry.PlannedPercent) + 1) * setFlights;
+    return achieved >= (static_cast<std::int64_t>(entry.PlannedPercent) + 1) * setFlights;
 }
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace orlo {
 namespace {
 
 constexpr std::size_t kPieceSize = 64 * 1024;
+constexpr std::string_view kNoAirline = "No Airline";
 constexpr std::string_view kRule =
     ";---------------------------------------------------------------------------------";
 constexpr std::string_view kTitle =
@@ -111,7 +112,8 @@ void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightpl
 
 void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
     if (!log.IsOpen()) return;
-    const std::string_view airline = aircraft.Airline.empty() ? "No Airline" : aircraft.Airline;
+    const std::string_view airline =
+        aircraft.Airline.empty() ? kNoAirline : std::string_view(aircraft.Airline);
     log.Line(Concat(airline, "/", aircraft.Title, "/", ClassWord(aircraft.Class), "/",
                     aircraft.UIManufacturer, "/", aircraft.UIType));
 }

@@ -171,7 +171,8 @@ bool ShuffleRun::TrySet(std::int32_t set) {
     }
     ++airlines.Flights;
     WriteTailNumber(airlines.TailPatterns);
-    LogAssignedFlight(log_, flight_, limits_, set == kGlobalSet ? "Global" : airlines.Name);
+    const std::string_view location = airlines.Name;
+    LogAssignedFlight(log_, flight_, limits_, set == kGlobalSet ? "Global" : location);
     return true;
 }
 
