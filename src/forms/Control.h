@@ -51,6 +51,7 @@ struct Control {
     Colour colour = Colour::WindowText;
     std::string tag;
     std::string toolTip;
+    std::string accessibleName;  // what a reader of the screen says where no caption or label tells enough
 
     // Children of a disabled or hidden container are disabled or hidden with it.
     bool EffectivelyEnabled() const;
