@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "console/ScriptRunner.h"
+#include "console/ScriptText.h"
 #include "core/Number.h"
 #include "core/Text.h"
 
