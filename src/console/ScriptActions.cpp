@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "console/ControlPrinting.h"
 #include "console/ScriptRunner.h"
 #include "console/ScriptText.h"
 #include "core/Number.h"
