@@ -27,7 +27,7 @@ enum class ControlKind {
 };
 
 // Colours of texts, where one means something.
-enum class Colour { WindowText, Black, Red, Blue, Gray };
+enum class Colour : std::uint8_t { WindowText, Black, Red, Blue, Gray };
 
 // "text", "black", "red", "blue" or "gray".
 std::string_view ColourWord(Colour colour);
