@@ -15,6 +15,11 @@ inline constexpr std::string_view kCompany = "Brantel Data Service";
 inline constexpr std::string_view kProduct = "Orlo";
 inline constexpr std::string_view kSettingsVersion = "1.0";
 
+// Where the machine-wide settings tell the simulator's folder.
+inline constexpr std::string_view kSimulatorKeyPath =
+    "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0";
+inline constexpr std::string_view kSimulatorValue = "EXE Path";
+
 // "SOFTWARE\company\application\version\section"; an empty company or section leaves its part out.
 std::string SettingsKeyPath(std::string_view company, std::string_view application, std::string_view version,
                             std::string_view section);

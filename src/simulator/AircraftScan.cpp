@@ -4,6 +4,7 @@
 #include "core/KeyedIndex.h"
 #include "core/Number.h"
 #include "core/Path.h"
+#include "core/Settings.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "simulator/AircraftClassLookup.h"
@@ -145,7 +146,7 @@ class FolderReader {
 
 std::string GetSimulatorPath(SettingsStore& machineSettings) {
     return std::string(
-        TrimBlanks(machineSettings.Get(kSimulatorKeyPath, kSimulatorPathName).value_or(std::string())));
+        TrimBlanks(machineSettings.Get(kSimulatorKeyPath, kSimulatorValue).value_or(std::string())));
 }
 
 bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {

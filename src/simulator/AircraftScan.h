@@ -9,11 +9,6 @@
 
 namespace orlo {
 
-// Where the machine-wide settings tell the simulator's folder.
-inline constexpr std::string_view kSimulatorKeyPath =
-    "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0";
-inline constexpr std::string_view kSimulatorPathName = "EXE Path";
-
 // The simulator's folder, trimmed; empty when it is not known.
 std::string GetSimulatorPath(SettingsStore& machineSettings);
 

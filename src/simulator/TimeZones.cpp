@@ -1,5 +1,7 @@
 #include "simulator/TimeZones.h"
 
+#include <array>
+
 #include <cmath>
 #include <cstdint>
 #include <optional>

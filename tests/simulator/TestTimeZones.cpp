@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "core/TimeZoneNames.h"
 #include "simulator/TimeZones.h"
 #include "support/CaseTable.h"
 
@@ -58,7 +59,7 @@ TEST(TimeZones, UnusualTextsShiftByWhatCanBeRead) {
 TEST(TimeZones, EveryZoneComesBackWithItsWeekday) {
     constexpr std::array<std::string_view, 7> kLabels = {
         " (Sunday)", " (Monday)", " (Tuesday)", " (Wednesday)", " (Thursday)", " (Friday)", " (Saturday)"};
-    for (std::string_view zone : kTimeZones) {
+    for (std::string_view zone : kTimeZoneNames) {
         for (std::string_view time : {"00:00:01", "05:59:00", "11:30:30", "17:00:00", "23:59:59"}) {
             for (std::string_view label : kLabels) {
                 std::string shown(label);

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "core/Settings.h"
 #include "platform/common/TextSettingsStore.h"
 #include "services/FileSystem.h"
 #include "services/SettingsStore.h"
@@ -11,9 +12,6 @@
 namespace orlo {
 
 inline constexpr std::string_view kMachineSettingsPath = "/etc/orlo/machine.txt";
-inline constexpr std::string_view kSimulatorKeyPath =
-    "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0";
-inline constexpr std::string_view kSimulatorValue = "EXE Path";
 
 // The machine-wide settings. A value comes from the first place that has it: a simulator's folder that was
 // given, the machine file (text form of TextSettingsStore), the registry of the user's Wine prefix. Paths
