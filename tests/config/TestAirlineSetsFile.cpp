@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+#include "config/AirlineSetsFile.h"
+#include "core/Text.h"
+#include "support/FakeHosts.h"
+
+namespace orlo::test {
+namespace {
+
+using Messages = std::vector<std::pair<int, std::string>>;
+
+// The set as a line: name, patterns, airlines with their shares.
+std::string Told(const AirlineSet& set) {
+    std::string text = Concat(set.Name, '|', set.TailPatterns);
+    for (const AirlineEntry& airline : set.Airlines) text += Concat('|', airline.Name, '=', airline.Percent);
+    return text;
+}
+
+std::vector<std::string> Told(const std::vector<AirlineSet>& sets) {
+    std::vector<std::string> texts;
+    for (const AirlineSet& set : sets) texts.push_back(Told(set));
+    return texts;
+}
+
+TEST(AirlineSetsFile, EachHeadFillsItsListInFileOrder) {
+    const AirlineSets sets = ParseAirlines(
+        "OUTSIDE,1\n#out\n"
+        "[airport: lowi ] remark\nA\n"
+        "[STATE:North America/United States/Alaska]\nB\n"
+        "[City:Europe/\xD6sterreich/Graz]\nC\n"
+        "[Country:Europe/Austria]\nD\n"
+        "[Region:Europe]\nE\n"
+        "[Region:Asia]\nF\n"
+        "[GlobalAirlines]\nG\n"
+        "[Region:Europe]\nH\n"
+        "[global]\nI\n");
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(Told(sets.Airports), Texts{"lowi||A=-1"});
+    EXPECT_EQ(Told(sets.States), Texts{"North America/United States/Alaska||B=-1"});
+    EXPECT_EQ(Told(sets.Cities), Texts{"Europe/\xD6sterreich/Graz||C=-1"});
+    EXPECT_EQ(Told(sets.Countries), Texts{"Europe/Austria||D=-1"});
+    EXPECT_EQ(Told(sets.Regions), (Texts{"Europe||E=-1", "Asia||F=-1", "Europe||H=-1"}));
+    EXPECT_EQ(Told(sets.Global), "||G=-1|I=-1");
+}
+
+TEST(AirlineSetsFile, AHeadThatOpensNoSetDropsItsLines) {
+    for (const char* head : {"[Region:]", "[Airport:  ]", "[Continent:Europe]", "[ Region:Europe]",
+                             "[Region]", "[]", "[Region:Europe", "[Region ]:Europe"}) {
+        const AirlineSets sets = ParseAirlines(Concat("[Global]\r\nA\r\n", head, "\r\nB,5\r\n#N!!\r\n"));
+        EXPECT_EQ(Told(sets.Global), "||A=-1") << head;
+        EXPECT_TRUE(sets.Regions.empty() && sets.Airports.empty()) << head;
+    }
+}
+
+TEST(AirlineSetsFile, BodyLinesAreAirlinesPatternsOrSkipped) {
+    struct Case {
+        std::string_view line;
+        std::string_view expected;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {"", "|"},
+             {"   ", "|"},
+             {";KLM,5", "|"},
+             {"KLM", "||KLM=-1"},
+             {"KLM,", "||KLM=-1"},
+             {"KLM,many", "||KLM=-1"},
+             {"KLM,5%", "||KLM=-1"},
+             {"KLM, 40 ,x", "||KLM=40"},
+             {"KLM,0", "||KLM=0"},
+             {"KLM,100", "||KLM=100"},
+             {"KLM,150", "||KLM=100"},
+             {"KLM,-5", "||KLM=-5"},
+             {"KLM,12.5", "||KLM=12"},
+             {"KLM,13.5", "||KLM=14"},
+             {"KLM,99999999999", "||KLM=-1"},
+             {"  KLM (Royal), 5", "||KLM =5"},
+             {"KLM ; Royal,5", "||KLM =5"},
+             {"KLM;(Royal);,5", "||KLM=5"},
+             {"KLM(Royal;,5", "||KLM=5"},
+             {"(KLM),5", "||=5"},
+             {"#n!!-.\xE9", "|N!!-.\xC9"},
+             {"#N!!\n#d-..", "|N!!,D-.."},
+             {"# n ", "| N "},
+             {" #N", "||#N=-1"},
+         }) {
+        EXPECT_EQ(Told(ParseAirlines(Concat("[Global]\n", c.line)).Global), c.expected) << c.line;
+    }
+}
+
+TEST(AirlineSetsFile, AReadReplacesTheSetsAndAMissingFileLeavesThem) {
+    FakeWorld world;
+    Session session;
+    session.ProgramFolder = "/orlo";
+    session.Airlines = ParseAirlines("[Global]\nOLD\n[Region:Old]\n");
+    world.files.files["/orlo/Orlo_al.cfg"] = "[Region:New]\r\nNEW,7\r\n";
+    EXPECT_TRUE(ReadAirlines(session, world.files, world.messages));
+    world.files.files.clear();
+    EXPECT_FALSE(ReadAirlines(session, world.files, world.messages));
+    EXPECT_EQ(Told(session.Airlines.Global), "|");
+    EXPECT_EQ(Told(session.Airlines.Regions), std::vector<std::string>{"New||NEW=7"});
+    EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, "File 'ORLO_AL.CFG' not found."}}));
+}
+
+}  // namespace
+}  // namespace orlo::test
