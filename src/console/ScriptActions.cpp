@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "console/ControlPrinting.h"
 #include "console/ScriptRunner.h"
+#include "console/ScriptText.h"
 #include "core/Number.h"
 #include "core/Text.h"
 

@@ -19,9 +19,10 @@ enum class EventKind {
     ClickColumn,  // list; `value` is the column
     KeyUp,        // on the focused control; `value` is the key
     Popup,        // right mouse button on a list or tree; the procedure names the menu
-    Hover,        // the pointer rests on a control, `value` is the tree's node or -1; the procedure sets its tool tip
-    Timer,        // `control` is null, `name` tells the timer
-    Close,        // the close box; `control` is null; may be refused
+    Hover,  // the pointer rests on a control, `value` is the tree's node or -1; the procedure sets its tool
+            // tip
+    Timer,  // `control` is null, `name` tells the timer
+    Close,  // the close box; `control` is null; may be refused
 };
 
 enum EventKey : std::int32_t { kKeyEnter = 13, kKeyEscape = 27, kKeyInsert = 45, kKeyDelete = 46 };
@@ -32,9 +33,9 @@ struct Event {
     Control* control = nullptr;
     EventKind kind = EventKind::Click;
     std::int32_t value = 0;
-    std::string_view name;  // of a timer
-    bool refused = false;   // set by a procedure that refuses a Leave or a Close
-    MenuEntry* menu = nullptr;  // set by the procedure of a Popup
+    std::string_view name = {};  // of a timer
+    bool refused = false;        // set by a procedure that refuses a Leave or a Close
+    MenuEntry* menu = nullptr;   // set by the procedure of a Popup
 };
 
 struct Context;

@@ -52,7 +52,9 @@ void ListView::Reserve(std::int32_t rows) {
 }
 
 std::int32_t ListView::Add(const ListRow& row) {
-    if (!row.key.empty() && FindKey(row.key) >= 0) return -1;
+    const auto place = static_cast<std::int32_t>(slots_.size());
+    if (!row.key.empty() && !keys_.Add(row.key, place, [this](std::int32_t at) { return Key(at); }))
+        return -1;
     scratch_.clear();
     AppendField(scratch_, row.key);
     AppendField(scratch_, row.tag);
@@ -60,14 +62,12 @@ std::int32_t ListView::Add(const ListRow& row) {
     const std::size_t textCount = std::min(row.texts.size(), columns.size());
     for (std::size_t i = 0; i < textCount; ++i) AppendField(scratch_, row.texts[i]);
 
-    const auto place = static_cast<std::int32_t>(slots_.size());
     std::size_t position = order_.size();
     if (sorted)
         position = SortedPosition(FieldAt(scratch_, kFirstText + static_cast<std::size_t>(sortColumn)));
     slots_.push_back({pages_.Add(scratch_), static_cast<std::uint32_t>(scratch_.size()), row.colour, false});
     liveBytes_ += scratch_.size();
     order_.insert(order_.begin() + static_cast<std::ptrdiff_t>(position), place);
-    if (!row.key.empty()) keys_.Add(place, [this](std::int32_t at) { return Key(at); });
     if (order_.size() == 1) {
         current = place;
         Select(place, true);
@@ -144,7 +144,7 @@ bool ListView::SetKey(std::int32_t place, std::string_view key) {
     const auto keyOf = [this](std::int32_t at) { return Key(at); };
     keys_.Remove(Key(place), keyOf);
     SetField(place, kKeyField, key);
-    if (!key.empty()) keys_.Add(place, keyOf);
+    if (!Key(place).empty()) keys_.Add(Key(place), place, keyOf);
     return true;
 }
 

@@ -92,7 +92,7 @@ void MarkMoveTree(TreeView& tree, const Session& session) {
         if (leaf < 0) continue;
         TreeNode& node = tree.At(leaf);
         node.colour = Colour::Black;
-        if (node.tag.empty()) node.tag = ",";
+        if (node.tag.empty()) node.tag.push_back(',');
         node.tag.append(aircraft.ACNumber).append(",");
     }
     ++tree.stateRevision;

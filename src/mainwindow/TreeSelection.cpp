@@ -107,6 +107,7 @@ void HandleNodeCheck(MainForm& form, const Session& session, TreeView& tree, std
 // ancestors follow once, from below; a child always stands behind its parent in tree order.
 void CheckNodes(MainForm& form, const Session& session, TreeView& tree, std::span<const std::int32_t> nodes) {
     if (nodes.empty()) return;
+    ++tree.stateRevision;
     if (form.HandlingNodeCheck) {
         for (const std::int32_t node : nodes) tree.At(node).checked = true;
         return;
@@ -115,7 +116,6 @@ void CheckNodes(MainForm& form, const Session& session, TreeView& tree, std::spa
     for (std::int32_t group = tree.Count() - 1; group >= 0; --group) {
         if (ancestors[static_cast<std::size_t>(group)]) FollowChildren(tree, group);
     }
-    ++tree.stateRevision;
     if (IsShuffleTree(form, tree) && session.PlanLoaded) RefreshShuffleLabel(form);
 }
 

@@ -1,6 +1,5 @@
 #include <array>
 
-#include "mainwindow/AircraftTrees.h"
 #include "mainwindow/SavePlan.h"
 #include "shell/EventTables.h"
 #include "shell/MenuSwitches.h"
@@ -57,6 +56,11 @@ constexpr std::array kMainEvents = {
     EventEntry{"cmMoveView", Change, Run<OnMoveView>},
     EventEntry{"tvShuffleAircraft", CheckNode, OnNodeCheck},
     EventEntry{"tvMoveAircrafts", CheckNode, OnNodeCheck},
+    EventEntry{"tvShuffleAircraft", Hover, OnTreeHover},
+    EventEntry{"tvMoveAircrafts", Hover, OnTreeHover},
+    EventEntry{"tvShuffleAircraft", Popup, OnSelectPopup},
+    EventEntry{"tvMoveAircrafts", Popup, OnSelectPopup},
+    EventEntry{"lvExPreview", Popup, OnSelectPopup},
     EventEntry{"mnuSelectAll", Click, Run<OnSelectAll>},
     EventEntry{"mnuDeselectAll", Click, Run<OnDeselectAll>},
     EventEntry{"mnuInverseSelection", Click, Run<OnInverseSelection>},

@@ -10,6 +10,7 @@
 #include "mainwindow/PlanViews.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/SavePlan.h"
+#include "mainwindow/TreeSelection.h"
 #include "shell/Tabs.h"
 #include "simulator/AircraftScan.h"
 

@@ -11,7 +11,8 @@ namespace orlo {
 
 // The running program: what it holds, and the pump that runs it. One lives as long as the main window.
 struct Program {
-    // The services outlive the program. `programFolder` holds the rule files and takes what the program writes.
+    // The services outlive the program. `programFolder` holds the rule files and takes what the program
+    // writes.
     Program(Services& services, std::string programFolder);
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

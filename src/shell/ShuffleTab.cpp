@@ -6,6 +6,7 @@
 #include "mainwindow/AircraftTrees.h"
 #include "mainwindow/BulkOperation.h"
 #include "mainwindow/PlanViews.h"
+#include "mainwindow/TreeSelection.h"
 #include "shuffler/BuildAircraftList.h"
 #include "shuffler/ShuffleEngine.h"
 

@@ -8,6 +8,8 @@ namespace orlo {
 void OnShufflerView(Context& context);
 void OnMoveView(Context& context);
 void OnNodeCheck(Context& context, Event& event);
+void OnTreeHover(Context& context, Event& event);
+void OnSelectPopup(Context& context, Event& event);
 
 // The commands of the pop-up menu: on lvExPreview if it has the focus, otherwise on the tree that has it.
 void OnSelectAll(Context& context);

@@ -72,6 +72,7 @@ ShuffleRun::Decision ShuffleRun::Decide(const FlightView& row) {
     FindAirports();
     if (!FindLimits()) return Decision::LevelIsNoNumber;
     FindNeeds();
+    candidates_.TestProfiles(limits_, needs_);
     tailPatterns_ = {};
     return SearchAircraft();
 }
@@ -188,7 +189,7 @@ bool ShuffleRun::TryNoAirline() {
 }
 
 bool ShuffleRun::AssignAircraft(std::int32_t set, std::int32_t setFlights) {
-    std::span<std::int32_t> rows = candidates_.FindFitting(set, limits_, needs_);
+    std::span<std::int32_t> rows = candidates_.FindFitting(set);
     if (rows.empty()) return false;
     std::size_t chosen = 0;
     if (rows.size() > 1) {

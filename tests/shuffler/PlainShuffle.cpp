@@ -330,7 +330,7 @@ class PlainShuffle {
     void ApplyLevelsAndTimes(Flight& flight, const FSAircraft& aircraft) {
         std::vector<std::size_t> order;
         for (std::size_t i = 1; i < flight.Legs.size(); ++i) order.push_back(i);
-        order.push_back(0);
+        if (!flight.Legs.empty()) order.push_back(0);
         for (std::size_t i : order) {
             if (!session_.CheckFL) break;
             const std::string_view from = From(flight, i), to = flight.Legs[i].Destination;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <random>
 #include <string>
 #include <string_view>
@@ -34,7 +33,7 @@ struct Share {
     std::int32_t percent = -1;
 };
 
-inline AirlineSet MakeSet(std::string_view name, std::initializer_list<Share> shares,
+inline AirlineSet MakeSet(std::string_view name, const std::vector<Share>& shares,
                           std::string_view patterns = "") {
     AirlineSet set;
     set.Name = name;
@@ -113,7 +112,7 @@ struct ShuffleWorld {
     }
 
     // A flight that ends its legs at `codes`, all at one level, departing an hour apart.
-    void AddFlight(std::initializer_list<std::string_view> codes, std::string_view level = "200",
+    void AddFlight(const std::vector<std::string_view>& codes, std::string_view level = "200",
                    std::string_view type = "IFR") {
         Flight flight{"AC#99", "OLD", "50%", "24Hr", std::string(type), {}, false};
         for (std::string_view code : codes) {

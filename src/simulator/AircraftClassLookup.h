@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/AircraftRecords.h"
+
+namespace orlo {
+
+// The class entry that an aircraft's model or type falls under.
+struct ClassMatch {
+    std::int32_t Class = kClassNone;
+    const ClassEntry* Entry = nullptr;  // in the lists; null with kClassNone
+};
+
+// The first entry, by class and then by its place in the list, whose ID is part of the text without regard to
+// case. An entry without an ID matches nothing.
+ClassMatch GetAircraftClass(const ClassLists& lists, std::string_view text);
+
+// Sets the aircraft's class and the values that hang on it: from the entry, or from the profile of the class
+// when the entry leaves levels and ranges unset. Without a class, and in Not Used, the limits are unset and
+// the cruise speed is the file's, which therefore stands in the aircraft already.
+void ApplyAircraftClass(FSAircraft& aircraft, const ClassMatch& match, const ClassLists& lists);
+
+}  // namespace orlo

@@ -1,0 +1,87 @@
+#include "simulator/AircraftFiles.h"
+
+#include <optional>
+#include <unordered_set>
+#include <utility>
+
+#include "core/KeyedIndex.h"
+#include "core/Path.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+using NameSet = std::unordered_set<std::string, NoCaseHash, NoCaseEqual>;
+
+// The variants of one aircraft.cfg stand together and ask for the same folder, so it is listed once for all
+// of them.
+class AircraftFolder {
+  public:
+    AircraftFolder(FileSystem& files, std::string path) : files_(files), path_(std::move(path)) {
+        for (const FolderEntry& entry : files.ListFolder(path_)) {
+            (entry.isFolder ? folderNames_ : fileNames_).insert(entry.name);
+        }
+    }
+
+    const std::string& Path() const { return path_; }
+    bool HasFile(const std::string& name) const {
+        return fileNames_.contains(name) || (IsPath(name) && files_.FileExists(JoinPath(path_, name)));
+    }
+    bool HasFolder(const std::string& name) const {
+        return folderNames_.contains(name) || (IsPath(name) && files_.FolderExists(JoinPath(path_, name)));
+    }
+
+  private:
+    static bool IsPath(std::string_view name) { return name.find(kPathSeparator) != std::string_view::npos; }
+
+    FileSystem& files_;
+    std::string path_;
+    NameSet folderNames_;
+    NameSet fileNames_;
+};
+
+std::string FindProblem(const FSAircraft& aircraft, const AircraftFolder& folder, FileSystem& files) {
+    std::string problem;
+    const auto add = [&problem](std::string_view text) {
+        if (!problem.empty()) problem.append(" | ");
+        problem.append(text);
+    };
+    if (!folder.HasFolder(PartName("Texture", aircraft.Texture))) add("Texture folder not found");
+    if (aircraft.ModelFile.empty()) {
+        add("No model defined");
+    } else if (!files.FileExists(aircraft.ModelFile)) {
+        add("Model folder not found");
+    }
+    const std::string sim = NativePath(aircraft.Sim);
+    if (sim.empty()) {
+        add("No AIR file defined");
+    } else if (!folder.HasFile(Concat(sim, ".air")) && !folder.HasFile(sim)) {
+        add("AIR file not found");
+    }
+    return problem;
+}
+
+}  // namespace
+
+std::string ConfigText(std::string_view value) {
+    value = BeforeFirst(value, ";");
+    const std::size_t first = value.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return std::string(value.substr(first, value.find_last_not_of(" \t") - first + 1));
+}
+
+std::string PartName(std::string_view part, std::string_view name) {
+    return name.empty() ? std::string(part) : Concat(part, '.', NativePath(name));
+}
+
+void CheckAircraftFiles(Session& session, FileSystem& files) {
+    std::optional<AircraftFolder> folder;
+    for (FSAircraft& aircraft : session.FSAircrafts) {
+        const std::string path = ParentFolder(aircraft.ConfigFile);
+        if (!folder || folder->Path() != path) folder.emplace(files, path);
+        aircraft.Problem = FindProblem(aircraft, *folder, files);
+        if (!aircraft.Problem.empty()) session.FSAircraftProblems = true;
+    }
+}
+
+}  // namespace orlo

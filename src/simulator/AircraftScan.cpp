@@ -1,0 +1,175 @@
+#include "simulator/AircraftScan.h"
+
+#include "core/InitialisationFile.h"
+#include "core/KeyedIndex.h"
+#include "core/Number.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+#include "simulator/AircraftClassLookup.h"
+#include "simulator/AircraftFiles.h"
+#include "simulator/ModelRadius.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::string_view kVariantSection = "FLTSIM";
+
+// A file whose many sections of one name all take the same long texts is read no further than this many times
+// its size; true files repeat little.
+constexpr std::size_t kMostRepeats = 64;
+constexpr std::size_t kFreeRepeats = 1024 * 1024;  // bytes
+
+// Sections by name. Of two with one name the first is read for both.
+class ConfigFile {
+  public:
+    explicit ConfigFile(const InitialisationFile& file) {
+        for (const InitialisationSection& section : file.sections) sections_.Add(section.name, &section);
+    }
+    // Bytes of all names and values of a section.
+    std::size_t Size(std::string_view section) const {
+        const auto* found = sections_.Find(section);
+        std::size_t size = 0;
+        if (found == nullptr) return size;
+        for (const auto& [key, value] : (*found)->values) size += key.size() + value.size();
+        return size;
+    }
+    std::string Text(std::string_view section, std::string_view key) const {
+        const auto* found = sections_.Find(section);
+        return found != nullptr ? ConfigText((*found)->Value(key)) : std::string();
+    }
+    bool Boolean(std::string_view section, std::string_view key) const {
+        const std::string text = Text(section, key);
+        return ParseWholeNumber(text).value_or(0) != 0 || EqualNoCase(text, "True");
+    }
+
+  private:
+    KeyedIndex<const InitialisationSection*> sections_;
+};
+
+// What all variants of an aircraft.cfg share. Models and classes are looked up once for each name.
+class FolderReader {
+  public:
+    FolderReader(Session& session, FileSystem& files, const std::string& folder,
+                 const InitialisationFile& file)
+        : session_(session), files_(files), folder_(folder), config_(file) {
+        common_.ConfigFile = JoinPath(folder, "aircraft.cfg");
+        common_.ATCModel = config_.Text("General", "atc_model");
+        common_.ATCType = config_.Text("General", "atc_type");
+        common_.Performance = config_.Text("General", "Performance");
+        const std::string speed = config_.Text("Reference Speeds", "cruise_speed");
+        common_.FileCruiseSpeed = ParseWholeNumber(BeforeFirst(speed, ".")).value_or(-1);
+    }
+
+    // Bytes of the texts behind all variants so far.
+    std::size_t TakenSize() const { return taken_; }
+
+    void ReadVariant(const std::string& section, bool detailed) {
+        taken_ += config_.Size(section) + common_.Performance.size();
+        const std::string title = config_.Text(section, "title");
+        if (title.empty()) return;
+        FSAircraft aircraft = common_;
+        aircraft.Title = title;
+        aircraft.Section = section;
+        aircraft.UIManufacturer = config_.Text(section, "ui_manufacturer");
+        aircraft.UIType = config_.Text(section, "ui_type");
+        aircraft.UIVariation = config_.Text(section, "ui_variation");
+        aircraft.Airline = config_.Text(section, "atc_airline");
+        aircraft.Texture = config_.Text(section, "texture");
+        if (detailed) ReadDetails(section, aircraft);
+        ReadModelAndType(section, aircraft);
+        ApplyAircraftClass(aircraft, FindClass(aircraft), session_.Classes);
+        const ModelRadius& model = FindModel(config_.Text(section, "model"));
+        aircraft.ModelFile = model.Path;
+        aircraft.ModelFormat = model.Format;
+        aircraft.Radius = model.Radius;
+        session_.FSAircrafts.push_back(std::move(aircraft));
+    }
+
+  private:
+    void ReadDetails(const std::string& section, FSAircraft& aircraft) {
+        aircraft.Sim = config_.Text(section, "sim");
+        aircraft.Model = config_.Text(section, "model");
+        aircraft.Panel = config_.Text(section, "panel");
+        aircraft.Sound = config_.Text(section, "sound");
+        aircraft.KbChecklists = config_.Text(section, "kb_checklists");
+        aircraft.KbReference = config_.Text(section, "kb_reference");
+        aircraft.ATCID = config_.Text(section, "atc_id");
+        aircraft.ATCFlightNumber = config_.Text(section, "atc_flight_number");
+        aircraft.VisualDamage = config_.Boolean(section, "visual_damage");
+        aircraft.Description = config_.Text(section, "description");
+        aircraft.ATCHeavy = config_.Boolean(section, "atc_heavy");
+    }
+
+    // A file without a model of its own tells model and type by section.
+    void ReadModelAndType(const std::string& section, FSAircraft& aircraft) {
+        const bool modelBySection = aircraft.ATCModel.empty();
+        if (modelBySection) aircraft.ATCModel = config_.Text(section, "atc_model");
+        if (modelBySection || aircraft.ATCType.empty()) {
+            std::string type = config_.Text(section, "atc_type");
+            if (!type.empty()) aircraft.ATCType = std::move(type);
+        }
+    }
+
+    // By the file's own model or type, and where that tells nothing by the section's.
+    ClassMatch FindClass(const FSAircraft& aircraft) {
+        const ClassMatch ofFile = LookUpClass(common_);
+        return ofFile.Class != kClassNone ? ofFile : LookUpClass(aircraft);
+    }
+
+    ClassMatch LookUpClass(const FSAircraft& aircraft) {
+        const std::string& text = aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel;
+        if (text.empty()) return {};
+        if (const ClassMatch* known = classes_.Find(text)) return *known;
+        const ClassMatch match = GetAircraftClass(session_.Classes, text);
+        classes_.Add(text, match);
+        return match;
+    }
+
+    const ModelRadius& FindModel(const std::string& name) {
+        if (!models_.Contains(name)) models_.Add(name, ReadModelRadius(files_, folder_, name));
+        return *models_.Find(name);
+    }
+
+    Session& session_;
+    FileSystem& files_;
+    const std::string& folder_;
+    ConfigFile config_;
+    FSAircraft common_;
+    std::size_t taken_ = 0;
+    KeyedIndex<ClassMatch> classes_;
+    KeyedIndex<ModelRadius> models_;
+};
+
+}  // namespace
+
+std::string GetSimulatorPath(SettingsStore& machineSettings) {
+    return std::string(
+        TrimBlanks(machineSettings.Get(kSimulatorKeyPath, kSimulatorPathName).value_or(std::string())));
+}
+
+bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {
+    session.FSAircrafts.clear();
+    session.FSAircraftProblems = false;
+    if (simulatorFolder.empty()) return false;
+    const std::string root = JoinPath(simulatorFolder, "Aircraft");
+    if (!files.FolderExists(root)) return false;
+    for (const FolderEntry& entry : files.ListFolder(root)) {
+        if (entry.isFolder) ReadAircraftFolder(session, files, JoinPath(root, entry.name), detailed);
+    }
+    if (detailed) CheckAircraftFiles(session, files);
+    return true;
+}
+
+void ReadAircraftFolder(Session& session, FileSystem& files, const std::string& folder, bool detailed) {
+    const auto text = ReadWholeFile(files, JoinPath(folder, "aircraft.cfg"));
+    if (!text || text->empty()) return;
+    const InitialisationFile file = ParseInitialisationFile(*text);
+    FolderReader reader(session, files, folder, file);
+    for (const InitialisationSection& section : file.sections) {
+        if (reader.TakenSize() > kFreeRepeats + kMostRepeats * text->size()) break;
+        if (StartsWithNoCase(section.name, kVariantSection)) reader.ReadVariant(section.name, detailed);
+    }
+}
+
+}  // namespace orlo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/Session.h"
+#include "services/FileSystem.h"
+#include "services/SettingsStore.h"
+
+namespace orlo {
+
+// Where the machine-wide settings tell the simulator's folder.
+inline constexpr std::string_view kSimulatorKeyPath =
+    "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0";
+inline constexpr std::string_view kSimulatorPathName = "EXE Path";
+
+// The simulator's folder, trimmed; empty when it is not known.
+std::string GetSimulatorPath(SettingsStore& machineSettings);
+
+// Replaces session.FSAircrafts by the variants of all folders below "Aircraft", in the order of the folders
+// and then of the sections. A detailed scan also reads the fields that only editors and checks need, and
+// checks the files of each variant. False, with an empty list, when there is no such folder.
+bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed);
+
+// Appends the variants of one aircraft's folder; none without an aircraft.cfg in it.
+void ReadAircraftFolder(Session& session, FileSystem& files, const std::string& folder, bool detailed);
+
+}  // namespace orlo
