@@ -9,6 +9,7 @@ namespace orlo {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kCommentMarks = ";#";
 
 bool IsWhite(char character) {
@@ -101,6 +102,8 @@ std::string Unquoted(std::string_view text) {
 }  // namespace
 
 SettingsText::SettingsText(std::string_view text) {
+    // A second mark would be the first one once the text is written.
+    while (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
     for (const std::string_view line : SplitLines(text)) {
         const std::string_view trimmed = TrimWhite(line);
         const std::size_t end = trimmed.rfind(']');

@@ -192,6 +192,7 @@ std::unique_ptr<OutputFile> OpenReplacing(const std::string& path, mode_t newMod
     const std::string target = FollowLinks(path);
     if (target.empty() || FileName(target).empty()) return nullptr;
     const auto old = FactsOf(target);
+    if (!old && errno != ENOENT) return nullptr;
     if (old && (!S_ISREG(old->st_mode) || IsReadOnly(target, *old))) return nullptr;
     if (auto file = OpenBeside(target, old, newMode)) return file;
     if (!old) return nullptr;
