@@ -21,14 +21,11 @@ char* FieldsOf(char* rowStart) {
     return rowStart + sizeof(RowHead);
 }
 
-// A separator inside a field would shift all fields behind it.
+// A separator inside a field would shift all fields behind it, and a carriage return would end the line once
+// it is written.
 void CopyField(char*& out, std::string_view field) {
-    if (field.empty()) return;
-    std::memcpy(out, field.data(), field.size());
-    if (field.find(kFieldSeparator) != std::string_view::npos) {
-        std::replace(out, out + field.size(), kFieldSeparator, ' ');
-    }
-    out += field.size();
+    const auto endsLine = [](char character) { return character == kFieldSeparator || character == '\r'; };
+    out = std::replace_copy_if(field.begin(), field.end(), out, endsLine, ' ');
 }
 
 std::size_t PackedSize(const Flight& flight) {

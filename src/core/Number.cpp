@@ -1,7 +1,7 @@
 #include "core/Number.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 #include "core/Text.h"
@@ -80,17 +80,16 @@ std::optional<std::int32_t> ParseWholeNumber(std::string_view text) {
 }
 
 std::optional<double> ParseDecimal(std::string_view text) {
-    const auto parts = SplitNumber(text);
-    if (!parts) return std::nullopt;
+    if (!SplitNumber(text)) return std::nullopt;
+    text = TrimBlanks(text);
+    if (text.front() == '+') text.remove_prefix(1);
     double value = 0;
-    for (char digit : parts->whole) value = value * 10 + (digit - '0');
-    double weight = 0.1;
-    for (char digit : parts->fraction) {
-        value += weight * (digit - '0');
-        weight /= 10;
-    }
-    if (!std::isfinite(value)) return std::nullopt;
-    return parts->negative ? -value : value;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc()) return value;
+    // Out of range: too large, or so small that it is zero.
+    const std::string_view whole = BeforeFirst(text, ".");
+    return whole.find_first_of("123456789") == std::string_view::npos ? std::optional<double>(0)
+                                                                      : std::nullopt;
 }
 
 std::string FormatDigits(std::int64_t value, int digits) {
@@ -105,8 +104,9 @@ std::string FormatDigits(std::int64_t value, int digits) {
 
 std::string FormatFixed(double value, int decimals) {
     char buffer[400];
-    const int length = std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
-    return length > 0 ? std::string(buffer, static_cast<std::size_t>(length)) : std::string();
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+    return result.ec == std::errc() ? std::string(buffer, result.ptr) : std::string();
 }
 
 }  // namespace orlo

@@ -52,8 +52,8 @@ char32_t CharacterOfByte(unsigned char byte) {
 
 std::optional<char> ByteOfCharacter(char32_t character) {
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
-    for (unsigned i = 0; i < kHighCharacters.size(); ++i) {
-        if (kHighCharacters[i] != 0 && kHighCharacters[i] == character) return static_cast<char>(0x80 + i);
+    for (unsigned char byte = 0x80; byte < 0xA0; ++byte) {
+        if (CharacterOfByte(byte) == character) return static_cast<char>(byte);
     }
     return std::nullopt;
 }

@@ -9,13 +9,21 @@ namespace orlo {
 namespace {
 
 constexpr std::size_t kBufferSize = 1024 * 1024;
+constexpr std::size_t kFirstPiece = 512;  // longer than most lines
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// Length of the line at the front of `text`; npos where its end isn't in it.
+// Length of the line at the front of `text`; npos where its end isn't in it. Looked for in growing pieces, so
+// that a file without line feeds isn't searched to its end for each of its lines.
 std::size_t LineLength(std::string_view text) {
-    const std::size_t lineFeed = text.find('\n');
-    const std::size_t carriageReturn = text.substr(0, lineFeed).find('\r');
-    return carriageReturn != std::string_view::npos ? carriageReturn : lineFeed;
+    std::size_t piece = kFirstPiece;
+    for (std::size_t at = 0; at < text.size(); at += piece, piece *= 2) {
+        const std::string_view part = text.substr(at, piece);
+        const std::size_t lineFeed = part.find('\n');
+        const std::size_t carriageReturn = part.substr(0, lineFeed).find('\r');
+        const std::size_t found = std::min(lineFeed, carriageReturn);
+        if (found != std::string_view::npos) return at + found;
+    }
+    return std::string_view::npos;
 }
 
 std::string_view WithoutByteOrderMark(std::string_view text) {
@@ -68,8 +76,8 @@ std::optional<std::string_view> LineReader::Next() {
         }
         searched = rest.size();
         if (!Fill()) {
-            if (start_ == end_) return std::nullopt;
-            return TakeLine(end_ - start_);
+            const auto line = TakeLine(end_ - start_);
+            return line->empty() ? std::nullopt : line;
         }
     }
 }

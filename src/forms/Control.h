@@ -27,7 +27,7 @@ enum class ControlKind {
 };
 
 // Colours of texts, where one means something.
-enum class Colour { WindowText, Black, Red, Blue, Gray };
+enum class Colour : std::uint8_t { WindowText, Black, Red, Blue, Gray };
 
 // "text", "black", "red", "blue" or "gray".
 std::string_view ColourWord(Colour colour);
@@ -51,6 +51,7 @@ struct Control {
     Colour colour = Colour::WindowText;
     std::string tag;
     std::string toolTip;
+    std::string accessibleName;  // what a reader of the screen says where no caption or label tells enough
 
     // Children of a disabled or hidden container are disabled or hidden with it.
     bool EffectivelyEnabled() const;

@@ -36,6 +36,7 @@ struct Form {
     Form* owner = nullptr;
     WindowState windowState = WindowState::Normal;
     WindowBox box;
+    bool centreRequest = false;  // the front end moves the window to the screen's centre and clears it
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn
@@ -57,5 +58,8 @@ struct Form {
     std::vector<Control*> controls_;
     std::unordered_map<std::string, Control*> byName_;  // upper-cased names
 };
+
+// The label of a field: the one declared directly before it in the same container. Null where there is none.
+Label* LabelOf(const Control& control);
 
 }  // namespace orlo

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/PackedFields.h"
+#include "forms/PlaceIndex.h"
 
 namespace orlo {
 
@@ -17,78 +19,101 @@ struct ListColumn {
 
 // What is added as one row.
 struct ListRow {
-    std::string key;  // may be empty; a key that stands already is refused
+    std::string key;  // may be empty; a key that stands already, case aside, is refused
     std::string tag;
     std::string toolTip;
     Colour colour = Colour::WindowText;
-    std::vector<std::string> texts;  // one a column, missing ones are empty
+    std::vector<std::string> texts;  // one a column; missing ones are empty, further ones are dropped
 };
 
-// A list of rows with columns. Rows are kept packed, one buffer for all; a row's place (0, 1, ... in the
-// order of adding) names it until it is removed. Sorting permutes the displayed order and never moves a row.
-// The current row and the selection are two things.
+// A list of rows with columns. Rows are kept packed in large pages; a row's place (0, 1, ... in the order of
+// adding) names it until it is removed, and only places of rows that stand are passed here. Sorting permutes
+// the displayed order and never moves a row. The current row and the selection are two things. Texts that are
+// lent hold until the list is changed.
 struct ListView : Control {
     ListView(Container in, std::string_view nameOf)
         : Control(ControlKind::ListView, in.form, in.parent, nameOf, "") {}
 
     std::vector<ListColumn> columns;
+    // At the end; nothing when the key stands already.
     void AddColumn(std::string_view key, std::string_view text);
-    void RemoveColumn(std::string_view key);              // nothing when it is missing
+    // With its texts; nothing when it is missing. Where it was the sort column, that is the first one then.
+    void RemoveColumn(std::string_view key);
     std::int32_t FindColumn(std::string_view key) const;  // -1 when missing
 
     std::int32_t Count() const { return static_cast<std::int32_t>(order_.size()); }
+    void Reserve(std::int32_t rows);
 
     // Place of the new row, -1 when its key stands already. The first row added to an empty list becomes
-    // current and selected. A sorted list takes the row in its sorted position.
+    // current and selected. A sorted list takes the row in its sorted position, behind equal ones.
     std::int32_t Add(const ListRow& row);
-    void Remove(
-        std::int32_t place);  // the current row becomes the one now displayed there, else the last, else none
+    // The current row becomes the one now displayed at its position, else the last, else none. Many rows go
+    // in one pass as they would go one by one.
+    void Remove(std::int32_t place) { Remove(std::span(&place, 1)); }
+    void Remove(std::span<const std::int32_t> places);
     void Clear();
 
     std::string_view Text(std::int32_t place, std::int32_t column) const;
     void SetText(std::int32_t place, std::int32_t column, std::string_view text);  // does not sort anew
     std::string_view Key(std::int32_t place) const;
-    void SetKey(std::int32_t place, std::string_view key);
+    // False, with nothing changed, when another row has the key.
+    bool SetKey(std::int32_t place, std::string_view key);
     std::string_view Tag(std::int32_t place) const;
     std::string_view ToolTip(std::int32_t place) const;
-    Colour RowColour(std::int32_t place) const;
+    Colour RowColour(std::int32_t place) const { return Slot(place).colour; }
     void SetRowColour(std::int32_t place, Colour colourOf);
     std::int32_t FindKey(std::string_view key) const;  // -1 when missing
 
     // Displayed positions, 0 to Count() - 1, and places.
     std::int32_t PlaceAt(std::int32_t position) const { return order_[static_cast<std::size_t>(position)]; }
-    std::int32_t PositionOf(std::int32_t place) const;
+    std::int32_t PositionOf(std::int32_t place) const;  // walks the order; -1 when it doesn't stand
 
-    bool Selected(std::int32_t place) const;
+    bool Selected(std::int32_t place) const { return Slot(place).selected; }
     void Select(std::int32_t place, bool on);
     void SelectAll(bool on);
     std::vector<std::int32_t> SelectedPlaces() const;  // in displayed order
     std::int32_t current = -1;                         // place, -1 for none
 
-    bool sorted = false;  // the switch: while off, rows stand in the order of adding
+    bool sorted = false;  // the switch; while it is off, further rows go to the end
     std::int32_t sortColumn = 0;
     bool ascending = true;
-    void
-    Sort();  // by displayed text, case folded, equal ones keep their order in both directions; sets `sorted`
-    void SwitchSorting(bool on);  // off: further rows go to the end; on: sorts by the column chosen last
+    // By displayed text, case folded; equal ones keep their order in both directions. Switches sorting on.
+    void Sort();
+    // A click on the head of a column: the sort column of a sorted list flips its direction, any other sorts
+    // ascending.
+    void SortByColumn(std::int32_t column);
+    void SwitchSorting(bool on);  // off: the order stays; on: sorts by the column chosen last
 
     bool ensureVisibleRequest = false;  // of the current row; taken once by the front end
-    std::int64_t contentRevision = 0;
+    std::int64_t contentRevision = 0;   // counts changes of columns, rows, texts and colours
     std::int64_t orderRevision = 0;
     std::int64_t selectionRevision = 0;
 
+    // What the rows take, dead bytes and spare room included.
+    std::size_t MemoryBytes() const;
+
   private:
     struct RowSlot {
-        std::uint64_t offset = 0;  // of the row's packed texts in buffer_
+        char* data = nullptr;  // key, tag, tool tip and texts, packed; null once the row is removed
         std::uint32_t length = 0;
         Colour colour = Colour::WindowText;
         bool selected = false;
-        bool removed = false;
     };
-    std::string buffer_;
+    RowSlot& Slot(std::int32_t place) { return slots_[static_cast<std::size_t>(place)]; }
+    const RowSlot& Slot(std::int32_t place) const { return slots_[static_cast<std::size_t>(place)]; }
+    std::string_view Row(std::int32_t place) const { return {Slot(place).data, Slot(place).length}; }
+    std::size_t SortedPosition(std::string_view text) const;
+    void SetField(std::int32_t place, std::size_t field, std::string_view text);
+    void ReplaceRow(std::int32_t place, std::string_view row);
+    void DropDeadBytes();
+
+    BytePages pages_;
+    std::size_t liveBytes_ = 0;
+    std::size_t deadBytes_ = 0;
     std::vector<RowSlot> slots_;
     std::vector<std::int32_t> order_;
-    std::unordered_map<std::string, std::int32_t> keys_;
+    PlaceIndex keys_;
+    std::string scratch_;  // the row being packed
 };
 
 }  // namespace orlo

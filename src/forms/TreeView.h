@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "core/KeyedIndex.h"
 #include "forms/Control.h"
 
 namespace orlo {
@@ -34,6 +34,10 @@ struct TreeView : Control {
     void Clear();
     void Reserve(std::size_t count);
 
+    TreeNode& At(std::int32_t place) { return nodes[static_cast<std::size_t>(place)]; }
+    const TreeNode& At(std::int32_t place) const { return nodes[static_cast<std::size_t>(place)]; }
+    std::int32_t Count() const { return static_cast<std::int32_t>(nodes.size()); }
+
     // Sorts the children of every node, and the roots, by text with case folded; equal ones keep their order.
     void SortChildren();
 
@@ -48,15 +52,7 @@ struct TreeView : Control {
     std::int64_t stateRevision = 0;    // to be raised by who changes checks, colours, tags
 
   private:
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view text) const;
-    };
-    struct Equal {
-        using is_transparent = void;
-        bool operator()(std::string_view a, std::string_view b) const;
-    };
-    std::unordered_map<std::string, std::int32_t, Hash, Equal> index_;
+    KeyedIndex<std::int32_t> index_;
 };
 
 }  // namespace orlo

@@ -48,6 +48,9 @@ class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
+    // False where the system offers no file service at all; the program then can't start.
+    virtual bool Available() { return true; }
+
     // The path with each existing component spelled as the disk spells it; components that don't exist stay.
     virtual std::string Resolve(const std::string& path) = 0;
 

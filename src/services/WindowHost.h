@@ -34,6 +34,12 @@ class WindowHost {
     virtual void ShowModal(Form& form, Form* owner) = 0;
     virtual void UnloadForm(Form& form) = 0;
 
+    // Whether the windows of this front end have a place on a screen that is worth keeping.
+    virtual bool KeepsWindowPlace() const = 0;
+
+    // A command was chosen that has no procedure yet.
+    virtual void ShowNotBuilt(std::string_view controlName) = 0;
+
     // One shot of `milliseconds`; firing runs the event procedure of the timer's name.
     virtual void StartTimer(std::string_view name, int milliseconds) = 0;
     virtual void StopTimer(std::string_view name) = 0;

@@ -42,11 +42,15 @@ class FakeWindows : public WindowHost {
     std::deque<std::string> inputs;  // answers of input boxes
     std::vector<std::string> printed;
     std::vector<std::string> timers;
+    std::vector<std::string> notBuilt;
+    bool keepsWindowPlace = false;
     int eventsProcessed = 0;
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
     void ShowModal(Form&, Form*) override {}
     void UnloadForm(Form&) override {}
+    bool KeepsWindowPlace() const override { return keepsWindowPlace; }
+    void ShowNotBuilt(std::string_view controlName) override { notBuilt.emplace_back(controlName); }
     void StartTimer(std::string_view name, int) override { timers.emplace_back(name); }
     void StopTimer(std::string_view name) override { std::erase(timers, std::string(name)); }
     bool TimerArmed(std::string_view name) const override {

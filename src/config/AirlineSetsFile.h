@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/AirlineRecords.h"
+#include "core/Session.h"
+#include "services/FileSystem.h"
+#include "services/MessageHost.h"
+
+namespace orlo {
+
+// ORLO_AL.CFG: the airlines and tail number patterns of the world, its regions, countries, states, cities and
+// airports.
+
+// Reads the text of the file. No line is wrong: what can't be read as a share makes an airline without one.
+AirlineSets ParseAirlines(std::string_view text);
+
+// The name in an airline line: trimmed, then cut before the first "(" and the first ";". Blanks in front of
+// the cut stay and count when the name is compared.
+std::string CleanAirlineName(std::string_view text);
+
+// Replaces session.Airlines by the file of the program folder. False, with a critical message and the sets as
+// they were, when the file is missing.
+bool ReadAirlines(Session& session, FileSystem& files, MessageHost& messages);
+
+}  // namespace orlo

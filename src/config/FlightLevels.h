@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/RuleRecords.h"
+#include "core/Session.h"
+#include "services/FileSystem.h"
+#include "services/MessageHost.h"
+
+namespace orlo {
+
+// ORLO_FL.CFG: the rules of flight levels. Their order is their priority.
+
+// The rules up to the first line that hasn't exactly seven fields, and that line, trimmed.
+struct ParsedFlightLevels {
+    std::vector<FlightLevelRule> rules;
+    std::optional<std::string> offendingLine;
+};
+
+// Reads the text of the file. A line of seven fields, one of which is no whole number, gives no rule.
+ParsedFlightLevels ParseFlightLevels(std::string_view text);
+
+// Replaces session.FlightLevelRules by the file of the program folder. False, with a critical message, when
+// the file is missing, which leaves no rules, or a line hasn't seven fields, which leaves the rules above it.
+bool ReadFlightLevels(Session& session, FileSystem& files, MessageHost& messages);
+
+}  // namespace orlo

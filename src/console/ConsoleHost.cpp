@@ -1,0 +1,237 @@
+#include "console/ConsoleHost.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "console/ScriptText.h"
+#include "core/Text.h"
+#include "shell/Program.h"
+
+namespace orlo {
+namespace {
+
+struct AnswerWord {
+    MessageAnswer answer;
+    std::string_view word;
+};
+constexpr std::array<AnswerWord, 4> kAnswerWords = {{{MessageAnswer::Ok, "ok"},
+                                                     {MessageAnswer::Yes, "yes"},
+                                                     {MessageAnswer::No, "no"},
+                                                     {MessageAnswer::Cancel, "cancel"}}};
+
+std::string_view WordOf(MessageAnswer answer) {
+    for (const AnswerWord& entry : kAnswerWords) {
+        if (entry.answer == answer) return entry.word;
+    }
+    return "none";
+}
+
+std::string_view MarkWord(int flags) {
+    switch (flags & 0x70) {
+        case kMarkCritical:
+            return "critical";
+        case kMarkQuestion:
+            return "question";
+        case kMarkExclamation:
+            return "exclamation";
+        case kMarkInformation:
+            return "information";
+        default:
+            return "none";
+    }
+}
+
+std::vector<MessageAnswer> ButtonsOf(int flags) {
+    switch (flags & 0x0F) {
+        case kButtonsYesNoCancel:
+            return {MessageAnswer::Yes, MessageAnswer::No, MessageAnswer::Cancel};
+        case kButtonsYesNo:
+            return {MessageAnswer::Yes, MessageAnswer::No};
+        default:
+            return {MessageAnswer::Ok};
+    }
+}
+
+std::string ButtonsLine(const std::vector<MessageAnswer>& buttons, int flags) {
+    std::string line = "buttons ";
+    for (std::size_t i = 0; i < buttons.size(); ++i)
+        line.append(Concat(i == 0 ? "" : ",", WordOf(buttons[i])));
+    const bool second = (flags & kDefaultSecondButton) != 0 && buttons.size() > 1;
+    return Concat(line, " default ", WordOf(buttons[second ? 1 : 0]));
+}
+
+bool Offers(const std::vector<MessageAnswer>& buttons, MessageAnswer answer) {
+    for (MessageAnswer button : buttons) {
+        if (button == answer) return true;
+    }
+    return false;
+}
+
+// The line of a dialog or input box; nothing stands behind the arrow of a cancel.
+std::string ArrowLine(std::string_view said, const std::optional<std::string>& answer) {
+    return answer ? Concat(said, " -> ", *answer) : Concat(said, " ->");
+}
+
+}  // namespace
+
+void ConsoleHost::Attach(Program& program, std::function<void(Form&)> runModal) {
+    program_ = &program;
+    runModal_ = std::move(runModal);
+}
+
+void ConsoleHost::SetText(std::string_view text) {
+    if (trace_) out_ << "progress text " << Printed(text) << '\n';
+    if (program_ != nullptr) program_->forms.frmProgress.lblProgress.caption = text;
+    drawnPercent_ = -1;
+    DrawBar();
+}
+
+void ConsoleHost::SetMax(int maximum) {
+    if (trace_) out_ << "progress max " << maximum << '\n';
+    if (program_ != nullptr) program_->forms.frmProgress.pbProgress.maximum = maximum;
+}
+
+void ConsoleHost::SetValue(int value) {
+    if (trace_) out_ << "progress value " << value << '\n';
+    if (program_ != nullptr) program_->forms.frmProgress.pbProgress.value = value;
+    DrawBar();
+}
+
+void ConsoleHost::Show(Form*) {
+    if (trace_) out_ << "progress show\n";
+    progressShown_ = true;
+    if (program_ != nullptr) program_->pump.Windows().Show(program_->forms.frmProgress);
+    DrawBar();
+}
+
+void ConsoleHost::Close() {
+    if (!progressShown_) return;
+    if (trace_) out_ << "progress close\n";
+    progressShown_ = false;
+    if (program_ != nullptr) program_->pump.Windows().Unload(program_->forms.frmProgress);
+    if (bar_ != nullptr) *bar_ << "\r\x1b[K" << std::flush;
+}
+
+void ConsoleHost::DrawBar() {
+    if (bar_ == nullptr || program_ == nullptr || !progressShown_) return;
+    const ProgressForm& form = program_->forms.frmProgress;
+    const int percent =
+        form.pbProgress.maximum > 0
+            ? static_cast<int>(std::int64_t{100} * form.pbProgress.value / form.pbProgress.maximum)
+            : 0;
+    if (percent == drawnPercent_) return;
+    drawnPercent_ = percent;
+    const auto filled = static_cast<std::size_t>(std::min(std::max(percent, 0), 100) / 4);
+    *bar_ << "\r\x1b[K[" << std::string(filled, '#') << std::string(25 - filled, ' ') << "] "
+          << Printed(form.lblProgress.caption) << std::flush;
+}
+
+MessageAnswer ConsoleHost::ShowMessage(std::string_view text, int flags, std::string_view, Form*) {
+    if (TrimBlanks(text).empty()) return MessageAnswer::None;
+    const std::vector<MessageAnswer> buttons = ButtonsOf(flags);
+    if (trace_) out_ << ButtonsLine(buttons, flags) << '\n';
+    MessageAnswer answer = buttons.size() == 1 ? MessageAnswer::Ok : MessageAnswer::No;
+    const bool answered = !answers.replies.empty() && Offers(buttons, answers.replies.front());
+    if (answered) {
+        answer = answers.replies.front();
+        answers.replies.pop_front();
+    }
+    out_ << "message " << MarkWord(flags) << " \"" << PrintedMessage(text) << "\" -> " << WordOf(answer)
+         << '\n';
+    if (strict_ && !answered && buttons.size() > 1) throw ScriptEnd{"a question has no queued answer"};
+    return answer;
+}
+
+void ConsoleHost::ShowForm(Form& form) {
+    if (program_ != nullptr) program_->pump.Windows().Show(form);
+}
+
+void ConsoleHost::ShowModal(Form& form, Form* owner) {
+    if (program_ == nullptr) return;
+    OpenForms& windows = program_->pump.Windows();
+    form.owner = owner;
+    form.closeRequest = false;
+    windows.Show(form);
+    windows.modal.insert(windows.modal.begin(), &form);
+    const int outer = program_->pump.EnterModal();
+    runModal_(form);
+    program_->pump.LeaveModal(outer);
+    windows.Unload(form);
+    form.closeRequest = false;
+}
+
+void ConsoleHost::UnloadForm(Form& form) {
+    if (program_ != nullptr) program_->pump.Windows().Unload(form);
+}
+
+void ConsoleHost::ShowNotBuilt(std::string_view controlName) {
+    throw ScriptEnd{Concat(controlName, " is not built yet")};
+}
+
+void ConsoleHost::StartTimer(std::string_view name, int) {
+    timers_.emplace(name);
+}
+
+void ConsoleHost::StopTimer(std::string_view name) {
+    timers_.erase(std::string(name));
+}
+
+bool ConsoleHost::TimerArmed(std::string_view name) const {
+    return timers_.find(name) != timers_.end();
+}
+
+std::optional<std::string> ConsoleHost::TakePath(std::string_view what, std::string_view title,
+                                                 bool mustExist) {
+    const bool answered = !answers.paths.empty();
+    std::optional<std::string> path;
+    if (answered) {
+        path = answers.paths.front();
+        answers.paths.pop_front();
+    }
+    if (path && (path->empty() || (mustExist && !files_.FileExists(*path)))) path.reset();
+    out_ << ArrowLine(Concat("dialog ", what, " \"", PrintedMessage(title), "\""), path) << '\n';
+    if (strict_ && !answered) throw ScriptEnd{"a dialog has no queued answer"};
+    return path;
+}
+
+std::string ConsoleHost::ShowOpenDialog(const FileDialog& dialog) {
+    return TakePath("open", dialog.title, true).value_or("");
+}
+
+std::string ConsoleHost::ShowSaveDialog(const FileDialog& dialog) {
+    return TakePath("save", dialog.title, false).value_or("");
+}
+
+std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::string_view title,
+                                                 std::string_view) {
+    const bool answered = !answers.inputs.empty();
+    std::optional<std::string> text;
+    if (answered) {
+        text = answers.inputs.front();
+        answers.inputs.pop_front();
+    }
+    const std::string said = Concat("input \"", PrintedMessage(title), "\" \"", PrintedMessage(prompt), "\"");
+    out_ << ArrowLine(said, text ? std::optional(PrintedMessage(*text)) : std::nullopt) << '\n';
+    if (strict_ && !answered) throw ScriptEnd{"an input box has no queued answer"};
+    return text;
+}
+
+bool ConsoleHost::ShowPrintDialog(std::string_view title) {
+    const auto path = TakePath("print", title, false);
+    printPath_ = path.value_or("");
+    return path.has_value();
+}
+
+void ConsoleHost::Print(std::string_view text) {
+    if (printPath_.empty()) return;
+    const auto file = files_.CreateReplacing(printPath_);
+    if (file && file->Write(text)) file->Commit();
+}
+
+bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {
+    out_ << "document " << path << '\n';
+    return true;
+}
+
+}  // namespace orlo

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "services/FileSystem.h"
+#include "services/MessageHost.h"
+#include "services/ProgressHost.h"
+#include "services/WindowHost.h"
+
+namespace orlo {
+
+struct Program;
+
+// Ends a script from anywhere; passes every handler of failures.
+struct ScriptEnd {
+    std::string reason;
+};
+
+// What the script has queued for questions, dialogs and input boxes.
+struct QueuedAnswers {
+    std::deque<MessageAnswer> replies;
+    std::deque<std::optional<std::string>> paths;
+    std::deque<std::optional<std::string>> inputs;
+
+    bool Empty() const { return replies.empty() && paths.empty() && inputs.empty(); }
+};
+
+// The services of the console: everything said to the user is a line of output, every question is answered
+// from the queues.
+class ConsoleHost : public ProgressHost, public MessageHost, public WindowHost {
+  public:
+    ConsoleHost(FileSystem& files, std::ostream& out, bool strict, bool trace)
+        : files_(files), out_(out), strict_(strict), trace_(trace) {}
+
+    // The program whose forms are drawn; and what runs script lines until a modal form has closed.
+    void Attach(Program& program, std::function<void(Form&)> runModal);
+    // Draws the progress bar on a terminal; null: nowhere.
+    void DrawBarOn(std::ostream* bar) { bar_ = bar; }
+
+    QueuedAnswers answers;
+
+    // ProgressHost
+    void SetText(std::string_view text) override;
+    void SetMax(int maximum) override;
+    void SetValue(int value) override;
+    void Show(Form* owner) override;
+    void Close() override;
+
+    // MessageHost
+    MessageAnswer ShowMessage(std::string_view text, int flags, std::string_view title, Form* owner) override;
+
+    // WindowHost
+    void ProcessEvents() override {}
+    void ShowForm(Form& form) override;
+    void ShowModal(Form& form, Form* owner) override;
+    void UnloadForm(Form& form) override;
+    bool KeepsWindowPlace() const override { return false; }
+    void ShowNotBuilt(std::string_view controlName) override;
+    void StartTimer(std::string_view name, int milliseconds) override;
+    void StopTimer(std::string_view name) override;
+    bool TimerArmed(std::string_view name) const override;
+    std::string ShowOpenDialog(const FileDialog& dialog) override;
+    std::string ShowSaveDialog(const FileDialog& dialog) override;
+    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view defaultText) override;
+    bool ShowPrintDialog(std::string_view title) override;
+    void Print(std::string_view text) override;
+    bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
+
+  private:
+    std::optional<std::string> TakePath(std::string_view what, std::string_view title, bool mustExist);
+    void DrawBar();
+
+    FileSystem& files_;
+    std::ostream& out_;
+    bool strict_;
+    bool trace_;
+    Program* program_ = nullptr;
+    std::function<void(Form&)> runModal_;
+    std::ostream* bar_ = nullptr;
+    int drawnPercent_ = -1;
+    bool progressShown_ = false;
+    std::set<std::string, std::less<>> timers_;
+    std::string printPath_;
+};
+
+}  // namespace orlo

@@ -1,0 +1,149 @@
+#include "console/ScriptRunner.h"
+
+#include <functional>
+#include <map>
+
+#include "console/ControlPrinting.h"
+#include "console/ScriptText.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+
+namespace orlo {
+namespace {
+
+// How many words a command takes behind its name.
+void NeedWords(const std::vector<std::string>& words, std::size_t fewest, std::size_t most) {
+    const std::size_t given = words.size() - 1;
+    if (given < fewest) throw ScriptEnd{Concat("'", words[0], "' needs more words")};
+    if (given > most) throw ScriptEnd{Concat("'", words[0], "' has too many words")};
+}
+
+}  // namespace
+
+ScriptRunner::ScriptRunner(Program& program, ConsoleHost& host, std::istream& script, std::ostream& out,
+                           std::ostream& errors, bool strict)
+    : program_(program), host_(host), script_(script), out_(out), errors_(errors), strict_(strict) {
+    host_.Attach(program_, [this](Form& form) { RunUntilClosed(form); });
+}
+
+int ScriptRunner::Run() {
+    try {
+        while (!closed_ && RunNextLine()) {
+        }
+        if (strict_ && !host_.answers.Empty()) throw ScriptEnd{"queued answers are left over"};
+        if (!closed_ && !quitCancelled_) Quit();
+    } catch (const ScriptEnd& end) {
+        host_.Close();
+        out_ << std::flush;
+        errors_ << "line " << lineNumber_ << ": " << ToScreen(end.reason) << std::endl;
+        return 2;
+    }
+    out_ << std::flush;
+    return 0;
+}
+
+// Runs script lines on a modal form. At the end of the script the form is closed as by its close box.
+void ScriptRunner::RunUntilClosed(Form& form) {
+    while (!form.closeRequest && !quitting_) {
+        if (!RunNextLine()) quitting_ = true;
+    }
+    if (form.closeRequest) return;
+    Event event{&form, nullptr, EventKind::Close};
+    program_.pump.Deliver(event);
+}
+
+bool ScriptRunner::RunNextLine() {
+    std::string line;
+    if (!std::getline(script_, line)) return false;
+    ++lineNumber_;
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+    const auto words = SplitScriptLine(line);
+    if (!words) throw ScriptEnd{"a quote is not closed"};
+    if (words->empty() || words->front().front() == '#') return true;
+    RunCommand(*words);
+    if (program_.forms.frmMain.closeRequest) closed_ = true;
+    return true;
+}
+
+void ScriptRunner::RunCommand(const Words& words) {
+    struct Command {
+        std::size_t fewest;
+        std::size_t most;
+        std::function<void()> run;
+    };
+    const auto control = [&]() -> Control& { return FindControl(words[1]); };
+    const std::map<std::string_view, Command> commands = {
+        {"click", {1, 1, [&] { Click(words); }}},
+        {"set", {2, 2, [&] { Set(words); }}},
+        {"type", {2, 2, [&] { Type(words); }}},
+        {"node", {3, 3, [&] { Node(words); }}},
+        {"select", {2, 2, [&] { Select(words); }}},
+        {"current", {2, 2, [&] { Current(words); }}},
+        {"dblclick", {2, 2, [&] { DoubleClick(words); }}},
+        {"sort", {2, 2, [&] { SortColumn(words); }}},
+        {"key", {2, 2, [&] { Key(words); }}},
+        {"focus", {1, 1, [&] { Focus(words); }}},
+        {"close", {0, 1, [&] { CloseForm(words); }}},
+        {"reply", {1, 1, [&] { Reply(words); }}},
+        {"choose",
+         {0, 1,
+          [&] { host_.answers.paths.push_back(words.size() > 1 ? std::optional(words[1]) : std::nullopt); }}},
+        {"input",
+         {0, 1,
+          [&] {
+              host_.answers.inputs.push_back(words.size() > 1 ? std::optional(FromScreen(words[1]))
+                                                              : std::nullopt);
+          }}},
+        {"timer", {1, 1, [&] { FireTimer(words); }}},
+        {"show", {1, 1, [&] { PrintControl(out_, control()); }}},
+        {"rows", {1, 1, [&] { PrintRows(out_, FindAs<ListView>(words[1], ControlKind::ListView)); }}},
+        {"entries", {1, 1, [&] { PrintEntries(out_, FindAs<ComboBox>(words[1], ControlKind::ComboBox)); }}},
+        {"hover", {1, 2, [&] { Hover(words); }}},
+        {"popup", {1, 1, [&] { Popup(words); }}},
+        {"props",
+         {1, 1,
+          [&] {
+              if (const Form* form = FindForm(words[1])) return PrintProperties(out_, *form);
+              PrintProperties(out_, control());
+          }}},
+        {"windows",
+         {0, 0,
+          [&] {
+              for (const Form* form : program_.pump.Windows().forms) out_ << form->name << '\n';
+          }}},
+        {"enabled", {1, 1, [&] { out_ << (control().EffectivelyEnabled() ? "yes" : "no") << '\n'; }}},
+        {"echo",
+         {0, 1000,
+          [&] {
+              for (std::size_t i = 1; i < words.size(); ++i) out_ << (i == 1 ? "" : " ") << words[i];
+              out_ << '\n';
+          }}},
+        {"quit", {0, 0, [&] { Quit(); }}},
+    };
+    const auto found = commands.find(words[0]);
+    if (found == commands.end()) throw ScriptEnd{Concat("unknown command '", words[0], "'")};
+    NeedWords(words, found->second.fewest, found->second.most);
+    found->second.run();
+    program_.pump.RunQueued();
+}
+
+// Closes the main window, after the close box of each form above it. Modal forms unwind from the top: the
+// loops that run them see `quitting_`, close their form and return to the operation that showed it.
+void ScriptRunner::Quit() {
+    if (program_.pump.Windows().TopModal() != nullptr) {
+        quitting_ = true;
+        return;
+    }
+    quitting_ = false;
+    Form& main = program_.forms.frmMain;
+    Event event{&main, nullptr, EventKind::Close};
+    program_.pump.Deliver(event);
+    if (main.closeRequest) {
+        closed_ = true;
+    } else {
+        quitCancelled_ = true;
+    }
+}
+
+}  // namespace orlo

@@ -1,0 +1,85 @@
+// The console program: makes the services of this system and runs a script on the program.
+
+#include <fstream>
+#include <iostream>
+#include <memory_resource>
+
+#include "console/ConsoleHost.h"
+#include "console/Options.h"
+#include "console/ScriptRunner.h"
+#include "core/Path.h"
+#include "core/Version.h"
+#include "platform/common/SystemRandom.h"
+#include "platform/common/TextSettingsStore.h"
+#include "platform/posix/LargePageMemory.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixMachineSettings.h"
+#include "platform/posix/ProgramFolder.h"
+#include "platform/posix/SystemClock.h"
+#include "platform/posix/Terminal.h"
+#include "platform/posix/UserFolders.h"
+#include "shell/Program.h"
+#include "shell/StartUp.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kStartUpFailed = 1;
+constexpr int kScriptFailed = 2;
+
+// The rule files stand in the installation, or in the checkout beside the build's folder.
+std::string FindProgramFolder(FileSystem& files) {
+    const std::string executable = ExecutablePath();
+    const std::string installation = ParentFolder(ParentFolder(executable));
+    return FindProgramFolder(files, executable,
+                             {JoinPath(installation, "share/orlo"), JoinPath(installation, "share")});
+}
+
+int RunConsole(const ConsoleOptions& options, std::istream& script) {
+    std::pmr::set_default_resource(&LargePageMemory());
+    PosixFileSystem files;
+    TextSettingsStore userSettings(files, options.settings ? *options.settings : UserSettingsPath());
+    PosixMachineSettings machineSettings(files, std::string(kMachineSettingsPath), WinePrefixFolder());
+    if (options.simulator) machineSettings.SetSimulator(*options.simulator);
+    SystemRandom random(options.seed);
+    SystemClock clock;
+    ConsoleHost host(files, std::cout, options.strict, options.trace);
+    if (IsTerminal(StandardStream::Error)) host.DrawBarOn(&std::cerr);
+    Services services{files, userSettings, machineSettings, host, host, host, random, clock};
+
+    const std::string programFolder = options.program ? *options.program : FindProgramFolder(files);
+    Program program(services, programFolder);
+    ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict);
+    if (!StartUp(program.context)) {
+        std::cout << std::flush;
+        return kStartUpFailed;
+    }
+    return runner.Run();
+}
+
+int Main(const std::vector<std::string>& arguments) {
+    const ConsoleOptions options = ParseConsoleOptions(arguments);
+    if (!options.fault.empty()) {
+        std::cerr << "orlo-console: " << options.fault << "\nTry --help.\n";
+        return kScriptFailed;
+    }
+    if (options.help || options.version) {
+        std::cout << (options.help ? ConsoleHelp() : std::string("orlo-console ") + kVersionText + '\n');
+        return 0;
+    }
+    if (!options.script) return RunConsole(options, std::cin);
+    std::ifstream script(*options.script, std::ios::binary);
+    if (!script) {
+        std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
+        return kScriptFailed;
+    }
+    return RunConsole(options, script);
+}
+
+}  // namespace
+}  // namespace orlo
+
+int main(int count, char** words) {
+    std::ios::sync_with_stdio(false);
+    return orlo::Main(std::vector<std::string>(words + 1, words + count));
+}

@@ -1,0 +1,60 @@
+#include "forms/Control.h"
+
+#include <array>
+
+#include "forms/Form.h"
+
+namespace orlo {
+
+std::string_view ColourWord(Colour colour) {
+    static constexpr std::array<std::string_view, 5> kWords = {"text", "black", "red", "blue", "gray"};
+    return kWords[static_cast<std::size_t>(colour)];
+}
+
+Control::Control(ControlKind kindOf, Form& formOf, Control* container, std::string_view nameOf,
+                 std::string_view captionOf)
+    : kind(kindOf), form(formOf), parent(container), name(nameOf), caption(captionOf) {
+    form.Register(*this);
+}
+
+bool Control::EffectivelyEnabled() const {
+    for (const Control* control = this; control != nullptr; control = control->parent) {
+        if (!control->enabled) return false;
+    }
+    return true;
+}
+
+bool Control::EffectivelyVisible() const {
+    for (const Control* control = this; control != nullptr; control = control->parent) {
+        if (!control->visible) return false;
+    }
+    return true;
+}
+
+void ComboBox::Clear() {
+    entries.clear();
+    index = -1;
+    ++revision;
+}
+
+void ComboBox::Add(std::string_view text, std::int32_t itemData) {
+    entries.push_back({std::string(text), itemData});
+    ++revision;
+}
+
+const std::string& ComboBox::Text() const {
+    static const std::string kNone;
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < entries.size() ? entries[place].text : kNone;
+}
+
+bool ComboBox::SelectText(std::string_view text) {
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].text != text) continue;
+        index = static_cast<std::int32_t>(i);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace orlo

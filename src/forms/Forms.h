@@ -1,0 +1,18 @@
+#pragma once
+
+#include "forms/AboutForm.h"
+#include "forms/MainForm.h"
+#include "forms/ProgressForm.h"
+#include "forms/SplashForm.h"
+
+namespace orlo {
+
+// The windows that live as long as the program.
+struct Forms {
+    MainForm frmMain;
+    ProgressForm frmProgress;
+    SplashForm frmSplash;
+    AboutForm frmAbout;
+};
+
+}  // namespace orlo

@@ -1,0 +1,225 @@
+#include "forms/ListView.h"
+
+#include <algorithm>
+
+namespace orlo {
+namespace {
+
+// Fields of a packed row.
+constexpr std::size_t kKeyField = 0;
+constexpr std::size_t kTagField = 1;
+constexpr std::size_t kToolTipField = 2;
+constexpr std::size_t kFirstText = 3;
+
+constexpr std::size_t kDeadBytesKept = 1024 * 1024;
+
+}  // namespace
+
+void ListView::AddColumn(std::string_view key, std::string_view text) {
+    if (FindColumn(key) >= 0) return;
+    columns.push_back({std::string(key), std::string(text)});
+    ++contentRevision;
+}
+
+void ListView::RemoveColumn(std::string_view key) {
+    const std::int32_t column = FindColumn(key);
+    if (column < 0) return;
+    columns.erase(columns.begin() + column);
+    const std::size_t dropped = kFirstText + static_cast<std::size_t>(column);
+    for (const std::int32_t place : order_) {
+        std::string row;
+        PackedReader reader(Row(place));
+        for (std::size_t field = 0; !reader.AtEnd(); ++field) {
+            const std::string_view text = reader.Next();
+            if (field != dropped) AppendField(row, text);
+        }
+        ReplaceRow(place, row);
+    }
+    if (sortColumn == column) sortColumn = 0;
+    if (sortColumn > column) --sortColumn;
+    ++contentRevision;
+}
+
+std::int32_t ListView::FindColumn(std::string_view key) const {
+    const auto found = std::find_if(columns.begin(), columns.end(),
+                                    [&](const ListColumn& column) { return EqualNoCase(column.key, key); });
+    return found == columns.end() ? -1 : static_cast<std::int32_t>(found - columns.begin());
+}
+
+void ListView::Reserve(std::int32_t rows) {
+    slots_.reserve(static_cast<std::size_t>(rows));
+    order_.reserve(static_cast<std::size_t>(rows));
+}
+
+std::int32_t ListView::Add(const ListRow& row) {
+    const auto place = static_cast<std::int32_t>(slots_.size());
+    if (!row.key.empty() && !keys_.Add(row.key, place, [this](std::int32_t at) { return Key(at); }))
+        return -1;
+    scratch_.clear();
+    AppendField(scratch_, row.key);
+    AppendField(scratch_, row.tag);
+    AppendField(scratch_, row.toolTip);
+    const std::size_t textCount = std::min(row.texts.size(), columns.size());
+    for (std::size_t i = 0; i < textCount; ++i) AppendField(scratch_, row.texts[i]);
+
+    std::size_t position = order_.size();
+    if (sorted)
+        position = SortedPosition(FieldAt(scratch_, kFirstText + static_cast<std::size_t>(sortColumn)));
+    slots_.push_back({pages_.Add(scratch_), static_cast<std::uint32_t>(scratch_.size()), row.colour, false});
+    liveBytes_ += scratch_.size();
+    order_.insert(order_.begin() + static_cast<std::ptrdiff_t>(position), place);
+    if (order_.size() == 1) {
+        current = place;
+        Select(place, true);
+    }
+    ++contentRevision;
+    ++orderRevision;
+    return place;
+}
+
+void ListView::Remove(std::span<const std::int32_t> places) {
+    std::size_t removedCount = 0;
+    for (const std::int32_t place : places) {
+        RowSlot& slot = Slot(place);
+        if (slot.data == nullptr) continue;
+        keys_.Remove(Key(place), [this](std::int32_t at) { return Key(at); });
+        liveBytes_ -= slot.length;
+        deadBytes_ += slot.length;
+        slot = RowSlot();
+        ++removedCount;
+    }
+    if (removedCount == 0) return;
+    if (removedCount == order_.size()) {
+        Clear();
+        return;
+    }
+    const auto gone = [this](std::int32_t place) { return Slot(place).data == nullptr; };
+    const bool currentGone = current >= 0 && gone(current);
+    const auto at = std::find(order_.begin(), order_.end(), current);
+    const auto next = currentGone ? std::find_if_not(at, order_.end(), gone) : at;
+    const std::int32_t successor = next == order_.end() ? -1 : *next;
+    std::erase_if(order_, gone);
+    if (currentGone) current = successor >= 0 ? successor : order_.back();
+    DropDeadBytes();
+    ++contentRevision;
+    ++orderRevision;
+    ++selectionRevision;
+}
+
+void ListView::Clear() {
+    pages_.Clear();
+    liveBytes_ = deadBytes_ = 0;
+    slots_ = {};
+    order_ = {};
+    keys_.Clear();
+    current = -1;
+    ++contentRevision;
+    ++orderRevision;
+    ++selectionRevision;
+}
+
+std::string_view ListView::Text(std::int32_t place, std::int32_t column) const {
+    return FieldAt(Row(place), kFirstText + static_cast<std::size_t>(column));
+}
+
+std::string_view ListView::Key(std::int32_t place) const {
+    return FieldAt(Row(place), kKeyField);
+}
+
+std::string_view ListView::Tag(std::int32_t place) const {
+    return FieldAt(Row(place), kTagField);
+}
+
+std::string_view ListView::ToolTip(std::int32_t place) const {
+    return FieldAt(Row(place), kToolTipField);
+}
+
+void ListView::SetText(std::int32_t place, std::int32_t column, std::string_view text) {
+    SetField(place, kFirstText + static_cast<std::size_t>(column), text);
+}
+
+bool ListView::SetKey(std::int32_t place, std::string_view key) {
+    const std::int32_t holder = key.empty() ? -1 : FindKey(key);
+    if (holder >= 0 && holder != place) return false;
+    const auto keyOf = [this](std::int32_t at) { return Key(at); };
+    keys_.Remove(Key(place), keyOf);
+    SetField(place, kKeyField, key);
+    if (!Key(place).empty()) keys_.Add(Key(place), place, keyOf);
+    return true;
+}
+
+void ListView::SetRowColour(std::int32_t place, Colour colourOf) {
+    Slot(place).colour = colourOf;
+    ++contentRevision;
+}
+
+std::int32_t ListView::FindKey(std::string_view key) const {
+    return key.empty() ? -1 : keys_.Find(key, [this](std::int32_t at) { return Key(at); });
+}
+
+std::int32_t ListView::PositionOf(std::int32_t place) const {
+    const auto found = std::find(order_.begin(), order_.end(), place);
+    return found == order_.end() ? -1 : static_cast<std::int32_t>(found - order_.begin());
+}
+
+void ListView::Select(std::int32_t place, bool on) {
+    Slot(place).selected = on;
+    ++selectionRevision;
+}
+
+void ListView::SelectAll(bool on) {
+    for (const std::int32_t place : order_) Slot(place).selected = on;
+    ++selectionRevision;
+}
+
+std::vector<std::int32_t> ListView::SelectedPlaces() const {
+    std::vector<std::int32_t> places;
+    for (const std::int32_t place : order_) {
+        if (Slot(place).selected) places.push_back(place);
+    }
+    return places;
+}
+
+std::size_t ListView::MemoryBytes() const {
+    return pages_.Bytes() + slots_.capacity() * sizeof(RowSlot) + order_.capacity() * sizeof(std::int32_t) +
+           keys_.Bytes();
+}
+
+// A text of the same length is written over the old one: most changes are times.
+void ListView::SetField(std::int32_t place, std::size_t field, std::string_view text) {
+    ++contentRevision;
+    const std::string_view old = FieldAt(Row(place), field);
+    if (!old.empty() && old.size() == text.size()) {
+        text.copy(Slot(place).data + (old.data() - Slot(place).data), text.size());
+        return;
+    }
+    std::string row;
+    PackedReader reader(Row(place));
+    for (std::size_t i = 0; i <= field || !reader.AtEnd(); ++i) {
+        const std::string_view kept = reader.Next();
+        AppendField(row, i == field ? text : kept);
+    }
+    ReplaceRow(place, row);
+}
+
+void ListView::ReplaceRow(std::int32_t place, std::string_view row) {
+    RowSlot& slot = Slot(place);
+    liveBytes_ += row.size();
+    liveBytes_ -= slot.length;
+    deadBytes_ += slot.length;
+    slot.data = pages_.Add(row);
+    slot.length = static_cast<std::uint32_t>(row.size());
+    DropDeadBytes();
+}
+
+void ListView::DropDeadBytes() {
+    if (deadBytes_ < kDeadBytesKept || deadBytes_ < liveBytes_) return;
+    BytePages fresh;
+    for (RowSlot& slot : slots_) {
+        if (slot.data != nullptr) slot.data = fresh.Add({slot.data, slot.length});
+    }
+    pages_ = std::move(fresh);
+    deadBytes_ = 0;
+}
+
+}  // namespace orlo

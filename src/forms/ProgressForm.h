@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/Application.h"
+#include "forms/Form.h"
+
+namespace orlo {
+
+// The display of a long operation; the user can't close it.
+struct ProgressForm : Form {
+    ProgressForm() : Form("frmProgress", kApplicationTitle) {}
+
+    Label lblProgress{*this, "lblProgress", ""};
+    ProgressBar pbProgress{*this, "pbProgress"};
+};
+
+}  // namespace orlo

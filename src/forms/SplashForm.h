@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/Application.h"
+#include "forms/Form.h"
+
+namespace orlo {
+
+struct SplashForm : Form {
+    SplashForm() : Form("frmSplash", kApplicationTitle) { picSplash.accessibleName = kApplicationTitle; }
+
+    Picture picSplash{*this, "picSplash"};
+};
+
+}  // namespace orlo

@@ -1,0 +1,49 @@
+#include "mainwindow/SavePlan.h"
+
+#include "core/Application.h"
+#include "core/FlightplanFile.h"
+#include "core/Path.h"
+#include "core/PlanSideFiles.h"
+#include "mainwindow/BulkOperation.h"
+#include "mainwindow/RecentLists.h"
+
+namespace orlo {
+
+void SaveFlightplan(Context& context) {
+    Session& session = context.session;
+    FileSystem& files = context.services.files;
+    const PlanWriteResult plan =
+        WriteFlightplan(files, session.FlightplanPath, session.Flights, session.BackupPlan);
+    const bool aircraftWritten = WritePlanAircraft(session, files);
+    if (!plan.PlanWritten) {
+        ReportNotWritten(context, session.FlightplanPath);
+    } else if (!plan.RemovedWritten) {
+        ReportNotWritten(context, JoinPath(ParentFolder(session.FlightplanPath), kRemovedFlightsName));
+    } else if (!aircraftWritten) {
+        ReportNotWritten(context, PlanAircraftPath(session));
+    }
+    session.PlanModified = false;
+    context.forms.frmMain.mnuFileSave.enabled = false;
+    ShowMessage(context.services.messages, "Successfully saved modified Flightplan.", kMarkInformation,
+                &context.forms.frmMain);
+}
+
+void SaveFlightplanCommand(Context& context) {
+    const BusyMainWindow busy(context);
+    SaveFlightplan(context);
+}
+
+void SaveFlightplanAs(Context& context) {
+    FileDialog dialog;
+    dialog.title = "Save Flightplan as...";
+    dialog.filter = kTextFileFilter;
+    dialog.startFile = context.session.FlightplanPath;
+    dialog.overwritePrompt = true;
+    const std::string path = context.services.windows.ShowSaveDialog(dialog);
+    if (path.empty()) return;
+    context.session.FlightplanPath = path;
+    AddRecentFlightplan(context, path);
+    SaveFlightplanCommand(context);
+}
+
+}  // namespace orlo

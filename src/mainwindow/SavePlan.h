@@ -1,0 +1,20 @@
+#pragma once
+
+#include "mainwindow/Context.h"
+
+namespace orlo {
+
+// The filter of the dialogs for text files.
+inline constexpr std::string_view kTextFileFilter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
+
+// Writes the plan and Aircraft.txt, clears PlanModified and says so. The message comes whatever the writers
+// did; what could not be written stands in the status bar, and the old file stays whole.
+void SaveFlightplan(Context& context);
+
+// The same in the frame of a busy window: the menu entry.
+void SaveFlightplanCommand(Context& context);
+
+// Asks for a path first; a cancel changes nothing.
+void SaveFlightplanAs(Context& context);
+
+}  // namespace orlo

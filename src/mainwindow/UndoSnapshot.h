@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "core/FlightList.h"
+#include "core/PlanRecords.h"
+
+namespace orlo {
+
+struct Context;
+
+// The traffic as it was before an operation: one step back, no history. mnuToolsUndo being enabled is the
+// only sign that one is held.
+struct UndoSnapshot {
+    FlightList Flights;
+    std::vector<PlanAircraft> PlanAircrafts;
+};
+
+// Copies flights and aircraft and enables mnuToolsUndo; nothing while the switch Undo is off.
+void TakeUndoSnapshot(Context& context);
+
+// Empties the snapshot and disables mnuToolsUndo.
+void DiscardUndoSnapshot(Context& context);
+
+}  // namespace orlo

@@ -1,0 +1,134 @@
+#include "platform/posix/PosixFileSystem.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "core/Path.h"
+#include "platform/posix/PosixHandle.h"
+#include "platform/posix/PosixNames.h"
+#include "platform/posix/PosixOutput.h"
+
+namespace orlo {
+namespace {
+
+constexpr mode_t kNewFile = 0666;
+constexpr mode_t kNewFolder = 0777;
+constexpr std::size_t kCopyPiece = 256 * 1024;
+
+class PosixInput : public InputFile {
+  public:
+    PosixInput(PosixHandle file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
+
+    std::size_t Read(std::span<char> buffer) override {
+        const ssize_t count = ReadSome(file_, buffer);
+        return count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    std::uint64_t Size() const override { return size_; }
+
+  private:
+    PosixHandle file_;
+    std::uint64_t size_;
+};
+
+std::optional<struct stat> FactsOf(const std::string& path) {
+    struct stat facts {};
+    if (!IsUsablePath(path) || stat(ResolveNames(path).c_str(), &facts) != 0) return std::nullopt;
+    return facts;
+}
+
+// The permissions of a copy. A program stays one, and a copy can always be replaced by the next copy.
+mode_t CopyMode(const struct stat& source) {
+    return (source.st_mode & 0777) | S_IWUSR;
+}
+
+bool CopyBytes(const PosixHandle& from, OutputFile& to) {
+    std::vector<char> buffer(kCopyPiece);
+    for (;;) {
+        const ssize_t count = ReadSome(from, buffer);
+        if (count < 0) return false;
+        if (count == 0) return true;
+        if (!to.Write({buffer.data(), static_cast<std::size_t>(count)})) return false;
+    }
+}
+
+}  // namespace
+
+std::string PosixFileSystem::Resolve(const std::string& path) {
+    return ResolveNames(path);
+}
+
+bool PosixFileSystem::FileExists(const std::string& path) {
+    const auto facts = FactsOf(path);
+    return facts && !S_ISDIR(facts->st_mode);
+}
+
+bool PosixFileSystem::FolderExists(const std::string& path) {
+    const auto facts = FactsOf(path);
+    return facts && S_ISDIR(facts->st_mode);
+}
+
+std::optional<std::uint64_t> PosixFileSystem::FileSize(const std::string& path) {
+    const auto facts = FactsOf(path);
+    if (!facts || S_ISDIR(facts->st_mode)) return std::nullopt;
+    return static_cast<std::uint64_t>(facts->st_size);
+}
+
+std::unique_ptr<InputFile> PosixFileSystem::OpenForReading(const std::string& path) {
+    if (!IsUsablePath(path)) return nullptr;
+    PosixHandle file = OpenRegular(ResolveNames(path), O_RDONLY);
+    struct stat facts {};
+    if (!file.IsOpen() || fstat(file.Descriptor(), &facts) != 0) return nullptr;
+    return std::make_unique<PosixInput>(std::move(file), static_cast<std::uint64_t>(facts.st_size));
+}
+
+std::unique_ptr<OutputFile> PosixFileSystem::CreateReplacing(const std::string& path) {
+    return OpenReplacing(ResolveNames(path), kNewFile);
+}
+
+std::unique_ptr<OutputFile> PosixFileSystem::CreateInPlace(const std::string& path) {
+    return OpenInPlace(ResolveNames(path));
+}
+
+bool PosixFileSystem::CopyFile(const std::string& from, const std::string& to) {
+    if (!IsUsablePath(from)) return false;
+    const PosixHandle source = OpenRegular(ResolveNames(from), O_RDONLY);
+    struct stat facts {};
+    if (!source.IsOpen() || fstat(source.Descriptor(), &facts) != 0) return false;
+    const auto target = OpenReplacing(ResolveNames(to), CopyMode(facts));
+    return target && CopyBytes(source, *target) && target->Commit();
+}
+
+bool PosixFileSystem::DeleteFile(const std::string& path) {
+    // unlink refuses folders.
+    return IsUsablePath(path) && unlink(ResolveNames(path).c_str()) == 0;
+}
+
+bool PosixFileSystem::CreateFolders(const std::string& path) {
+    if (!IsUsablePath(path)) return false;
+    std::vector<std::string> made;
+    std::vector<std::string> missing;
+    std::string folder(WithoutTrailingSeparator(ResolveNames(path)));
+    while (!folder.empty() && !FolderExists(folder)) {
+        missing.push_back(folder);
+        folder = WithoutTrailingSeparator(ParentFolder(folder));
+    }
+    for (auto next = missing.rbegin(); next != missing.rend(); ++next) {
+        if (mkdir(next->c_str(), kNewFolder) == 0) {
+            made.push_back(*next);
+        } else if (!FolderExists(*next)) {
+            for (auto last = made.rbegin(); last != made.rend(); ++last) rmdir(last->c_str());
+            return false;
+        }
+    }
+    return true;
+}
+
+std::vector<FolderEntry> PosixFileSystem::ListFolder(const std::string& path) {
+    if (!IsUsablePath(path)) return {};
+    return ListNames(ResolveNames(path));
+}
+
+}  // namespace orlo

@@ -1,0 +1,70 @@
+#include "platform/posix/PosixHandle.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+namespace orlo {
+namespace {
+
+// Some systems refuse or cut a single transfer of 2 GB and more.
+constexpr std::size_t kLargestTransfer = std::size_t{1} << 30;
+
+}  // namespace
+
+PosixHandle& PosixHandle::operator=(PosixHandle&& other) noexcept {
+    if (this != &other) {
+        Close();
+        descriptor_ = other.Release();
+    }
+    return *this;
+}
+
+bool PosixHandle::Close() {
+    if (!IsOpen()) return true;
+    // An interrupted close is not repeated: the number may belong to another file by then.
+    return close(Release()) == 0 || errno == EINTR;
+}
+
+int PosixHandle::Release() {
+    return std::exchange(descriptor_, -1);
+}
+
+PosixHandle OpenRegular(const std::string& path, int flags, mode_t mode) {
+    struct stat facts {};
+    // Opening a device can already do something to it, so what stands there is looked at first, and again
+    // once it is open in case it was exchanged.
+    if (stat(path.c_str(), &facts) == 0 && !S_ISREG(facts.st_mode)) return {};
+    int descriptor = -1;
+    do {
+        descriptor = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, mode);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor < 0) return {};
+    PosixHandle file(descriptor);
+    if (fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode)) return {};
+    return file;
+}
+
+bool WriteAll(const PosixHandle& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written =
+            write(file.Descriptor(), bytes.data(), std::min(bytes.size(), kLargestTransfer));
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+ssize_t ReadSome(const PosixHandle& file, std::span<char> buffer) {
+    ssize_t count = 0;
+    do {
+        count = read(file.Descriptor(), buffer.data(), std::min(buffer.size(), kLargestTransfer));
+    } while (count < 0 && errno == EINTR);
+    return count;
+}
+
+}  // namespace orlo

@@ -1,0 +1,59 @@
+#include "platform/posix/PosixMachineSettings.h"
+
+#include <cstdlib>
+#include <memory>
+
+#include "core/Path.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+#include "platform/common/WineRegistry.h"
+
+namespace orlo {
+namespace {
+
+// The path without links; empty where nothing stands.
+std::string RealPath(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
+    return real ? std::string(real.get()) : std::string();
+}
+
+}  // namespace
+
+PosixMachineSettings::PosixMachineSettings(FileSystem& files, std::string machineFile, std::string winePrefix)
+    : files_(files), winePrefix_(std::move(winePrefix)), machineFile_(files, std::move(machineFile)) {}
+
+std::optional<std::string> PosixMachineSettings::Get(std::string_view keyPath, std::string_view name) {
+    if (!simulator_.empty() && EqualNoCase(keyPath, kSimulatorKeyPath) && EqualNoCase(name, kSimulatorValue))
+        return simulator_;
+    const auto key = std::make_pair(UpperText(keyPath), UpperText(name));
+    const auto known = known_.find(key);
+    if (known != known_.end()) return known->second;
+    return known_.emplace(key, Find(keyPath, name)).first->second;
+}
+
+std::optional<std::string> PosixMachineSettings::Find(std::string_view keyPath, std::string_view name) {
+    auto value = machineFile_.Get(keyPath, name);
+    return value ? value : FindInWine(keyPath, name);
+}
+
+std::optional<std::string> PosixMachineSettings::FindInWine(std::string_view keyPath, std::string_view name) {
+    if (winePrefix_.empty()) return std::nullopt;
+    const auto text = ReadWholeFile(files_, JoinPath(winePrefix_, "system.reg"));
+    if (!text) return std::nullopt;
+    const auto value = FindWineRegistryValue32(*text, keyPath, name);
+    if (!value) return std::nullopt;
+    return SystemPath(*value);
+}
+
+// A value that names a place on a drive as the system's path to it; any other as it is, and so is one on a
+// drive that the prefix doesn't have.
+std::string PosixMachineSettings::SystemPath(const std::string& value) {
+    const auto parts = SplitDrivePath(value);
+    if (!parts) return value;
+    std::string drive = RealPath(JoinPath(winePrefix_, Concat("dosdevices/", parts->drive, ":")));
+    if (drive.empty()) drive = RealPath(JoinPath(winePrefix_, Concat("drive_", parts->drive)));
+    if (drive.empty()) return value;
+    return files_.Resolve(JoinPath(drive, parts->rest));
+}
+
+}  // namespace orlo

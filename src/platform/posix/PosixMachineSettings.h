@@ -1,0 +1,47 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "platform/common/TextSettingsStore.h"
+#include "services/FileSystem.h"
+#include "services/SettingsStore.h"
+
+namespace orlo {
+
+inline constexpr std::string_view kMachineSettingsPath = "/etc/orlo/machine.txt";
+inline constexpr std::string_view kSimulatorKeyPath =
+    "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0";
+inline constexpr std::string_view kSimulatorValue = "EXE Path";
+
+// The machine-wide settings. A value comes from the first place that has it: a simulator's folder that was
+// given, the machine file (text form of TextSettingsStore), the registry of the user's Wine prefix. Paths
+// from there are given as the system's paths. Each value is looked up once.
+class PosixMachineSettings : public SettingsStore {
+  public:
+    // `winePrefix` is the prefix's folder, as from WinePrefixFolder(); an empty one, as an empty
+    // `machineFile`, is no place to look.
+    PosixMachineSettings(FileSystem& files, std::string machineFile, std::string winePrefix);
+
+    // Answers for the simulator's value before all else; an empty text takes that back.
+    void SetSimulator(std::string folder) { simulator_ = std::move(folder); }
+
+    std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override;
+    // Never written: always false.
+    bool Set(std::string_view, std::string_view, std::string_view) override { return false; }
+    bool Flush() override { return true; }
+
+  private:
+    std::optional<std::string> Find(std::string_view keyPath, std::string_view name);
+    std::optional<std::string> FindInWine(std::string_view keyPath, std::string_view name);
+    std::string SystemPath(const std::string& value);
+
+    FileSystem& files_;
+    std::string winePrefix_;
+    std::string simulator_;
+    TextSettingsStore machineFile_;
+    std::map<std::pair<std::string, std::string>, std::optional<std::string>> known_;
+};
+
+}  // namespace orlo

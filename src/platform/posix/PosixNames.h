@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/FileSystem.h"
+
+namespace orlo {
+
+// A file name in the form in which names are compared and sorted. A UTF-8 name counts as the code page 1252
+// text that it shows, so that a name from a file of the simulator finds its file on a UTF-8 disk; a name with
+// other characters is folded in its ASCII letters only.
+std::string FoldedFileName(std::string_view name);
+
+// Whether the system can be asked for the path at all: it isn't empty and holds no zero byte, at which the
+// system would cut it.
+bool IsUsablePath(std::string_view path);
+
+// See FileSystem::Resolve. A component that is missing, or whose folder can't be read, ends the look-up; of
+// several names that differ in case only, the first in byte order is taken.
+std::string ResolveNames(const std::string& path);
+
+// The path that the links at `path` lead to in the end, which need not exist; empty when they lead in a
+// circle.
+std::string FollowLinks(std::string path);
+
+// See FileSystem::ListFolder. Links to folders are folders.
+std::vector<FolderEntry> ListNames(const std::string& folder);
+
+}  // namespace orlo

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "forms/Event.h"
+#include "mainwindow/Context.h"
+
+namespace orlo {
+
+// The windows that are open, the topmost first, and which of them are modal.
+struct OpenForms {
+    std::vector<Form*> forms;
+    std::vector<Form*> modal;  // topmost first
+
+    void Show(Form& form);
+    void Unload(Form& form);
+    bool IsOpen(const Form& form) const;
+    // The topmost modal form; without one, null: all open forms take events.
+    Form* TopModal() const { return modal.empty() ? nullptr : modal.front(); }
+};
+
+// Runs events one at a time. An event for a form under a modal one, for a control that is disabled by now,
+// or, while an operation lets events run, for any form but the topmost modal one, is dropped.
+class EventPump {
+  public:
+    explicit EventPump(Context& context) : context_(context) {}
+    EventPump(const EventPump&) = delete;
+    EventPump& operator=(const EventPump&) = delete;
+
+    OpenForms& Windows() { return windows_; }
+
+    void Post(const Event& event) { queue_.push_back(event); }
+    // Runs what is queued; nothing while an operation runs below the same modal form.
+    void RunQueued();
+    // Runs one event at once. False when it was dropped or its procedure refused it.
+    bool Deliver(Event& event);
+
+    bool OperationRuns() const { return running_ > 0; }
+
+    // A modal form opens a new round of events above the operation that shows it.
+    int EnterModal();
+    void LeaveModal(int running) { running_ = running; }
+
+  private:
+    bool Accepts(const Event& event) const;
+    void Run(Event& event);
+    void RecoverFromFailure(std::string_view reason);
+
+    Context& context_;
+    OpenForms windows_;
+    std::deque<Event> queue_;
+    int running_ = 0;
+};
+
+}  // namespace orlo

@@ -1,0 +1,186 @@
+#include <array>
+
+#include "mainwindow/SavePlan.h"
+#include "shell/EventTables.h"
+#include "shell/MenuSwitches.h"
+#include "shell/OpenPlan.h"
+#include "shell/ShuffleTab.h"
+#include "shell/Shutdown.h"
+#include "shell/StartUp.h"
+#include "shell/Tabs.h"
+#include "shell/TreeEvents.h"
+
+namespace orlo {
+namespace {
+
+template <auto Procedure>
+void Run(Context& context, Event&) {
+    Procedure(context);
+}
+
+void NoAction(Context&, Event&) {}
+
+void OpenPlan(Context& context, Event&) {
+    OpenFlightplan(context, "");
+}
+
+template <std::size_t Place>
+void OpenRecentPlan(Context& context, Event&) {
+    OpenFlightplan(context, context.session.RecentFlightplans[Place]);
+}
+
+void CloseMainWindow(Context& context, Event& event) {
+    if (Shutdown(context)) {
+        context.forms.frmMain.closeRequest = true;
+    } else {
+        event.refused = true;
+    }
+}
+
+void SortByColumn(Context&, Event& event) {
+    auto& list = static_cast<ListView&>(*event.control);
+    list.ascending = list.sorted && list.sortColumn == event.value ? !list.ascending : true;
+    list.sortColumn = event.value;
+    list.Sort();
+    list.ensureVisibleRequest = true;
+}
+
+using enum EventKind;
+
+constexpr std::array kMainEvents = {
+    EventEntry{"", Close, CloseMainWindow},
+    EventEntry{kSplashTimer, Timer, Run<CloseSplash>},
+    EventEntry{"tabMain", SelectTab, Run<ActivateTab>},
+
+    EventEntry{"cmShufflerView", Change, Run<OnShufflerView>},
+    EventEntry{"cmMoveView", Change, Run<OnMoveView>},
+    EventEntry{"tvShuffleAircraft", CheckNode, OnNodeCheck},
+    EventEntry{"tvMoveAircrafts", CheckNode, OnNodeCheck},
+    EventEntry{"tvShuffleAircraft", Hover, OnTreeHover},
+    EventEntry{"tvMoveAircrafts", Hover, OnTreeHover},
+    EventEntry{"tvShuffleAircraft", Popup, OnSelectPopup},
+    EventEntry{"tvMoveAircrafts", Popup, OnSelectPopup},
+    EventEntry{"lvExPreview", Popup, OnSelectPopup},
+    EventEntry{"mnuSelectAll", Click, Run<OnSelectAll>},
+    EventEntry{"mnuDeselectAll", Click, Run<OnDeselectAll>},
+    EventEntry{"mnuInverseSelection", Click, Run<OnInverseSelection>},
+
+    EventEntry{"txtStartNumber", Leave, OnLeaveStartNumber},
+    EventEntry{"cmdCalcStartNumber", Click, Run<OnCalcStartNumber>},
+    EventEntry{"cmdShuffle", Click, Run<OnShuffle>},
+    EventEntry{"cmdACTypeDat", Click},
+
+    EventEntry{"cmdMove", Click},
+    EventEntry{"cmdMovePercent", Click},
+    EventEntry{"cmdMoveSave", Click},
+    EventEntry{"cmdMoveLoad", Click},
+    EventEntry{"cmdMoveExecute", Click},
+
+    EventEntry{"cmExZone", Change},
+    EventEntry{"cmdPreview", Click},
+    EventEntry{"cmdExport", Click},
+    EventEntry{"cmdExportRemainder", Click},
+    EventEntry{"cmdExportPrint", Click},
+    EventEntry{"cmdEditFlight", Click},
+    EventEntry{"cmdAddFlight", Click},
+    EventEntry{"cmdDeleteFlight", Click},
+    EventEntry{"lvExPreview", ClickColumn, SortByColumn},
+
+    EventEntry{"cmTTZone", Change},
+    EventEntry{"cmdTTShow", Click},
+    EventEntry{"cmdTTPrint", Click},
+    EventEntry{"cmdTTSave", Click},
+    EventEntry{"cmdTTStatistics", Click},
+    EventEntry{"lvTimetable", ClickColumn, SortByColumn},
+
+    EventEntry{"cmdProjectCompile", Click},
+    EventEntry{"cmdProjectMerge", Click},
+    EventEntry{"cmdProjectAdd", Click},
+    EventEntry{"cmdProjectDelete", Click},
+    EventEntry{"cmdProjectFile", Click},
+    EventEntry{"cmdProjectAC", Click},
+    EventEntry{"lvProject", ClickColumn, SortByColumn},
+
+    EventEntry{"mnuFileLoad", Click, OpenPlan},
+    EventEntry{"mnuFileSave", Click, Run<SaveFlightplanCommand>},
+    EventEntry{"mnuFileSaveAs", Click, Run<SaveFlightplanAs>},
+    EventEntry{"mnuFileNewProject", Click},
+    EventEntry{"mnuFileOpenProject", Click},
+    EventEntry{"mnuFileSaveProject", Click},
+    EventEntry{"mnuFileSaveProjectAs", Click},
+    EventEntry{"mnuRecentFlightPlan1", Click, OpenRecentPlan<0>},
+    EventEntry{"mnuRecentFlightPlan2", Click, OpenRecentPlan<1>},
+    EventEntry{"mnuRecentFlightPlan3", Click, OpenRecentPlan<2>},
+    EventEntry{"mnuRecentFlightPlan4", Click, OpenRecentPlan<3>},
+    EventEntry{"mnuRecentFlightPlan5", Click, OpenRecentPlan<4>},
+    EventEntry{"mnuRecentProjects1", Click},
+    EventEntry{"mnuRecentProjects2", Click},
+    EventEntry{"mnuRecentProjects3", Click},
+    EventEntry{"mnuRecentProjects4", Click},
+    EventEntry{"mnuRecentProjects5", Click},
+    EventEntry{"mnuFileExit", Click, CloseMainWindow},
+
+    EventEntry{"mnuToolsUndo", Click},
+    EventEntry{"mnuToolsShuffle", Click, NoAction},
+    EventEntry{"mnuToolsMove", Click, NoAction},
+    EventEntry{"mnuToolsCompileCurrent", Click},
+    EventEntry{"mnuToolsCompile", Click},
+    EventEntry{"mnuToolsDecompile", Click},
+    EventEntry{"mnuToolsEditPlanAircraft", Click},
+    EventEntry{"mnuToolsAircraftEditor", Click},
+    EventEntry{"mnuToolsAirportDistance", Click},
+    EventEntry{"mnuToolsAirportSearch", Click},
+    EventEntry{"mnuToolsResizeGates", Click},
+    EventEntry{"mnuReportsNotFound", Click},
+    EventEntry{"mnuReportsDuplicateFlights", Click},
+    EventEntry{"mnuReportsUnknownAirports", Click},
+    EventEntry{"mnuReportsWrongFL", Click},
+    EventEntry{"mnuReportsWrongTime", Click},
+    EventEntry{"mnuToolsCheckFL", Click},
+    EventEntry{"mnuToolsCheckFT", Click},
+    EventEntry{"mnuToolsRemoveMinus", Click},
+    EventEntry{"mnuToolsRandPlan", Click},
+    EventEntry{"mnuToolsRandPerc", Click},
+    EventEntry{"mnuToolsRandFlightNumbers", Click},
+    EventEntry{"mnuToolsAirlinesCFG", Click},
+    EventEntry{"mnuToolsAirportsTXT", Click},
+    EventEntry{"mnuToolsFPAirportsTXT", Click},
+    EventEntry{"mnuToolsDeleteCache", Click, Run<DeleteSceneryCache>},
+
+    EventEntry{"mnuToolsShowCompiler", Click, OnSwitch},
+    EventEntry{"mnuToolsDebug", Click, OnSwitch},
+    EventEntry{"mnuToolsUndoOn", Click, OnSwitch},
+    EventEntry{"mnuToolsACCheck", Click, OnSwitch},
+    EventEntry{"mnuToolsBackupPlan", Click, OnSwitch},
+    EventEntry{"mnuToolsBackupAircraft", Click, OnSwitch},
+    EventEntry{"mnuTAOff", Click, OnTurnAround},
+    EventEntry{"mnuTA30", Click, OnTurnAround},
+    EventEntry{"mnuTA45", Click, OnTurnAround},
+    EventEntry{"mnuTA60", Click, OnTurnAround},
+    EventEntry{"mnuTA90", Click, OnTurnAround},
+    EventEntry{"mnuTA120", Click, OnTurnAround},
+    EventEntry{"mnuMaxTAOff", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA1", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA2", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA4", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA8", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA12", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA18", Click, OnTurnAround},
+    EventEntry{"mnuMaxTA24", Click, OnTurnAround},
+
+    EventEntry{"mnuViewToolbar", Click, NoAction},
+    EventEntry{"mnuViewStatusBar", Click, NoAction},
+    EventEntry{"mnuViewRefresh", Click, NoAction},
+    EventEntry{"mnuViewOptions", Click, NoAction},
+    EventEntry{"mnuHelpContents", Click},
+    EventEntry{"mnuHelpSearchForHelpOn", Click, NoAction},
+    EventEntry{"mnuHelpAbout", Click},
+};
+
+}  // namespace
+
+EventTable MainEvents() {
+    return kMainEvents;
+}
+
+}  // namespace orlo

@@ -1,0 +1,47 @@
+#include "shell/MenuSwitches.h"
+
+#include <array>
+
+#include "core/Path.h"
+#include "shell/SettingsMirror.h"
+#include "simulator/Scenery.h"
+
+namespace orlo {
+
+void OnSwitch(Context& context, Event& event) {
+    struct Tick {
+        MenuEntry& entry;
+        bool& value;
+    };
+    MainForm& form = context.forms.frmMain;
+    Session& session = context.session;
+    const std::array<Tick, 6> ticks = {{{form.mnuToolsShowCompiler, session.ShowCompiler},
+                                        {form.mnuToolsDebug, session.DebugOn},
+                                        {form.mnuToolsUndoOn, session.Undo},
+                                        {form.mnuToolsACCheck, session.ACCheck},
+                                        {form.mnuToolsBackupPlan, session.BackupPlan},
+                                        {form.mnuToolsBackupAircraft, session.BackupAircraft}}};
+    for (const Tick& tick : ticks) {
+        if (event.control != &tick.entry) continue;
+        tick.value = !tick.value;
+        tick.entry.checked = tick.value;
+    }
+    if (!session.Undo) DiscardUndoSnapshot(context);
+}
+
+void OnTurnAround(Context& context, Event& event) {
+    MainForm& form = context.forms.frmMain;
+    for (const TurnAroundLimit& limit : MinimumTurnArounds()) {
+        if (event.control == &(form.*limit.entry)) SetTATime(context, limit.value);
+    }
+    for (const TurnAroundLimit& limit : MaximumTurnArounds()) {
+        if (event.control == &(form.*limit.entry)) SetMaxTATime(context, limit.value);
+    }
+}
+
+void DeleteSceneryCache(Context& context) {
+    context.services.files.DeleteFile(JoinPath(context.session.ProgramFolder, kAFDCacheName));
+    context.session.Airports = {};
+}
+
+}  // namespace orlo

@@ -1,0 +1,147 @@
+#include "shell/OpenPlan.h"
+
+#include "core/Application.h"
+#include "core/FlightplanFile.h"
+#include "core/KeyedIndex.h"
+#include "core/PlanSideFiles.h"
+#include "core/Text.h"
+#include "mainwindow/AircraftTrees.h"
+#include "mainwindow/BulkOperation.h"
+#include "mainwindow/PlanViews.h"
+#include "mainwindow/RecentLists.h"
+#include "mainwindow/SavePlan.h"
+#include "mainwindow/TreeSelection.h"
+#include "shell/Tabs.h"
+#include "simulator/AircraftScan.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kOpenStages = 7;
+
+// The path to open; empty when the user cancels or the file isn't there.
+std::string ChoosePlan(Context& context, std::string path) {
+    Services& services = context.services;
+    if (path.empty()) {
+        FileDialog dialog;
+        dialog.title = "Open Flightplan";
+        dialog.filter = kTextFileFilter;
+        dialog.startFolder = context.session.FlightplanPath;
+        dialog.fileMustExist = true;
+        path = services.windows.ShowOpenDialog(dialog);
+        if (path.empty()) return {};
+    }
+    if (!services.files.FileExists(path)) {
+        ShowMessage(services.messages, "Flightplan file not found.", kMarkExclamation,
+                    &context.forms.frmMain);
+        return {};
+    }
+    return path;
+}
+
+void EraseOldPlan(Context& context) {
+    Session& session = context.session;
+    MainForm& form = context.forms.frmMain;
+    DiscardUndoSnapshot(context);
+    session.Flights.Clear();
+    session.PlanAircrafts.clear();
+    session.PlanAirports.clear();
+    session.PlanAirportIndex.Clear();
+    session.FSAircrafts.clear();
+
+    const FrozenForm frozen(form);
+    form.tvShuffleAircraft.visible = false;
+    form.tvMoveAircrafts.visible = false;
+    form.tvShuffleAircraft.Clear();
+    form.tvMoveAircrafts.Clear();
+}
+
+// Reads all that a plan stands on. False at the first list that stays empty; its reader has said why.
+bool ReadPlan(Context& context) {
+    Session& session = context.session;
+    NextProgress(context, "Reading Airport configuration...", 2);
+    ReadPlanAirports(session, context.services);
+    if (session.PlanAirportCount() == 0) return false;
+
+    NextProgress(context, "Reading Aircraft configuration...", 3);
+    ReadPlanAircraft(session, context.services);
+    if (session.PlanAircraftCount() == 0) return false;
+
+    NextProgress(context, "Reading Flightplan...", 4);
+    ReadFlightplan(session, context.services);
+    if (session.FlightCount() == 0) return false;
+
+    context.services.progress.SetMax(kOpenStages);
+    NextProgress(context, "Detecting FS2002 Aircraft...", 5);
+    ScanAircraft(session, context.services.files, GetSimulatorPath(context.services.machineSettings), true);
+    return session.FSAircraftCount() > 0;
+}
+
+void ShowPlan(Context& context) {
+    Session& session = context.session;
+    MainForm& form = context.forms.frmMain;
+    NextProgress(context, "Refreshing...", 6);
+    FillAircraftTrees(form, session);
+    ResetTimetableView(context);
+    ResetExportView(context);
+    ResetMoverView(context);
+    EnablePlanCommands(context);
+    form.tvShuffleAircraft.visible = true;
+    form.tvMoveAircrafts.visible = true;
+    session.PlanLoaded = true;
+    RefreshShuffleLabel(form);
+    form.sbMain.text =
+        Concat("Flightplan loaded with ", session.FlightCount(), " flights [", session.FlightplanPath, "].");
+}
+
+void OfferMissingAircraft(Context& context) {
+    const MessageAnswer answer = ShowMessage(
+        context.services.messages,
+        "Some aircraft could not been found on your system. Would you like to see all related flights?",
+        kButtonsYesNo | kMarkExclamation, &context.forms.frmMain);
+    if (answer == MessageAnswer::Yes) context.forms.frmMain.tabMain.selectedKey = "EXPORT";
+}
+
+}  // namespace
+
+bool AllPlanAircraftInstalled(const Session& session) {
+    KeyedIndex<bool> titles;
+    titles.Reserve(session.FSAircrafts.size());
+    for (const FSAircraft& aircraft : session.FSAircrafts) titles.Add(aircraft.Title, true);
+    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+        if (!titles.Contains(aircraft.Title)) return false;
+    }
+    return true;
+}
+
+void OpenFlightplan(Context& context, std::string path) {
+    Session& session = context.session;
+    if (session.PlanModified) {
+        const MessageAnswer answer = ShowMessage(context.services.messages, "Save the modified Flightplan?",
+                                                 kButtonsYesNoCancel | kMarkQuestion, &context.forms.frmMain);
+        if (answer == MessageAnswer::Cancel) return;
+        if (answer == MessageAnswer::Yes) SaveFlightplan(context);
+    }
+    path = ChoosePlan(context, std::move(path));
+    if (path.empty()) return;
+
+    session.FlightplanPath = path;
+    session.PlanLoaded = false;
+    session.PlanModified = false;
+    DisablePlanCommands(context);
+    const BusyMainWindow busy(context);
+    OpenProgress(context, "Cleaning Memory...", kOpenStages, 1);
+    EraseOldPlan(context);
+    if (!ReadPlan(context)) {
+        context.services.progress.Close();
+        return;
+    }
+    ShowPlan(context);
+    const bool aircraftMissing = session.ACCheck && !AllPlanAircraftInstalled(session);
+    context.services.progress.Close();
+    AddRecentFlightplan(context, session.FlightplanPath);
+    if (aircraftMissing) OfferMissingAircraft(context);
+    ActivateTab(context);
+}
+
+}  // namespace orlo

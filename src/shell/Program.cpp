@@ -1,0 +1,10 @@
+#include "shell/Program.h"
+
+namespace orlo {
+
+Program::Program(Services& services, std::string programFolder)
+    : context{session, forms, services, undo}, pump(context) {
+    session.ProgramFolder = std::move(programFolder);
+}
+
+}  // namespace orlo

@@ -1,0 +1,56 @@
+#include "shell/Shutdown.h"
+
+#include "core/Application.h"
+#include "mainwindow/BulkOperation.h"
+#include "mainwindow/SavePlan.h"
+#include "shell/SettingsMirror.h"
+#include "shell/StartUp.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kCleaningStages = 2;
+
+MessageAnswer AskToSave(Context& context, std::string_view question) {
+    return ShowMessage(context.services.messages, question, kButtonsYesNoCancel | kMarkQuestion,
+                       &context.forms.frmMain);
+}
+
+void EraseMemory(Context& context) {
+    Session& session = context.session;
+    DiscardUndoSnapshot(context);
+    session.Airports = {};
+    session.Airlines = {};
+    session.RunAirlines = {};
+    session.SearchResults.Clear();
+    session.Flights.Clear();
+    session.PlanAircrafts = {};
+    session.PlanAirports = {};
+    session.PlanAirportIndex.Clear();
+    session.FSAircrafts = {};
+}
+
+}  // namespace
+
+bool Shutdown(Context& context) {
+    Session& session = context.session;
+    context.services.progress.Close();
+    if (context.services.windows.TimerArmed(kSplashTimer)) CloseSplash(context);
+    if (session.PlanModified) {
+        const MessageAnswer answer = AskToSave(context, "Save the modified Flightplan?");
+        if (answer == MessageAnswer::Cancel) return false;
+        if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
+    }
+    if (session.ProjectModified) {
+        const MessageAnswer answer = AskToSave(context, "Save the modified Project?");
+        if (answer == MessageAnswer::Cancel) return false;
+    }
+    const BusyMainWindow busy(context);
+    WriteSettings(context);
+    OpenProgress(context, "Cleaning Memory...", kCleaningStages, 1);
+    EraseMemory(context);
+    context.services.progress.Close();
+    return true;
+}
+
+}  // namespace orlo

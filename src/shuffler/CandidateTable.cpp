@@ -1,0 +1,138 @@
+#include "shuffler/CandidateTable.h"
+
+#include <algorithm>
+#include <limits>
+#include <map>
+
+#include "core/AirportRecord.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+// The bit of a surface; all that is no surface share bit 0.
+std::int32_t SurfaceBit(std::int32_t surface) {
+    return surface >= kSurfaceHard && surface <= kSurfaceSnow ? 1 << surface : 1;
+}
+
+std::int32_t SurfaceBitsOf(const FSAircraft& aircraft) {
+    std::int32_t bits = 0;
+    for (std::int32_t surface = kSurfaceNone; surface <= kSurfaceSnow; ++surface) {
+        if (ContainsNoCase(aircraft.RunwayTypes, SurfaceText(surface))) bits |= SurfaceBit(surface);
+    }
+    return bits;
+}
+
+// Whether an airline has more of the set's flights, in whole percent, than planned. A planned percent can be
+// negative, as read.
+bool IsOverShare(const AirlineEntry& entry, std::int32_t setFlights) {
+    if (setFlights == 0) return entry.PlannedPercent < 0;
+    const std::int64_t achieved = static_cast<std::int64_t>(entry.Flights) * 100;
+    return achieved >= (static_cast<std::int64_t>(entry.PlannedPercent) + 1) * setFlights;
+}
+
+}  // namespace
+
+CandidateTable::CandidateTable(const std::vector<AirlineSet*>& sets,
+                               const std::vector<FSAircraft>& fsAircrafts, bool anyLevel) {
+    const std::vector<std::int32_t> profileByAircraft = FindProfiles(fsAircrafts, anyLevel);
+    profileFits_.resize(profiles_.size());
+    for (AirlineSet* set : sets) AddSet(*set, profileByAircraft);
+    firstRow_.push_back(static_cast<std::int32_t>(choices_.size()));
+    firstSetProfile_.push_back(static_cast<std::int32_t>(setProfiles_.size()));
+
+    std::int32_t mostRows = 0;
+    for (std::size_t i = 1; i < firstRow_.size(); ++i) {
+        mostRows = std::max(mostRows, firstRow_[i] - firstRow_[i - 1]);
+    }
+    fitting_.resize(static_cast<std::size_t>(mostRows) +
+                    1);  // a row that doesn't fit is written, not counted
+}
+
+CandidateTable::Profile CandidateTable::ProfileOf(const FSAircraft& aircraft, bool anyLevel) {
+    constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+    return {anyLevel ? kLowest : aircraft.MinFL,
+            anyLevel ? kHighest : aircraft.MaxFL,
+            aircraft.MinRange,
+            aircraft.MaxRange,
+            aircraft.RunwayLength,
+            aircraft.MinParkingRadius,
+            SurfaceBitsOf(aircraft)};
+}
+
+// Fills profiles_ and gives the place there of each aircraft's profile.
+std::vector<std::int32_t> CandidateTable::FindProfiles(const std::vector<FSAircraft>& fsAircrafts,
+                                                       bool anyLevel) {
+    std::map<Profile, std::int32_t> places;
+    std::vector<std::int32_t> profileByAircraft;
+    profileByAircraft.reserve(fsAircrafts.size());
+    for (const FSAircraft& aircraft : fsAircrafts) {
+        const auto next = static_cast<std::int32_t>(profiles_.size());
+        const auto [found, isNew] = places.try_emplace(ProfileOf(aircraft, anyLevel), next);
+        if (isNew) profiles_.push_back(found->first);
+        profileByAircraft.push_back(found->second);
+    }
+    return profileByAircraft;
+}
+
+void CandidateTable::AddSet(AirlineSet& set, const std::vector<std::int32_t>& profileByAircraft) {
+    const std::size_t firstRow = choices_.size();
+    firstRow_.push_back(static_cast<std::int32_t>(firstRow));
+    for (AirlineEntry& entry : set.Airlines) {
+        for (AirlineAircraft& aircraft : entry.Aircraft) {
+            choices_.push_back({&entry, &aircraft});
+            rowProfile_.push_back(profileByAircraft[static_cast<std::size_t>(aircraft.AircraftIndex)]);
+        }
+    }
+    std::vector<std::int32_t> different(rowProfile_.begin() + static_cast<std::ptrdiff_t>(firstRow),
+                                        rowProfile_.end());
+    std::sort(different.begin(), different.end());
+    different.erase(std::unique(different.begin(), different.end()), different.end());
+    firstSetProfile_.push_back(static_cast<std::int32_t>(setProfiles_.size()));
+    setProfiles_.insert(setProfiles_.end(), different.begin(), different.end());
+}
+
+void CandidateTable::TestProfiles(const FlightLimits& limits, const RouteNeeds& needs) {
+    const std::int32_t surface = SurfaceBit(needs.surface);
+    for (std::size_t i = 0; i < profiles_.size(); ++i) {
+        const auto& [minLevel, maxLevel, minRange, maxRange, runway, parking, surfaces] = profiles_[i];
+        profileFits_[i] = static_cast<std::uint8_t>(
+            (limits.minLevel >= minLevel) & (limits.maxLevel <= maxLevel) & (limits.minDistance >= minRange) &
+            (limits.maxDistance <= maxRange) & (runway <= needs.minRunway) & (parking <= needs.minParking) &
+            ((surfaces & surface) != 0));
+    }
+}
+
+bool CandidateTable::AnyProfileFits(std::size_t set) const {
+    for (std::int32_t i = firstSetProfile_[set]; i < firstSetProfile_[set + 1]; ++i) {
+        const std::int32_t profile = setProfiles_[static_cast<std::size_t>(i)];
+        if (profileFits_[static_cast<std::size_t>(profile)] != 0) return true;
+    }
+    return false;
+}
+
+std::span<std::int32_t> CandidateTable::FindFitting(std::int32_t set) {
+    const auto place = static_cast<std::size_t>(set);
+    if (!AnyProfileFits(place)) return {};
+    const std::int32_t end = firstRow_[place + 1];
+    std::size_t found = 0;
+    // Without a branch: a row that doesn't fit is overwritten by the next.
+    for (std::int32_t row = firstRow_[place]; row < end; ++row) {
+        const std::int32_t profile = rowProfile_[static_cast<std::size_t>(row)];
+        fitting_[found] = row;
+        found += profileFits_[static_cast<std::size_t>(profile)];
+    }
+    return {fitting_.data(), found};
+}
+
+std::span<std::int32_t> CandidateTable::PreferUnderShare(std::int32_t setFlights,
+                                                         std::span<std::int32_t> rows) const {
+    std::size_t under = 0;
+    for (const std::int32_t row : rows) {
+        if (!IsOverShare(*At(row).entry, setFlights)) rows[under++] = row;
+    }
+    return under > 0 ? rows.first(under) : rows;
+}
+
+}  // namespace orlo

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "core/AircraftRecords.h"
+#include "core/AirlineRecords.h"
+#include "shuffler/ShuffleLog.h"
+
+namespace orlo {
+
+// What all aircraft of all sets can do, laid out for the innermost test of the shuffle. Most aircraft take
+// their limits from a class or a model, so that few different ones stand behind many aircraft: these profiles
+// are tested once for each flight, and a set without a fitting profile is passed at once.
+class CandidateTable {
+  public:
+    // `sets` and the records they point to must outlive this, and their entries and aircraft must not move.
+    // With `anyLevel` the aircraft's levels are not tested.
+    CandidateTable(const std::vector<AirlineSet*>& sets, const std::vector<FSAircraft>& fsAircrafts,
+                   bool anyLevel);
+
+    struct Choice {
+        AirlineEntry* entry = nullptr;
+        AirlineAircraft* aircraft = nullptr;
+    };
+
+    // Tests all profiles for a flight, to which the further calls belong.
+    void TestProfiles(const FlightLimits& limits, const RouteNeeds& needs);
+
+    // The rows of the set's aircraft that fit, in order. They hold until the next call.
+    std::span<std::int32_t> FindFitting(std::int32_t set);
+
+    // Moves the rows whose airline has not passed its planned share of the set's flights to the front, in
+    // order, and gives these; where there are none, gives all rows as they are.
+    std::span<std::int32_t> PreferUnderShare(std::int32_t setFlights, std::span<std::int32_t> rows) const;
+
+    const Choice& At(std::int32_t row) const { return choices_[static_cast<std::size_t>(row)]; }
+
+  private:
+    // Minimal and maximal level, minimal and maximal range, runway, parking, bits of surfaces.
+    using Profile = std::array<std::int32_t, 7>;
+    static Profile ProfileOf(const FSAircraft& aircraft, bool anyLevel);
+    std::vector<std::int32_t> FindProfiles(const std::vector<FSAircraft>& fsAircrafts, bool anyLevel);
+    void AddSet(AirlineSet& set, const std::vector<std::int32_t>& profileByAircraft);
+    bool AnyProfileFits(std::size_t set) const;
+
+    std::vector<Profile> profiles_;
+    std::vector<std::uint8_t> profileFits_;  // 1 or 0, for the flight under test
+
+    std::vector<std::int32_t> firstRow_;  // by set, with the end of the last one behind it
+    std::vector<Choice> choices_;         // by row: the aircraft of a set follow each other, by entry
+    std::vector<std::int32_t> rowProfile_;
+    std::vector<std::int32_t> firstSetProfile_;  // by set, as above
+    std::vector<std::int32_t> setProfiles_;      // the different profiles of each set
+    std::vector<std::int32_t> fitting_;
+};
+
+}  // namespace orlo

@@ -1,0 +1,144 @@
+#include "shuffler/ShuffleLog.h"
+
+#include <array>
+
+#include "core/AirportRecord.h"
+#include "core/Path.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::size_t kPieceSize = 64 * 1024;
+constexpr std::string_view kNoAirline = "No Airline";
+constexpr std::string_view kRule =
+    ";---------------------------------------------------------------------------------";
+constexpr std::string_view kTitle =
+    ";------------------------------- O R L O  L O G ----------------------------------";
+
+constexpr std::array<std::string_view, 12> kHead = {
+    kRule,
+    kTitle,
+    ";Format:",
+    ";  Airline / Aircraft Title / Aircraft Class / UI Manufacture / UI Type",
+    ";  Runway: Min. Runway Length / Min. Parking Radius / Min. Runway Surface",
+    ";      (only added if no aircraft could be found)",
+    ";  Aircraft Number / Tail Number / IFR-VFR / Departure ICAO / Destination ICAO /",
+    ";      Min. Flight Level / Max. Flight Level / Min. Distance / Max. Distance /",
+    ";      Location (Region, Country, State, City, Airport)",
+    ";",
+    kRule,
+    "",
+};
+
+// The flight line without its location.
+std::string FlightLine(std::string_view aircraftNumber, const WorkingFlight& flight,
+                       const FlightLimits& limits) {
+    std::string_view departure;
+    std::string_view destination;
+    if (flight.LegCount > 0) {
+        departure = flight.LegAt(flight.LegCount - 1).Destination;
+        destination = flight.LegAt(0).Destination;
+    }
+    return Concat(aircraftNumber, "/", flight.TailNumber, "/", flight.FlightType, "/", departure, "/",
+                  destination, "/", limits.minLevel, "/", limits.maxLevel, "/", limits.minDistance, "/",
+                  limits.maxDistance);
+}
+
+}  // namespace
+
+void LogFile::Open(FileSystem& files, const std::string& path) {
+    file_ = files.CreateInPlace(path);
+    pending_.clear();
+}
+
+void LogFile::Line(std::string_view text) {
+    if (!IsOpen()) return;
+    pending_.append(text).append("\r\n");
+    if (pending_.size() < kPieceSize) return;
+    file_->Write(pending_);
+    pending_.clear();
+}
+
+void LogFile::Close() {
+    if (!IsOpen()) return;
+    file_->Write(pending_);
+    file_->Commit();
+    file_.reset();
+}
+
+std::string_view SurfaceText(std::int32_t surface) {
+    switch (surface) {
+        case kSurfaceHard:
+            return "HARD";
+        case kSurfaceSoft:
+            return "SOFT";
+        case kSurfaceWater:
+            return "WATER";
+        case kSurfaceSnow:
+            return "SNOW";
+        default:
+            return "1";
+    }
+}
+
+std::string_view ClassWord(std::int32_t classCode) {
+    switch (classCode) {
+        case kClassNotUsed:
+            return "Not Used";
+        case kClassMicroProp:
+            return "Micro Prop";
+        case kClassMidProp:
+            return "Mid Prop";
+        case kClassLargeProp:
+            return "Large Prop";
+        case kClassMicroJet:
+            return "Micro Jet";
+        case kClassSmallJet:
+            return "Small Jet";
+        case kClassLargeJet:
+            return "Large Jet";
+        case kClassHugeJet:
+            return "Huge Jet";
+        default:
+            return "Unknown";
+    }
+}
+
+void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath) {
+    log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle.log"));
+    for (std::string_view line : kHead) log.Line(line);
+}
+
+void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
+    if (!log.IsOpen()) return;
+    const std::string_view airline =
+        aircraft.Airline.empty() ? kNoAirline : std::string_view(aircraft.Airline);
+    log.Line(Concat(airline, "/", aircraft.Title, "/", ClassWord(aircraft.Class), "/",
+                    aircraft.UIManufacturer, "/", aircraft.UIType));
+}
+
+void LogRunway(LogFile& log, const RouteNeeds& needs) {
+    if (!log.IsOpen()) return;
+    log.Line(Concat("Runway: ", needs.minRunway, "/", needs.minParking, "/", SurfaceText(needs.surface)));
+}
+
+void LogUnknownAirport(LogFile& log, std::string_view code) {
+    if (!log.IsOpen()) return;
+    log.Line(Concat("ICAO ", code, " unknown. Please check your Airport configuration."));
+}
+
+void LogAssignedFlight(LogFile& log, const WorkingFlight& flight, const FlightLimits& limits,
+                       std::string_view location) {
+    if (!log.IsOpen()) return;
+    log.Line(Concat(FlightLine(flight.ACNumber, flight, limits), "/", location));
+    log.Line("");
+}
+
+void LogRemovedFlight(LogFile& log, const WorkingFlight& flight, const FlightLimits& limits) {
+    if (!log.IsOpen()) return;
+    log.Line(FlightLine("NO AIRCRAFT", flight, limits));
+    log.Line("");
+}
+
+}  // namespace orlo

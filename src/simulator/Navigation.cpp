@@ -1,0 +1,100 @@
+#include "simulator/Navigation.h"
+
+#include <optional>
+
+#include "core/ClockTime.h"
+#include "core/Number.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::int32_t kMinutesOfUnknownLegs = 15;
+
+std::optional<Position> PlanPosition(const Session& session, std::string_view code) {
+    const std::int32_t* place = session.PlanAirportIndex.Find(code);
+    if (place == nullptr || *place < 0 || *place >= session.PlanAirportCount()) return std::nullopt;
+    const PlanAirport& airport = session.PlanAirports[static_cast<std::size_t>(*place)];
+    return ParsePosition(airport.Latitude, airport.Longitude);
+}
+
+std::optional<Position> SceneryPosition(const std::vector<AirportRecord>& airports, std::string_view code) {
+    for (const AirportRecord& airport : airports) {
+        if (airport.ICAO == code) return ParsePosition(airport.Latitude, airport.Longitude);
+    }
+    return Position{};
+}
+
+bool IsWeekly(std::string_view periodText) {
+    return EqualNoCase(periodText, "WEEK");
+}
+
+// The speed is taken as it is, so that one below 1 gives the time of legs of unknown length.
+std::string ArrivalText(std::int32_t distance, std::string_view departureText, bool weekly,
+                        std::int32_t speed) {
+    const SplitTime split = weekly ? SplitDayPrefix(departureText) : SplitTime{{}, departureText};
+    const auto departure = ParseClockTime(split.Clock);
+    if (!departure) return std::string(departureText);
+    const std::int64_t arrival = EstimateArrival(*departure, distance, speed);
+    if (!weekly) return FormatClockTime(arrival);
+
+    if (split.Prefix.empty()) return std::string(departureText);
+    const auto day = ParseWholeNumber(split.Prefix.substr(0, split.Prefix.size() - 1));
+    if (!day) return std::string(departureText);
+    const bool pastMidnight = arrival % kSecondsPerDay < *departure;
+    std::int64_t arrivalDay = *day;
+    if (pastMidnight && ++arrivalDay == 7) arrivalDay = 0;
+    return Concat(arrivalDay, "/", FormatClockTime(arrival));
+}
+
+}  // namespace
+
+std::int32_t GetDistance(const Session& session, std::string_view from, std::string_view to) {
+    if (from == to) return 0;
+    const auto fromPosition = PlanPosition(session, from);
+    const auto toPosition = PlanPosition(session, to);
+    return fromPosition && toPosition ? GreatCircleDistance(*fromPosition, *toPosition) : -1;
+}
+
+std::int32_t GetCourse(const Session& session, std::string_view from, std::string_view to) {
+    if (from == to) return -1;
+    const auto fromPosition = PlanPosition(session, from);
+    const auto toPosition = PlanPosition(session, to);
+    return fromPosition && toPosition ? GreatCircleCourse(*fromPosition, *toPosition) : -1;
+}
+
+std::int32_t GetSceneryDistance(const std::vector<AirportRecord>& airports, std::string_view from,
+                                std::string_view to) {
+    if (from == to) return 0;
+    if (airports.empty()) return -1;
+    const auto fromPosition = SceneryPosition(airports, from);
+    const auto toPosition = SceneryPosition(airports, to);
+    return fromPosition && toPosition ? GreatCircleDistance(*fromPosition, *toPosition) : -1;
+}
+
+std::int64_t EstimateArrival(std::int64_t departureSeconds, std::int32_t distance, std::int32_t speed) {
+    double minutes = kMinutesOfUnknownLegs;
+    if (distance >= 1 && speed >= 1) minutes = RoundHalfEven(static_cast<double>(distance) / speed * 60);
+    return departureSeconds + static_cast<std::int64_t>(minutes) * kSecondsPerMinute;
+}
+
+std::string GetArrivalTime(std::int32_t distance, std::string_view departureText, std::string_view periodText,
+                           std::int32_t speed) {
+    if (speed < 1) return std::string(departureText);
+    return ArrivalText(distance, departureText, IsWeekly(periodText), speed);
+}
+
+std::string GetArrivalTime(const Session& session, const PlanPositions& positions, std::string_view from,
+                           std::string_view to, std::string_view departureText, std::string_view periodText,
+                           std::int32_t aircraftIndex, std::int32_t speed) {
+    const std::int32_t distance = positions.Distance(from, to);
+    if (aircraftIndex < 0 || aircraftIndex >= session.PlanAircraftCount()) {
+        return GetArrivalTime(distance, departureText, periodText, speed);
+    }
+    const PlanAircraft& aircraft = session.PlanAircrafts[static_cast<std::size_t>(aircraftIndex)];
+    const auto cruiseSpeed = ParseWholeNumber(aircraft.CruiseSpeed);
+    if (!cruiseSpeed) return std::string(departureText);
+    return ArrivalText(distance, departureText, IsWeekly(periodText), *cruiseSpeed);
+}
+
+}  // namespace orlo

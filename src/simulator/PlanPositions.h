@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "core/Session.h"
+#include "simulator/GreatCircle.h"
+
+namespace orlo {
+
+// Where the airports of the open plan lie, with their sines and cosines prepared. Built once per operation;
+// the session must outlive it, and its list of airports must not change meanwhile.
+class PlanPositions {
+  public:
+    explicit PlanPositions(const Session& session);
+
+    // Place of a code in PlanAirports, case aside; -1 when it isn't there.
+    std::int32_t Place(std::string_view code) const;
+
+    // Between two places. -1 when either is out of range (as -1 is) or has no readable position, and when
+    // both lie at one position, so also for a place and itself.
+    std::int32_t Distance(std::int32_t fromPlace, std::int32_t toPlace) const;  // nautical miles
+    std::int32_t Course(std::int32_t fromPlace, std::int32_t toPlace) const;    // degrees, 0 to 359
+
+    // Between two codes. Equal codes, compared exactly, have the distance 0 and the course -1, whether they
+    // are in the plan or not.
+    std::int32_t Distance(std::string_view from, std::string_view to) const;
+    std::int32_t Course(std::string_view from, std::string_view to) const;
+
+  private:
+    const GreatCirclePoint* PointOf(std::int32_t place) const;
+
+    const KeyedIndex<std::int32_t>& index_;
+    std::vector<std::optional<GreatCirclePoint>> points_;  // one a plan airport
+};
+
+}  // namespace orlo

@@ -1,0 +1,97 @@
+#include "simulator/TimeZones.h"
+
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "core/ClockTime.h"
+#include "core/Number.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::array<std::string_view, 7> kDayPrefixes = {"0/", "1/", "2/", "3/", "4/", "5/", "6/"};
+constexpr std::array<std::string_view, 7> kWeekdayLabels = {
+    " (Sunday)", " (Monday)", " (Tuesday)", " (Wednesday)", " (Thursday)", " (Friday)", " (Saturday)"};
+
+// Beyond it a double no longer counts single seconds.
+constexpr double kLongestShift = 1e15;
+
+struct ZoneShift {
+    bool backward = false;
+    std::int64_t seconds = 0;  // negative when backward
+};
+
+// Nothing for a zone that shifts no time.
+std::optional<ZoneShift> ParseZone(std::string_view zone, bool invert) {
+    const std::string withoutWord = ReplaceAll(zone, "GMT", "");
+    std::string_view rest = TrimBlanks(withoutWord);
+    if (rest.empty()) return std::nullopt;
+    ZoneShift shift;
+    shift.backward = (rest.front() == '-') != invert;
+    // The first character is a sign by its place, whatever it is.
+    rest.remove_prefix(1);
+    const std::size_t colon = rest.find(':');
+    if (colon == std::string_view::npos) return std::nullopt;
+    const std::string_view sign = shift.backward ? "-" : "+";
+    const auto hours = ParseDecimal(Concat(sign, rest.substr(0, colon)));
+    const auto minutes = ParseDecimal(Concat(sign, rest.substr(colon + 1)));
+    if (!hours || !minutes) return std::nullopt;
+    const double seconds = *hours * kSecondsPerHour + *minutes * kSecondsPerMinute;
+    if (!(std::fabs(seconds) <= kLongestShift)) return std::nullopt;
+    shift.seconds = static_cast<std::int64_t>(RoundHalfEven(seconds));
+    return shift;
+}
+
+struct ShiftedTime {
+    std::string text;
+    int dayStep = 0;  // -1, 0 or 1
+};
+
+ShiftedTime ShiftTime(std::string_view time, std::string_view zone, bool invert) {
+    const auto seconds = ParseClockTime(time);
+    if (!seconds) return {std::string(time), 0};
+    const auto shift = ParseZone(zone, invert);
+    if (!shift) return {FormatClockTime(*seconds), 0};
+
+    ShiftedTime result{FormatClockTime(*seconds + shift->seconds), 0};
+    // Only the hours tell whether midnight was crossed.
+    const std::int32_t oldHour = *seconds / kSecondsPerHour;
+    const std::int32_t newHour = *ParseWholeNumber(result.text.substr(0, 2));
+    if (shift->backward && newHour > oldHour) result.dayStep = -1;
+    if (!shift->backward && newHour < oldHour) result.dayStep = 1;
+    return result;
+}
+
+void StepDay(std::string& day, const std::array<std::string_view, 7>& days, int step) {
+    if (step == 0) return;
+    for (std::size_t i = 0; i < days.size(); ++i) {
+        if (day != days[i]) continue;
+        day = days[(i + (step > 0 ? 1 : days.size() - 1)) % days.size()];
+        return;
+    }
+}
+
+}  // namespace
+
+std::string ConvertZone(std::string_view time, std::string_view zone, bool invert) {
+    return ShiftTime(time, zone, invert).text;
+}
+
+std::string ConvertZoneWeekday(std::string_view time, std::string_view zone, std::string& weekdayLabel,
+                               bool invert) {
+    ShiftedTime shifted = ShiftTime(time, zone, invert);
+    StepDay(weekdayLabel, kWeekdayLabels, shifted.dayStep);
+    return std::move(shifted.text);
+}
+
+std::string ConvertZoneWeek(std::string_view time, std::string_view zone, std::string& dayPrefix,
+                            bool invert) {
+    ShiftedTime shifted = ShiftTime(time, zone, invert);
+    StepDay(dayPrefix, kDayPrefixes, shifted.dayStep);
+    return std::move(shifted.text);
+}
+
+}  // namespace orlo

@@ -1,0 +1,87 @@
+#include "core/PlanSideFiles.h"
+
+#include <gtest/gtest.h>
+
+#include "support/FakeHosts.h"
+
+namespace orlo {
+namespace {
+
+Session PlanBeside(test::FakeWorld& world, const std::string& aircraft, const std::string& airports) {
+    world.files.files["/plan/AIRCRAFT.TXT"] = aircraft;
+    world.files.files["/plan/airports.txt"] = airports;
+    Session session;
+    session.FlightplanPath = "/plan/FlightPlans.txt";
+    return session;
+}
+
+TEST(PlanSideFiles, AircraftLinesReadAsTheFormSays) {
+    struct Case {
+        const char* line;
+        std::vector<PlanAircraft> expected;
+        std::int32_t highest;
+    };
+    const std::vector<Case> cases = {
+        {"AC#7,450,\"Boeing 737\"", {{"AC#7", "Boeing 737", "450", 0}}, 7},
+        {"  AC#12 , 450 ,\" Boeing 737 \"", {{"AC#12", "Boeing 737", "450", 0}}, 12},
+        {"AC#1,450, \"Boeing 737\"", {{"AC#1", "\"Boeing 737", "450", 0}}, 1},
+        {"AC#1,450,\"Boeing, 737\"", {}, 0},
+        {"AC#1,450,\"Boe;ing\"", {{"AC#1", "Boe", "450", 0}}, 1},
+        {"AC#x,450,\"A\"", {{"AC#x", "A", "450", 0}}, 0},
+        {"   ; comment, with, fields", {}, 0},
+        {"  // AC#1,450,\"A\"", {}, 0},
+        {"AC#1,450", {}, 0},
+        {"AC#1,450,\"\xC4\"", {{"AC#1", "\xC4", "450", 0}}, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.line);
+        test::FakeWorld world;
+        Session session = PlanBeside(world, c.line, "");
+        ReadPlanAircraft(session, world.services);
+        EXPECT_EQ(session.PlanAircrafts, c.expected);
+        EXPECT_EQ(session.MaxACNumber, c.highest);
+    }
+}
+
+TEST(PlanSideFiles, ACodeThatStandsTwiceKeepsBothLinesAndItsFirstPlace) {
+    test::FakeWorld world;
+    Session session =
+        PlanBeside(world, "", "EDDF, N50* 1.5' ,E8* 2.5',364\r\neddf,N1* 1.0',E1* 1.0',1\r\nA,B,C\r\n");
+    ReadPlanAirports(session, world.services);
+    ASSERT_EQ(session.PlanAirportCount(), 2);
+    EXPECT_EQ(session.PlanAirports[0], (PlanAirport{"EDDF", "N50* 1.5'", "E8* 2.5'", "364"}));
+    EXPECT_EQ(session.PlanAirportIndex.Count(), 1u);
+    EXPECT_EQ(*session.PlanAirportIndex.Find("EddF"), 0);
+}
+
+TEST(PlanSideFiles, MissingFilesSayTheirMessages) {
+    test::FakeWorld world;
+    Session session;
+    session.FlightplanPath = "/plan/FlightPlans.txt";
+    ReadPlanAircraft(session, world.services);
+    ReadPlanAirports(session, world.services);
+    const std::vector<std::pair<int, std::string>> expected = {
+        {16, "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder."},
+        {16, "File 'AIRPORTS.TXT' not found. Please copy the file to the Flightplan folder."}};
+    EXPECT_EQ(world.messages.shown, expected);
+}
+
+TEST(PlanSideFiles, AWriteBacksTheOldFileUpOnceAndLeavesItWholeWhenItFails) {
+    test::FakeWorld world;
+    const std::string before = "; old\r\nAC#1,450,\"A\"\r\n";
+    Session session = PlanBeside(world, before, "");
+    ReadPlanAircraft(session, world.services);
+    session.PlanAircrafts[0].CruiseSpeed = "300";
+
+    world.files.failCommit = true;
+    EXPECT_FALSE(WritePlanAircraft(session, world.files));
+    EXPECT_EQ(world.files.files["/plan/AIRCRAFT.TXT"], before);
+
+    world.files.failCommit = false;
+    EXPECT_TRUE(WritePlanAircraft(session, world.files));
+    EXPECT_EQ(world.files.files["/plan/AIRCRAFT.TXT"], "AC#1,300,\"A\"\r\n");
+    EXPECT_EQ(world.files.files["/plan/Aircraft.txt.orlo.bak"], before);
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,137 @@
+#include "core/Text.h"
+
+#include <gtest/gtest.h>
+
+#include "core/KeyedIndex.h"
+
+namespace orlo {
+namespace {
+
+TEST(Text, CaseIsFoldedByCodePage1252) {
+    struct Case {
+        std::string_view text;
+        std::string_view upper;
+    };
+    const Case cases[] = {
+        {"", ""},
+        {"abcXYZ019_[`{", "ABCXYZ019_[`{"},
+        {"\xE0\xE9\xF6\xFE", "\xC0\xC9\xD6\xDE"},
+        {"\xF7\xD7\xDF", "\xF7\xD7\xDF"},          // division, multiplication and sharp s have no other case
+        {"\x9A\x9C\x9E\xFF", "\x8A\x8C\x8E\x9F"},  // letters outside of the two regular blocks
+        {"\x83\xAA\xB5\xBA", "\x83\xAA\xB5\xBA"},  // no letters with an upper case in this code page
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(UpperText(c.text), c.upper);
+        EXPECT_TRUE(EqualNoCase(c.text, c.upper));
+        EXPECT_EQ(CompareNoCase(c.text, c.upper), 0);
+        EXPECT_EQ(HashNoCase(c.text), HashNoCase(c.upper));
+    }
+    for (int i = 0; i < 256; ++i) {
+        const char character = static_cast<char>(i);
+        EXPECT_EQ(UpperChar(LowerChar(character)), UpperChar(character)) << i;
+        EXPECT_EQ(LowerChar(UpperChar(character)), LowerChar(character)) << i;
+    }
+}
+
+TEST(Text, ComparingOrdersByFoldedBytesAndThenByLength) {
+    struct Case {
+        std::string_view smaller;
+        std::string_view larger;
+    };
+    const Case cases[] = {{"", "a"}, {"AB", "abc"}, {"a_", "Z_z"}, {"Z", "_"}, {"z", "\xE9"}, {"abc", "ABD"}};
+    for (const Case& c : cases) {
+        EXPECT_LT(CompareNoCase(c.smaller, c.larger), 0) << c.smaller;
+        EXPECT_GT(CompareNoCase(c.larger, c.smaller), 0) << c.smaller;
+        EXPECT_FALSE(EqualNoCase(c.smaller, c.larger)) << c.smaller;
+    }
+}
+
+TEST(Text, PartsAreFoundWithoutRegardToCase) {
+    struct Case {
+        std::string_view text;
+        std::string_view part;
+        bool starts, ends, contains;
+    };
+    const Case cases[] = {
+        {"Boeing 747", "", true, true, true},          {"Boeing 747", "BOEING", true, false, true},
+        {"Boeing 747", "g 747", false, true, true},    {"Boeing 747", "ING 7", false, false, true},
+        {"Boeing", "Boeing 747", false, false, false}, {"", "x", false, false, false},
+        {"Zo\xEB", "O\xCB", false, true, true},        {"aab", "AB", false, true, true},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(StartsWithNoCase(c.text, c.part), c.starts) << c.text << "|" << c.part;
+        EXPECT_EQ(EndsWithNoCase(c.text, c.part), c.ends) << c.text << "|" << c.part;
+        EXPECT_EQ(ContainsNoCase(c.text, c.part), c.contains) << c.text << "|" << c.part;
+    }
+}
+
+TEST(Text, PiecesComeApartAndTogether) {
+    using Parts = std::vector<std::string_view>;
+    EXPECT_EQ(SplitText("", ','), (Parts{""}));
+    EXPECT_EQ(SplitText(" a,,b ,", ','), (Parts{" a", "", "b ", ""}));
+    EXPECT_EQ(TrimBlanks("  a b\t "), "a b\t");
+    EXPECT_EQ(TrimBlanks("   "), "");
+    EXPECT_EQ(ReplaceAll("aXXbXXX", "XX", "X"), "aXbXX");
+    EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
+    EXPECT_EQ(RemoveAll("--a-b-", '-'), "ab");
+    EXPECT_EQ(PadRight("ab", 4), "ab  ");
+    EXPECT_EQ(PadRight("abcde", 4), "abcde");
+    EXPECT_EQ(BeforeFirst("a//b//c", "//"), "a");
+    EXPECT_EQ(BeforeFirst("a/b", "//"), "a/b");
+    EXPECT_EQ(Concat("AC#", 12, ',', std::string("x"), -3L, 18446744073709551615ull),
+              "AC#12,x-318446744073709551615");
+}
+
+TEST(Text, EveryByteSurvivesTheScreen) {
+    std::string all;
+    for (int i = 0; i < 256; ++i) {
+        const std::string one(1, static_cast<char>(i));
+        EXPECT_EQ(FromScreen(ToScreen(one)), one) << i;
+        all += one;
+    }
+    EXPECT_EQ(FromScreen(ToScreen(all)), all);
+}
+
+TEST(Text, ScreensShowUtf8AsItIsAndOtherBytesAsCodePage1252) {
+    struct Case {
+        std::string_view bytes;
+        std::string_view screen;
+    };
+    const Case cases[] = {
+        {"plain", "plain"},
+        {"Z\xFCrich \x80", "Z\xC3\xBCrich \xE2\x82\xAC"},                  // ue, euro
+        {"Z\xC3\xBCrich", "Z\xC3\xBCrich"},                                // valid UTF-8 stays
+        {"\xC0\xAF", "\xC3\x80\xC2\xAF"},                                  // an overlong form is none
+        {"\xED\xA0\x80", "\xC3\xAD\xC2\xA0\xE2\x82\xAC"},                  // nor is half a pair
+        {"\xF4\x90\x80\x80", "\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC"},  // nor one beyond the last
+        {"\xE2\x82", "\xC3\xA2\xE2\x80\x9A"},                              // nor one that is cut
+        {"\xF0\x9F\x9B\xA9", "\xF0\x9F\x9B\xA9"},
+    };
+    for (const Case& c : cases) EXPECT_EQ(ToScreen(c.bytes), c.screen);
+}
+
+TEST(Text, TypedTextBecomesCodePage1252WhereItCan) {
+    EXPECT_EQ(FromScreen("Z\xC3\xBCrich \xE2\x82\xAC \xC5\xB8"), "Z\xFCrich \x80 \x9F");
+    EXPECT_EQ(FromScreen("\xC5\x81\xC3\xB3"
+                         "d\xC5\xBA"),
+              "\xC5\x81\xC3\xB3"
+              "d\xC5\xBA");                           // has no byte
+    EXPECT_EQ(FromScreen("Z\xFCrich"), "Z\xFCrich");  // no UTF-8 at all
+}
+
+TEST(Text, AKeyedIndexRefusesASecondEqualKey) {
+    KeyedIndex<int> index;
+    EXPECT_TRUE(index.Add("EDDF", 1));
+    EXPECT_FALSE(index.Add("eddf", 2));
+    EXPECT_TRUE(index.Add("", 3));
+    ASSERT_NE(index.Find("Eddf"), nullptr);
+    EXPECT_EQ(*index.Find("Eddf"), 1);
+    EXPECT_EQ(index.Find("EDD"), nullptr);
+    EXPECT_TRUE(index.Remove("eDDf"));
+    EXPECT_FALSE(index.Remove("eDDf"));
+    EXPECT_FALSE(index.Contains("EDDF"));
+    EXPECT_EQ(index.Count(), 1u);
+}
+
+}  // namespace
+}  // namespace orlo

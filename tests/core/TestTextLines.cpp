@@ -1,0 +1,122 @@
+#include "core/TextLines.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "support/MemoryFileSystem.h"
+
+namespace orlo {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr std::size_t kBuffer = 1024 * 1024;  // what the reader takes at a time
+
+// A file that gives its bytes in pieces of at most `piece`.
+class PieceFile : public InputFile {
+  public:
+    PieceFile(std::string_view bytes, std::size_t piece) : bytes_(bytes), piece_(piece) {}
+    std::size_t Read(std::span<char> buffer) override {
+        const std::size_t count = bytes_.copy(buffer.data(), std::min(buffer.size(), piece_));
+        bytes_.remove_prefix(count);
+        return count;
+    }
+    std::uint64_t Size() const override { return bytes_.size(); }
+
+  private:
+    std::string_view bytes_;
+    std::size_t piece_;
+};
+
+Lines ReadLines(std::string_view text, std::size_t piece) {
+    PieceFile file(text, piece);
+    LineReader reader(file);
+    Lines lines;
+    while (const auto line = reader.Next()) lines.emplace_back(*line);
+    return lines;
+}
+
+TEST(TextLines, AllLineEndsAreAccepted) {
+    struct Case {
+        std::string_view text;
+        Lines lines;
+    };
+    const Case cases[] = {
+        {"", {}},
+        {"a", {"a"}},
+        {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
+        {"a\r\n", {"a"}},
+        {"\r\n\r\n", {"", ""}},
+        {"\r\r\n\n", {"", "", ""}},
+        {"\n\r", {"", ""}},
+        {"a\r", {"a"}},
+        {"\xEF\xBB\xBF"
+         "a\r\nb",
+         {"a", "b"}},
+        {"\xEF\xBB\xBF", {}},
+        {"\xEF\xBB\xBF\r\n", {""}},
+        {"\xEF\xBB", {"\xEF\xBB"}},
+        {"a\n\xEF\xBB\xBF"
+         "b",
+         {"a",
+          "\xEF\xBB\xBF"
+          "b"}},
+        {std::string_view("a\0b\nc", 5), {std::string("a\0b", 3), "c"}},
+    };
+    for (const Case& c : cases) {
+        const auto split = SplitLines(c.text);
+        EXPECT_EQ(Lines(split.begin(), split.end()), c.lines) << c.text;
+        for (const std::size_t piece : {1u, 2u, 3u, 1000u}) EXPECT_EQ(ReadLines(c.text, piece), c.lines);
+    }
+}
+
+TEST(TextLines, ALineEndAcrossTheBufferIsOneLineEnd) {
+    for (const std::string_view end : {"\r\n", "\r", "\n"}) {
+        for (std::size_t before = kBuffer - 3; before <= kBuffer + 1; ++before) {
+            const std::string first(before, 'x');
+            std::string text = first;
+            text.append(end).append("second").append(end);
+            EXPECT_EQ(ReadLines(text, text.size()), (Lines{first, "second"})) << before;
+        }
+    }
+}
+
+TEST(TextLines, LinesMayBeLongerThanTheBuffer) {
+    const Lines lines = {"short", std::string(3 * kBuffer + 5, 'y'), "", std::string(kBuffer + 700, 'z')};
+    std::string text;
+    for (const std::string& line : lines) text.append(line).append("\r\n");
+    EXPECT_EQ(ReadLines(text, 100000), lines);
+    const auto split = SplitLines(text);
+    EXPECT_EQ(Lines(split.begin(), split.end()), lines);
+}
+
+// A file with CR alone was searched to its end for a LF once a line.
+TEST(TextLines, AFileWithoutLineFeedsIsReadInOnePass) {
+    std::string text;
+    for (int i = 0; i < 2000000; ++i) text.append("abc\r");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(SplitLines(text).size(), 2000000u);
+    EXPECT_EQ(ReadLines(text, text.size()).size(), 2000000u);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+TEST(TextLines, AWholeFileComesAsItIsAndAMissingOneNotAtAll) {
+    test::MemoryFileSystem files;
+    files.files["/plan/a.txt"] = std::string("a\0\r\n", 4);
+    files.files["/plan/empty.txt"] = "";
+    EXPECT_EQ(ReadWholeFile(files, "/plan/A.TXT"), std::string("a\0\r\n", 4));
+    EXPECT_EQ(ReadWholeFile(files, "/plan/empty.txt"), "");
+    EXPECT_EQ(ReadWholeFile(files, "/plan/b.txt"), std::nullopt);
+}
+
+TEST(TextLines, CommentsStartAtTheFirstMarkOfEitherKind) {
+    EXPECT_EQ(CutComments("a;b//c"), "a");
+    EXPECT_EQ(CutComments("a//b;c"), "a");
+    EXPECT_EQ(CutComments("a/b/c"), "a/b/c");
+    EXPECT_EQ(CutComments("a/;/"), "a/");
+    EXPECT_EQ(CutComments("//"), "");
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,318 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "core/Text.h"
+#include "mainwindow/AircraftTrees.h"
+
+namespace orlo {
+namespace {
+
+FSAircraft Installed(std::string title, std::string airline, std::string manufacturer, std::string type,
+                     std::int32_t aircraftClass = kClassLargeJet) {
+    FSAircraft aircraft;
+    aircraft.Title = std::move(title);
+    aircraft.Airline = std::move(airline);
+    aircraft.UIManufacturer = std::move(manufacturer);
+    aircraft.UIType = std::move(type);
+    aircraft.Class = aircraftClass;
+    return aircraft;
+}
+
+// A tree as displayed: two blanks a level, mark, text, and in brackets what else differs from a plain group.
+std::string Show(const TreeView& tree) {
+    std::string out;
+    for (const std::int32_t place : tree.DisplayOrder()) {
+        const TreeNode& node = tree.At(place);
+        for (std::int32_t up = node.parent; up >= 0; up = tree.At(up).parent) out += "  ";
+        const bool gray = node.colour == Colour::Gray;
+        out += Concat(gray ? "[-] " : node.checked ? "[x] " : "[ ] ", node.text);
+        if (!gray && node.colour != Colour::WindowText) out += Concat(" ", ColourWord(node.colour));
+        if (!node.tag.empty()) out += Concat(" ", node.tag);
+        out += "\n";
+    }
+    return out;
+}
+
+std::vector<std::string> Keys(const TreeView& tree) {
+    std::vector<std::string> keys;
+    for (const std::int32_t place : tree.DisplayOrder()) keys.push_back(tree.At(place).key);
+    return keys;
+}
+
+struct Trees : ::testing::Test {
+    MainForm form;
+    Session session;
+    TreeView& shuffle = form.tvShuffleAircraft;
+    TreeView& move = form.tvMoveAircrafts;
+
+    Trees() {
+        SetViews(2, 1);
+        Flight flight;
+        flight.Legs.resize(2);
+        session.Flights.Append(flight);
+        session.FSAircrafts = {
+            Installed("Jumbo", "Hansa", "Boeing", "747", kClassHugeJet),
+            Installed("  Airbus one ", "HANSA ", "Airbus", "A320", kClassSmallJet),
+            Installed("~Hidden", "Secret", "Nobody", "X", kClassSmallJet),
+            Installed("Piper", "", "", "", kClassMicroProp),
+            Installed("jumbo", "Other", "Boeing", "777", kClassHugeJet),
+            Installed("Beech", "Hansa", "Boeing", "", 0),
+            Installed("Airbus two", "Blue", "AIRBUS", "a320", kClassSmallJet),
+        };
+        session.PlanAircrafts = {{"AC#7", "JUMBO", "480"},
+                                 {"AC#1", "Airbus one", "450"},
+                                 {"AC#9", "jumbo", "480"},
+                                 {"AC#3", "Nowhere", "100"},
+                                 {"AC#4", "~Hidden", "100"}};
+    }
+    void SetViews(std::int32_t shufflerView, std::int32_t moveView) {
+        form.cmShufflerView.index = shufflerView;
+        form.cmShufflerView.tag = std::to_string(shufflerView);
+        form.cmMoveView.index = moveView;
+        form.cmMoveView.tag = std::to_string(moveView);
+    }
+    void Check(TreeView& tree, std::string_view key, bool on) {
+        const std::int32_t node = tree.Find(key);
+        ASSERT_GE(node, 0) << key;
+        tree.At(node).checked = on;
+        HandleNodeCheck(form, session, tree, node);
+    }
+};
+
+TEST_F(Trees, AreFilledByManufacturerAndByAirlineWithThePlanMarked) {
+    FillAircraftTrees(form, session);
+    EXPECT_EQ(Show(shuffle),
+              "[ ] # ORLO - No Manufacturer\n"
+              "  [ ] Piper blue 3\n"
+              "[-] Airbus\n"
+              "  [-] A320\n"
+              "    [x] Airbus one (HANSA) blue 1\n"
+              "    [ ] Airbus two (Blue) blue 6\n"
+              "[-] Boeing\n"
+              "  [x] 747\n"
+              "    [x] Jumbo (Hansa) blue 0\n"
+              "  [ ] 777\n"
+              "  [ ] Beech (Hansa) blue 5\n");
+    EXPECT_EQ(Keys(shuffle),
+              (std::vector<std::string>{"# ORLO - No Manufacturer", "PIPER##", "#AIRBUS", "#AIRBUSA320",
+                                        "AIRBUS ONE##", "AIRBUS TWO##", "#BOEING", "#BOEING747", "JUMBO##",
+                                        "#BOEING777", "BEECH##"}));
+    EXPECT_EQ(Show(move),
+              "[ ] # ORLO - No Airline\n"
+              "  [ ] Piper red\n"
+              "[ ] Blue\n"
+              "  [ ] Airbus two red\n"
+              "[ ] Hansa\n"
+              "  [ ] Airbus one black ,AC#1,\n"
+              "  [ ] Beech red\n"
+              "  [ ] Jumbo black ,AC#7,AC#9,\n"
+              "[ ] Other\n");
+}
+
+TEST_F(Trees, GroupByClassInEachOfItsNames) {
+    session.FSAircrafts.clear();
+    for (std::int32_t code = -1; code <= 9; ++code) {
+        session.FSAircrafts.push_back(Installed(Concat("T", code), "", "", "", code));
+    }
+    SetViews(0, 0);
+    FillAircraftTrees(form, session);
+    const std::vector<std::pair<std::string, std::string>> groups = {
+        {"T-1##", "Unkown"},   {"T0##", "Unkown"},     {"T1##", "Not Used"},  {"T2##", "Micro Prop"},
+        {"T3##", "Mid Prop"},  {"T4##", "Large Prop"}, {"T5##", "Micro Jet"}, {"T6##", "Small Jet"},
+        {"T7##", "Large Jet"}, {"T8##", "Huge Jet"},   {"T9##", "Unkown"}};
+    for (const TreeView* tree : {&shuffle, &move}) {
+        for (const auto& [leaf, group] : groups) {
+            const TreeNode& parent = tree->At(tree->At(tree->Find(leaf)).parent);
+            EXPECT_EQ(parent.text, group) << leaf;
+            EXPECT_EQ(parent.key, Concat("#", group)) << leaf;
+        }
+    }
+}
+
+TEST_F(Trees, ACheckGoesDownAndItsGroupsFollow) {
+    FillAircraftTrees(form, session);
+    session.PlanLoaded = true;
+    Check(shuffle, "#AIRBUS", true);
+    EXPECT_EQ(form.lblShuffleAircraft.caption,
+              "&Select Aircraft to use for the Flightplan (3 aircraft selected)");
+    EXPECT_TRUE(shuffle.At(shuffle.Find("airbus two##")).checked);
+    EXPECT_EQ(shuffle.At(shuffle.Find("#AIRBUSA320")).colour, Colour::WindowText);
+    EXPECT_TRUE(shuffle.At(shuffle.Find("#AIRBUSA320")).checked);
+
+    Check(shuffle, "AIRBUS ONE##", false);
+    for (const char* key : {"#AIRBUS", "#AIRBUSA320"}) {
+        EXPECT_EQ(shuffle.At(shuffle.Find(key)).colour, Colour::Gray) << key;
+        EXPECT_FALSE(shuffle.At(shuffle.Find(key)).checked) << key;
+    }
+    Check(shuffle, "AIRBUS TWO##", false);
+    EXPECT_EQ(shuffle.At(shuffle.Find("#AIRBUS")).colour, Colour::WindowText);
+
+    form.HandlingNodeCheck = true;
+    Check(shuffle, "#BOEING", true);
+    EXPECT_FALSE(shuffle.At(shuffle.Find("BEECH##")).checked) << "one run at a time";
+}
+
+TEST_F(Trees, AViewChangeKeepsTheCheckedLeaves) {
+    FillAircraftTrees(form, session);
+    session.PlanLoaded = true;
+    Check(shuffle, "PIPER##", true);
+    Check(move, "#HANSA", true);
+
+    form.cmShufflerView.index = 1;
+    ChangeShufflerView(form, session);
+    EXPECT_EQ(Show(shuffle),
+              "[x] # ORLO - No Airline\n"
+              "  [x] Piper blue 3\n"
+              "[ ] Blue\n"
+              "  [ ] Airbus two (Blue) blue 6\n"
+              "[-] Hansa\n"
+              "  [x] Airbus one (HANSA) blue 1\n"
+              "  [ ] Beech (Hansa) blue 5\n"
+              "  [x] Jumbo (Hansa) blue 0\n"
+              "[ ] Other\n");
+    EXPECT_EQ(form.lblShuffleAircraft.caption,
+              "&Select Aircraft to use for the Flightplan (3 aircraft selected)");
+    form.cmMoveView.index = 0;
+    ChangeMoveView(form, session);
+    EXPECT_EQ(Show(move),
+              "[x] Huge Jet\n"
+              "  [x] Jumbo black ,AC#7,AC#9,\n"
+              "[ ] Micro Prop\n"
+              "  [ ] Piper red\n"
+              "[-] Small Jet\n"
+              "  [x] Airbus one black ,AC#1,\n"
+              "  [ ] Airbus two red\n"
+              "[x] Unkown\n"
+              "  [x] Beech red\n");
+
+    const std::int64_t shown = move.contentRevision;
+    ChangeMoveView(form, session);
+    EXPECT_EQ(move.contentRevision, shown) << "the same view again rebuilds nothing";
+    session.Flights.Clear();
+    form.cmMoveView.index = 1;
+    ChangeMoveView(form, session);
+    EXPECT_EQ(move.contentRevision, shown) << "nor does another one without flights";
+    EXPECT_EQ(form.cmMoveView.tag, "1");
+}
+
+TEST_F(Trees, SelectCommandsReachEveryNode) {
+    FillAircraftTrees(form, session);
+    const auto label = [&] { return form.lblShuffleAircraft.caption.substr(44, 2); };
+    SelectAll(form, shuffle);
+    EXPECT_EQ(label(), "5 ");
+    EXPECT_EQ(shuffle.At(shuffle.Find("#BOEING")).colour, Colour::WindowText);
+    InverseSelection(form, shuffle);
+    EXPECT_EQ(label(), "0 ");
+    EXPECT_FALSE(shuffle.At(shuffle.Find("#AIRBUS")).checked);
+    Check(shuffle, "PIPER##", true);
+    DeselectAll(form, shuffle);
+    EXPECT_EQ(label(), "0 ");
+
+    SelectAll(form, move);
+    EXPECT_EQ(move.At(move.Find("JUMBO##")).colour, Colour::WindowText) << "black is neither blue nor red";
+    EXPECT_EQ(move.At(move.Find("PIPER##")).colour, Colour::Red);
+
+    ListView& list = form.lvExPreview;
+    EXPECT_FALSE(OffersSelectMenu(form, session, list));
+    for (const char* key : {"#0", "#1", "#2"}) list.Add({key, "", "", Colour::WindowText, {}});
+    EXPECT_TRUE(OffersSelectMenu(form, session, list));
+    InverseSelection(list);
+    EXPECT_EQ(list.SelectedPlaces(), (std::vector<std::int32_t>{1, 2}));
+    DeselectAll(list);
+    EXPECT_TRUE(list.SelectedPlaces().empty());
+    EXPECT_TRUE(OffersSelectMenu(form, session, move));
+    EXPECT_FALSE(OffersSelectMenu(form, session, form.lvTimetable));
+    session.Flights.Clear();
+    EXPECT_FALSE(OffersSelectMenu(form, session, move));
+}
+
+TEST_F(Trees, TipsTellUseAndProblem) {
+    session.FSAircrafts[0].Problem = "Panel folder missing | Sound folder missing";
+    FillAircraftTrees(form, session);
+    const auto tip = [&](const TreeView& tree, std::string_view key) {
+        return TreeNodeTip(form, session, tree, tree.Find(key));
+    };
+    EXPECT_EQ(tip(move, "JUMBO##"), "Aircraft /AC#7/AC#9/");
+    EXPECT_EQ(tip(move, "PIPER##"), "Aircraft not used");
+    EXPECT_EQ(tip(move, "#HANSA"), "");
+    EXPECT_EQ(tip(move, "nowhere"), "");
+    EXPECT_EQ(tip(shuffle, "JUMBO##"), "Panel folder missing | Sound folder missing");
+    EXPECT_EQ(tip(shuffle, "PIPER##"), "");
+    EXPECT_EQ(tip(shuffle, "#BOEING"), "");
+}
+
+// A tree of any shape and state, the same one for the same seed.
+void FillRandomly(TreeView& tree, unsigned seed) {
+    std::mt19937 random(seed);
+    const auto count = static_cast<std::int32_t>(1 + random() % 40);
+    for (std::int32_t i = 0; i < count; ++i) {
+        const auto parent = static_cast<std::int32_t>(random() % static_cast<unsigned>(i + 1)) - 1;
+        tree.Add(parent, Concat("#", i), "", random() % 3 == 0 ? Colour::Gray : Colour::Blue);
+        tree.At(i).checked = random() % 2 == 0;
+    }
+}
+
+std::string State(const TreeView& tree) {
+    std::string state;
+    for (const TreeNode& node : tree.nodes) {
+        state += Concat(node.checked ? "x" : "-", ColourWord(node.colour), " ");
+    }
+    return state;
+}
+
+TEST(TreeSelection, OnePassGivesWhatTheHandlerGivesNodeByNode) {
+    Session session;
+    session.PlanLoaded = true;
+    for (unsigned seed = 1; seed <= 2000; ++seed) {
+        MainForm one;
+        MainForm each;
+        FillRandomly(one.tvShuffleAircraft, seed);
+        FillRandomly(each.tvShuffleAircraft, seed);
+        std::mt19937 random(seed);
+        std::vector<std::int32_t> nodes;
+        for (auto left = random() % 12; left > 0; --left) {
+            nodes.push_back(static_cast<std::int32_t>(random() % each.tvShuffleAircraft.nodes.size()));
+        }
+        CheckNodes(one, session, one.tvShuffleAircraft, nodes);
+        for (const std::int32_t node : nodes) {
+            each.tvShuffleAircraft.At(node).checked = true;
+            HandleNodeCheck(each, session, each.tvShuffleAircraft, node);
+        }
+        ASSERT_EQ(State(one.tvShuffleAircraft), State(each.tvShuffleAircraft)) << "seed " << seed;
+        ASSERT_EQ(one.lblShuffleAircraft.caption, each.lblShuffleAircraft.caption) << "seed " << seed;
+    }
+}
+
+// Each node in tree order is inverted, and then its ancestors look at their children.
+void InvertNodeByNode(TreeView& tree) {
+    for (TreeNode& node : tree.nodes) {
+        node.checked = !node.checked;
+        for (std::int32_t up = node.parent; up >= 0; up = tree.At(up).parent) {
+            std::size_t checked = 0;
+            std::size_t marked = 0;
+            for (const std::int32_t place : tree.At(up).children) {
+                const TreeNode& child = tree.At(place);
+                checked += child.checked ? 1 : 0;
+                marked += child.checked || child.colour == Colour::Gray ? 1 : 0;
+            }
+            tree.At(up).checked = checked == tree.At(up).children.size();
+            tree.At(up).colour = marked > 0 && !tree.At(up).checked ? Colour::Gray : Colour::WindowText;
+        }
+    }
+}
+
+TEST(TreeSelection, InversionInOnePassGivesWhatNodeByNodeGives) {
+    for (unsigned seed = 1; seed <= 2000; ++seed) {
+        MainForm one;
+        MainForm each;
+        FillRandomly(one.tvMoveAircrafts, seed);
+        FillRandomly(each.tvMoveAircrafts, seed);
+        InverseSelection(one, one.tvMoveAircrafts);
+        InvertNodeByNode(each.tvMoveAircrafts);
+        ASSERT_EQ(State(one.tvMoveAircrafts), State(each.tvMoveAircrafts)) << "seed " << seed;
+    }
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,44 @@
+#include "mainwindow/RecentLists.h"
+
+#include <gtest/gtest.h>
+
+#include "support/FakeProgram.h"
+
+namespace orlo {
+namespace {
+
+TEST(RecentLists, PathsMoveAsTheyAreOpened) {
+    using Paths = std::array<std::string, 5>;
+    struct Case {
+        const char* name;
+        Paths before;
+        const char* path;
+        Paths after;
+    };
+    const std::vector<Case> cases = {
+        {"the first path", {}, "/a", {"/a"}},
+        {"a new path pushes the fifth out",
+         {"/1", "/2", "/3", "/4", "/5"},
+         "/6",
+         {"/6", "/1", "/2", "/3", "/4"}},
+        {"the third moves to the top in its new spelling",
+         {"/1", "/2", "/c", "/4", "/5"},
+         "/C",
+         {"/C", "/1", "/2", "/4", "/5"}},
+        {"the top stays as it is", {"/a", "/2"}, "/A", {"/a", "/2"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        test::FakeProgram fake;
+        fake.session.RecentFlightplans = c.before;
+        AddRecentFlightplan(fake.context, c.path);
+        EXPECT_EQ(fake.session.RecentFlightplans, c.after);
+        EXPECT_EQ(fake.form.mnuRecentFlightPlan1.caption, c.after[0]);
+        EXPECT_EQ(fake.form.mnuRecentFlightPlan5.visible, !c.after[4].empty());
+        EXPECT_TRUE(fake.form.mnuRecentFlightPlan.enabled);
+        EXPECT_FALSE(fake.form.mnuRecentProjects.enabled);
+    }
+}
+
+}  // namespace
+}  // namespace orlo

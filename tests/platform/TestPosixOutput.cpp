@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+
+#include "platform/TemporaryFolder.h"
+#include "platform/posix/PosixFileSystem.h"
+
+namespace orlo {
+namespace {
+
+namespace fs = std::filesystem;
+using test::RunAsPlainUser;
+using test::RunInChild;
+using test::TemporaryFolder;
+
+// Writes a file whole; 0 on success, else the step that failed.
+int Replace(const std::string& path, const std::string& content) {
+    PosixFileSystem files;
+    const auto file = files.CreateReplacing(path);
+    if (!file) return 1;
+    if (!file->Write(content)) return 2;
+    return file->Commit() ? 0 : 3;
+}
+
+mode_t ModeOf(const std::string& path) {
+    struct stat facts {};
+    return stat(path.c_str(), &facts) == 0 ? facts.st_mode & 07777 : 0;
+}
+
+// Files beyond this size fail as on a full disk.
+void LimitFileSize(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST(PosixOutput, AReplacedFileIsSeenOnCommitAndNotBefore) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("FlightPlans.txt", "old");
+    chmod(path.c_str(), 0640);
+    PosixFileSystem files;
+    {
+        const auto file = files.CreateReplacing(path);
+        ASSERT_TRUE(file);
+        EXPECT_TRUE(file->Write("new"));
+        EXPECT_EQ(folder.Content("FlightPlans.txt"), "old");
+        EXPECT_TRUE(file->Write(std::string(200000, 'x')));
+        EXPECT_EQ(folder.Content("FlightPlans.txt"), "old");
+        EXPECT_TRUE(file->Write("end"));
+        EXPECT_TRUE(file->Commit());
+        EXPECT_TRUE(file->Commit());
+        EXPECT_FALSE(file->Write("late"));
+    }
+    EXPECT_EQ(folder.Content("FlightPlans.txt"), "new" + std::string(200000, 'x') + "end");
+    EXPECT_EQ(ModeOf(path), 0640u);
+    EXPECT_EQ(folder.Entries(), 1u);
+    { files.CreateReplacing(path)->Write("dropped"); }
+    EXPECT_EQ(folder.Content("FlightPlans.txt").substr(0, 3), "new");
+    EXPECT_EQ(folder.Entries(), 1u);
+}
+
+TEST(PosixOutput, ANewFileObeysTheUsersMask) {
+    const TemporaryFolder folder;
+    const mode_t old = umask(027);
+    EXPECT_EQ(Replace(folder.Path("a.txt"), "a"), 0);
+    umask(old);
+    EXPECT_EQ(ModeOf(folder.Path("a.txt")), 0640u);
+    EXPECT_EQ(folder.Content("a.txt"), "a");
+}
+
+TEST(PosixOutput, LinksAreFollowedAndStayLinks) {
+    const TemporaryFolder folder;
+    folder.Put("real/plan.txt", "old");
+    fs::create_directory(folder.Path("links"));
+    fs::create_symlink("../real/plan.txt", folder.Path("links/near.txt"));
+    fs::create_symlink(folder.Path("links/near.txt"), folder.Path("far.txt"));
+    fs::create_symlink("real/missing.txt", folder.Path("dangling.txt"));
+    fs::create_symlink("circle.txt", folder.Path("circle.txt"));
+    EXPECT_EQ(Replace(folder.Path("far.txt"), "new"), 0);
+    EXPECT_EQ(Replace(folder.Path("dangling.txt"), "made"), 0);
+    EXPECT_EQ(Replace(folder.Path("circle.txt"), "never"), 1);
+    EXPECT_EQ(folder.Content("real/plan.txt"), "new");
+    EXPECT_EQ(folder.Content("real/missing.txt"), "made");
+    EXPECT_TRUE(fs::is_symlink(folder.Path("far.txt")));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("links/near.txt")));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("dangling.txt")));
+    EXPECT_EQ(folder.Entries("real"), 2u);
+    EXPECT_EQ(folder.Entries("links"), 1u);
+}
+
+TEST(PosixOutput, WhatCannotBeReplacedIsRefusedAndStaysAsItIs) {
+    const TemporaryFolder folder;
+    folder.Put("readonly.txt", "old");
+    chmod(folder.Path("readonly.txt").c_str(), 0444);
+    fs::create_directory(folder.Path("subfolder"));
+    mkfifo(folder.Path("fifo").c_str(), 0666);
+    const std::string paths[] = {folder.Path("readonly.txt"),
+                                 folder.Path("subfolder"),
+                                 folder.Path("subfolder/"),
+                                 folder.Path("fifo"),
+                                 folder.Path("missing/plan.txt"),
+                                 folder.Path("readonly.txt/plan.txt"),
+                                 "/dev/full",
+                                 "",
+                                 folder.Path(std::string("cut\0.txt", 8)),
+                                 folder.Path(std::string(300, 'n'))};
+    PosixFileSystem files;
+    for (const std::string& path : paths) {
+        EXPECT_EQ(Replace(path, "new"), 1) << path;
+        EXPECT_FALSE(files.CreateInPlace(path)) << path;
+    }
+    EXPECT_EQ(folder.Content("readonly.txt"), "old");
+    EXPECT_EQ(folder.Entries(), 3u);
+    EXPECT_EQ(folder.Entries("subfolder"), 0u);
+}
+
+TEST(PosixOutput, AFullDiskLeavesTheOldFileWhole) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("plan.txt", "old");
+    const int status = RunInChild([&] {
+        LimitFileSize(100000);
+        PosixFileSystem files;
+        const auto file = files.CreateReplacing(path);
+        if (!file) return 1;
+        bool written = true;
+        for (int i = 0; i < 3000; ++i) written = file->Write(std::string(100, 'x')) && written;
+        if (written) return 2;              // a write that fails says so
+        if (file->Write("more")) return 3;  // and so do all behind it
+        if (file->Commit()) return 4;
+        // Small enough to fail at the end only.
+        return Replace(path, std::string(1000, 'y')) == 0 ? 0 : 5;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(folder.Content("plan.txt"), std::string(1000, 'y'));
+    EXPECT_EQ(folder.Entries(), 1u);
+
+    EXPECT_EQ(RunInChild([&] {
+                  LimitFileSize(500);
+                  PosixFileSystem files;
+                  const auto file = files.CreateReplacing(path);
+                  // The bytes still wait to be written when the file is complete.
+                  return file && file->Write(std::string(600, 'z')) && !file->Commit() ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(folder.Content("plan.txt"), std::string(1000, 'y'));
+    EXPECT_EQ(folder.Entries(), 1u);
+}
+
+TEST(PosixOutput, AKillBeforeTheCommitLeavesTheOldFileAndNothingThatLooksLikeIt) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("FlightPlans.txt", "old");
+    EXPECT_EQ(RunInChild([&] {
+                  PosixFileSystem files;
+                  auto* file = files.CreateReplacing(path).release();
+                  return file != nullptr && file->Write(std::string(300000, 'x')) ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(folder.Content("FlightPlans.txt"), "old");
+    for (const auto& entry : fs::directory_iterator(folder.Path())) {
+        const std::string name = entry.path().filename().string();
+        if (name == "FlightPlans.txt") continue;
+        EXPECT_EQ(name.front(), '.') << name;
+        EXPECT_EQ(entry.path().extension(), ".new") << name;
+    }
+    // What the killed one left is in nobody's way.
+    EXPECT_EQ(Replace(path, "new"), 0);
+    EXPECT_EQ(folder.Content("FlightPlans.txt"), "new");
+}
+
+TEST(PosixOutput, AFolderThatTakesNoSecondFileIsWrittenInPlace) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("closed/plan.txt", std::string(100, 'o'));
+    chmod(path.c_str(), 0666);
+    chmod(folder.Path("closed").c_str(), 0555);
+    const auto replaceWith = [&](std::size_t size, rlim_t limit) {
+        return RunAsPlainUser([&] {
+            if (limit != 0) LimitFileSize(limit);
+            return Replace(path, std::string(size, 'n'));
+        });
+    };
+    EXPECT_EQ(replaceWith(200, 150), 3);  // a full disk
+    EXPECT_EQ(folder.Content("closed/plan.txt"), std::string(100, 'o'));
+    EXPECT_EQ(RunAsPlainUser([&] {
+                  PosixFileSystem files;
+                  return files.CreateReplacing(path)->Write("dropped") ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(folder.Content("closed/plan.txt"), std::string(100, 'o'));
+    EXPECT_EQ(replaceWith(200, 0), 0);
+    EXPECT_EQ(folder.Content("closed/plan.txt"), std::string(200, 'n'));
+    EXPECT_EQ(replaceWith(50, 0), 0);
+    EXPECT_EQ(folder.Content("closed/plan.txt"), std::string(50, 'n'));
+
+    chmod(path.c_str(), 0644);  // another user's
+    if (getuid() == 0) {
+        EXPECT_EQ(replaceWith(60, 0), 1);
+    }
+    EXPECT_EQ(RunAsPlainUser([&] { return Replace(folder.Path("closed/new.txt"), "x"); }), 1);
+    chmod(folder.Path("closed").c_str(), 0755);
+    EXPECT_EQ(folder.Entries("closed"), 1u);
+}
+
+TEST(PosixOutput, AFileInPlaceIsEmptiedAtOnceAndKeepsWhatItGot) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("Shuffle.log", "old");
+    PosixFileSystem files;
+    {
+        const auto file = files.CreateInPlace(path);
+        ASSERT_TRUE(file);
+        EXPECT_EQ(folder.Content("Shuffle.log"), "");
+        EXPECT_TRUE(file->Write("kept"));
+    }
+    EXPECT_EQ(folder.Content("Shuffle.log"), "kept");
+    const auto file = files.CreateInPlace(path);
+    EXPECT_TRUE(file->Write("new"));
+    EXPECT_TRUE(file->Commit());
+    EXPECT_FALSE(file->Write("late"));
+    EXPECT_EQ(folder.Content("Shuffle.log"), "new");
+}
+
+TEST(PosixOutput, CopiesReplaceWholeAndProgramsStayPrograms) {
+    const TemporaryFolder folder;
+    folder.Put("tool", std::string(700000, 't'));
+    chmod(folder.Path("tool").c_str(), 0555);
+    folder.Put("plan.txt", "plan");
+    PosixFileSystem files;
+    EXPECT_TRUE(files.CopyFile(folder.Path("tool"), folder.Path("copy")));
+    EXPECT_EQ(folder.Content("copy"), std::string(700000, 't'));
+    EXPECT_EQ(ModeOf(folder.Path("copy")) & 0700u, 0700u);
+    EXPECT_TRUE(files.CopyFile(folder.Path("plan.txt"), folder.Path("copy")));
+    EXPECT_EQ(folder.Content("copy"), "plan");
+    EXPECT_TRUE(files.CopyFile(folder.Path("plan.txt"), folder.Path("plan.txt")));
+    EXPECT_EQ(folder.Content("plan.txt"), "plan");
+    EXPECT_FALSE(files.CopyFile(folder.Path("missing"), folder.Path("copy")));
+    EXPECT_FALSE(files.CopyFile(folder.Path(), folder.Path("copy")));
+    EXPECT_FALSE(files.CopyFile(folder.Path("plan.txt"), folder.Path("tool")));
+    EXPECT_EQ(folder.Content("copy"), "plan");
+    EXPECT_EQ(folder.Entries(), 3u);
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,51 @@
+#include "platform/common/SystemRandom.h"
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+#include "platform/TemporaryFolder.h"
+#include "platform/posix/SystemClock.h"
+
+namespace orlo {
+namespace {
+
+TEST(SystemRandom, AFixedSeedRepeatsItsValuesAtEverySeeding) {
+    SystemRandom random(5489);
+    // The generator's first two numbers for this seed, 14514284786278117030 and 4620546740167642908, in 53
+    // bits.
+    const double first = random.Next();
+    const double second = random.Next();
+    EXPECT_EQ(first, static_cast<double>(14514284786278117030ull >> 11) / 9007199254740992.0);
+    EXPECT_EQ(second, static_cast<double>(4620546740167642908ull >> 11) / 9007199254740992.0);
+    random.SeedFromClock();
+    EXPECT_EQ(random.Next(), first);
+    SystemRandom other(5490);
+    EXPECT_NE(other.Next(), first);
+}
+
+TEST(SystemRandom, ValuesFillTheRangeFromZeroToBelowOneEvenly) {
+    SystemRandom random(1);
+    std::array<int, 10> tenths{};
+    constexpr int kDraws = 100000;
+    for (int i = 0; i < kDraws; ++i) {
+        const double value = random.Next();
+        ASSERT_GE(value, 0.0);
+        ASSERT_LT(value, 1.0);
+        ++tenths[static_cast<std::size_t>(value * 10)];
+    }
+    for (const int count : tenths) EXPECT_NEAR(count, kDraws / 10, kDraws / 100);
+}
+
+TEST(SystemClock, TellsLocalTime) {
+    EXPECT_EQ(test::RunInChild([] {
+                  setenv("TZ", "XXX-5:30", 1);  // five and a half hours ahead
+                  tzset();
+                  const std::int64_t ahead = SystemClock().Now() - std::time(nullptr);
+                  return ahead >= 19799 && ahead <= 19801 ? 0 : 1;
+              }),
+              0);
+}
+
+}  // namespace
+}  // namespace orlo

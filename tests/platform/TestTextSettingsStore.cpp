@@ -1,0 +1,171 @@
+#include "platform/common/TextSettingsStore.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/TemporaryFolder.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/UserFolders.h"
+#include "support/MemoryFileSystem.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::string_view kKey = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
+const std::string kPath = "/home/settings.txt";
+
+TEST(TextSettingsStore, EveryValueAndNameSurvivesWritingAndReading) {
+    std::string all;
+    for (int i = 0; i < 256; ++i) all.push_back(static_cast<char>(i));
+    const std::string texts[] = {"",
+                                 "30",
+                                 " ",
+                                 "  both  ",
+                                 "\ttab\t",
+                                 "\"",
+                                 "\"quoted\"",
+                                 "\"open",
+                                 "a\"b",
+                                 "a=b",
+                                 "=",
+                                 "[x]",
+                                 ";c",
+                                 "#c",
+                                 "\\",
+                                 "C:\\new\\0",
+                                 "\\n\"",
+                                 "line\nend",
+                                 "line\r\nend",
+                                 all,
+                                 "\xEF\xBB\xBF",
+                                 "\xE4\xFF",
+                                 "x\\",
+                                 "]",
+                                 std::string("\0", 1),
+                                 std::string(100000, 'v')};
+    test::MemoryFileSystem files;
+    TextSettingsStore written(files, kPath);
+    for (const std::string& text : texts) {
+        EXPECT_TRUE(written.Set(kKey, "value of " + text, text));
+        EXPECT_TRUE(written.Set("names", text, "name " + text));
+    }
+    ASSERT_TRUE(written.Flush());
+    TextSettingsStore read(files, kPath);
+    for (const std::string& text : texts) {
+        EXPECT_EQ(read.Get(kKey, "value of " + text), text);
+        EXPECT_EQ(read.Get("names", text), "name " + text);
+    }
+}
+
+TEST(TextSettingsStore, KeyPathsWithOddBytesSurviveAndThoseWithALineEndAreRefused) {
+    test::MemoryFileSystem files;
+    TextSettingsStore store(files, kPath);
+    const std::string paths[] = {"a]b", "[a]", " a ", "", "\xE4\"", "a\\"};
+    for (const std::string& path : paths) EXPECT_TRUE(store.Set(path, "name", "in " + path));
+    for (const std::string& path : {std::string("a\nb"), std::string("a\r"), std::string("\0", 1)})
+        EXPECT_FALSE(store.Set(path, "name", "x"));
+    EXPECT_TRUE(store.Flush());
+    TextSettingsStore read(files, kPath);
+    for (const std::string& path : paths) EXPECT_EQ(read.Get(path, "name"), "in " + path);
+}
+
+TEST(TextSettingsStore, WhatTheProgramDoesNotKnowStaysWhereItStands) {
+    test::MemoryFileSystem files;
+    files.files[kPath] =
+        "; my settings\n"
+        "lost=1\n"
+        "[Other\\Program]\n"
+        "b=2\n"
+        "[software\\BRANTEL data service\\orlo\\1.0\\settings]\n"
+        "TATime = 45 \n"
+        "Unknown=\"kept \n"
+        "# a remark\n"
+        "no value\n"
+        "\n"
+        "[Last]\n"
+        "TATime=1";
+    TextSettingsStore store(files, kPath);
+    EXPECT_EQ(store.Get(kKey, "tatime"), "45");
+    EXPECT_EQ(store.Get(kKey, "Unknown"), "\"kept");
+    EXPECT_EQ(store.Get(kKey, "lost"), std::nullopt);
+    EXPECT_EQ(store.Get("Missing", "TATime"), std::nullopt);
+    store.Set(kKey, "TATIME", "60");
+    store.Set(kKey, "Undo", "-1");
+    store.Set("New", "a", " 1");
+    ASSERT_TRUE(store.Flush());
+    EXPECT_EQ(files.files[kPath],
+              "; my settings\r\n"
+              "lost=1\r\n"
+              "[Other\\Program]\r\n"
+              "b=2\r\n"
+              "[software\\BRANTEL data service\\orlo\\1.0\\settings]\r\n"
+              "TATime=60\r\n"
+              "Unknown=\"kept \r\n"
+              "Undo=-1\r\n"
+              "# a remark\r\n"
+              "no value\r\n"
+              "\r\n"
+              "[Last]\r\n"
+              "TATime=1\r\n"
+              "[New]\r\n"
+              "a=\" 1\"\r\n");
+}
+
+TEST(TextSettingsStore, NothingIsWrittenBeforeTheFlushNorWithoutAChange) {
+    test::MemoryFileSystem files;
+    TextSettingsStore store(files, kPath);
+    EXPECT_TRUE(store.Flush());
+    EXPECT_TRUE(files.files.empty());
+    store.Set(kKey, "a", "1");
+    EXPECT_TRUE(files.files.empty());
+    files.failAfterBytes = 10;
+    EXPECT_FALSE(store.Flush());
+    EXPECT_TRUE(files.files.empty());
+    files.failAfterBytes = -1;
+    EXPECT_TRUE(store.Flush());
+    files.files[kPath] = "changed by hand";
+    EXPECT_TRUE(store.Set(kKey, "A", "1"));
+    EXPECT_TRUE(store.Flush());
+    EXPECT_EQ(files.files[kPath], "changed by hand");
+}
+
+TEST(TextSettingsStore, ItsFolderIsMadeAndAFileThatCannotBeReadIsNotReplaced) {
+    const test::TemporaryFolder folder;
+    PosixFileSystem files;
+    const std::string path = folder.Path("config/orlo/settings.txt");
+    TextSettingsStore store(files, path);
+    store.Set(kKey, "TATime", "30");
+    ASSERT_TRUE(store.Flush());
+    EXPECT_EQ(folder.Content("config/orlo/settings.txt"),
+              "[SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings]\r\nTATime=30\r\n");
+    std::filesystem::permissions(folder.Path("config/orlo"), std::filesystem::perms(0777));
+    std::filesystem::permissions(path, std::filesystem::perms(0200));
+    EXPECT_EQ(test::RunAsPlainUser([&] {
+                  TextSettingsStore other(files, path);
+                  other.Set(kKey, "TATime", "45");
+                  return other.Flush() ? 1 : 0;
+              }),
+              0);
+    EXPECT_EQ(folder.Entries("config/orlo"), 1u);
+    std::filesystem::permissions(path, std::filesystem::perms(0600));
+    EXPECT_EQ(TextSettingsStore(files, path).Get(kKey, "TATime"), "30");
+}
+
+TEST(UserFolders, VariablesWithFullPathsComeBeforeTheHomeFolder) {
+    EXPECT_EQ(test::RunInChild([] {
+                  setenv("HOME", "/home/me", 1);
+                  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "WINEPREFIX"}) unsetenv(name);
+                  if (UserSettingsPath() != "/home/me/.config/orlo/settings.txt") return 1;
+                  if (UserDataFolder() != "/home/me/.local/share/orlo") return 2;
+                  if (WinePrefixFolder() != "/home/me/.wine") return 3;
+                  setenv("XDG_CONFIG_HOME", "/cfg", 1);
+                  setenv("XDG_DATA_HOME", "relative", 1);
+                  setenv("WINEPREFIX", "/games/wine", 1);
+                  if (UserSettingsPath() != "/cfg/orlo/settings.txt") return 4;
+                  if (UserDataFolder() != "/home/me/.local/share/orlo") return 5;
+                  return WinePrefixFolder() == "/games/wine" ? 0 : 6;
+              }),
+              0);
+}
+
+}  // namespace
+}  // namespace orlo

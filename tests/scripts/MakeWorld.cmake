@@ -1,0 +1,5 @@
+file(REMOVE_RECURSE "${WORLD}")
+execute_process(COMMAND "${TOOL}" "${WORLD}" --flights 200 --seed 7 RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "The sample world could not be made: ${result}")
+endif()

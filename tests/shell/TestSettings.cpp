@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+
+#include "core/Settings.h"
+#include "shell/SettingsMirror.h"
+#include "support/FakeProgram.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::string_view kTree = "SOFTWARE\\BRANTEL DATA SERVICE\\ORLO\\1.0\\";
+
+void Store(test::FakeProgram& fake, std::string_view section, std::string_view name, std::string_view value) {
+    fake.world.userSettings.values[UpperText(Concat(kTree, section, "\\", name))] = value;
+}
+
+void ReadAll(test::FakeProgram& fake) {
+    ReadSwitches(fake.context);
+    ReadRecentLists(fake.context);
+    ReadZones(fake.context);
+    ReadWindowPlace(fake.context);
+}
+
+TEST(Settings, AnEmptyStoreGivesTheDefaults) {
+    test::FakeProgram fake;
+    fake.world.windows.keepsWindowPlace = true;
+    ReadAll(fake);
+    const Session& session = fake.session;
+    EXPECT_TRUE(session.BackupPlan && session.BackupAircraft && session.Undo && session.ACCheck);
+    EXPECT_FALSE(session.DebugOn || session.ShowCompiler);
+    EXPECT_TRUE(fake.form.ckOverwriteTailNumber.checked && fake.form.ckCheckFL.checked &&
+                fake.form.ckIFRVFR.checked && fake.form.ckCheckVisitedAirports.checked);
+    EXPECT_FALSE(fake.form.ckRemoveMinus.checked);
+    EXPECT_EQ(session.TATime, 30);
+    EXPECT_EQ(session.MaxTATime, 24);
+    EXPECT_TRUE(fake.form.mnuTA30.checked && fake.form.mnuMaxTA24.checked);
+    EXPECT_EQ(session.StartNumber, 1);
+    EXPECT_EQ(fake.form.txtStartNumber.text, "1");
+    EXPECT_TRUE(fake.form.txtStartNumber.selectAllRequest);
+    EXPECT_EQ(fake.form.cmTTZone.Text(), "GMT");
+    EXPECT_FALSE(fake.form.mnuRecentFlightPlan.enabled);
+    EXPECT_TRUE(fake.form.centreRequest);
+}
+
+TEST(Settings, BooleansReadInBothForms) {
+    struct Case {
+        const char* stored;
+        bool read;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {"-1", true}, {"0", false}, {"True", true}, {"false", false}, {"1", true}, {"what", true}}) {
+        test::FakeProgram fake;
+        Store(fake, "Settings", "Undo", c.stored);
+        ReadAll(fake);
+        EXPECT_EQ(fake.session.Undo, c.read) << c.stored;
+        EXPECT_EQ(fake.form.mnuToolsUndoOn.checked, c.read) << c.stored;
+    }
+}
+
+TEST(Settings, ATurnAroundThatIsNoneOfTheMenuIsOff) {
+    test::FakeProgram fake;
+    Store(fake, "Settings", "TATime", "40");
+    Store(fake, "Settings", "MaxTATime", "3");
+    ReadAll(fake);
+    EXPECT_EQ(fake.session.TATime, kNoTurnAroundLimit);
+    EXPECT_EQ(fake.session.MaxTATime, kNoTurnAroundLimit);
+    EXPECT_TRUE(fake.form.mnuTAOff.checked && fake.form.mnuMaxTAOff.checked);
+    EXPECT_FALSE(fake.form.mnuTA30.checked);
+    WriteSettings(fake.context);
+    EXPECT_EQ(fake.world.userSettings.Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "TATime"),
+              "999999");
+}
+
+TEST(Settings, TheExitWritesExactlyTheseInThisOrder) {
+    test::FakeProgram fake;
+    ReadAll(fake);
+    WriteSettings(fake.context);
+    const std::vector<std::string> expected = {"TATime",
+                                               "MaxTATime",
+                                               "BackupPlan",
+                                               "BackupAircraft",
+                                               "StartNumber",
+                                               "DebugOn",
+                                               "ShowCompiler",
+                                               "Undo",
+                                               "ACCheck",
+                                               "1",
+                                               "2",
+                                               "3",
+                                               "4",
+                                               "5",
+                                               "1",
+                                               "2",
+                                               "3",
+                                               "4",
+                                               "5",
+                                               "TTZone",
+                                               "EXZone",
+                                               "FEditZone",
+                                               "GenerateTailNumber",
+                                               "RemoveMinus",
+                                               "CheckFL",
+                                               "ChangeIFRVFR",
+                                               "CheckVisitedAirports",
+                                               "CheckAircraftRange",
+                                               "CheckFlightLevels",
+                                               "CheckFlightTimes"};
+    EXPECT_EQ(fake.world.userSettings.written, expected);
+
+    fake.world.userSettings.written.clear();
+    fake.world.windows.keepsWindowPlace = true;
+    fake.form.windowState = WindowState::Minimised;
+    WriteSettings(fake.context);
+    EXPECT_EQ(fake.world.userSettings.written[0], "MainState");
+    EXPECT_EQ(fake.world.userSettings.written[1], "TATime")
+        << "a minimised window keeps the place stored before";
+}
+
+TEST(Settings, AMinimisedWindowComesBackNormal) {
+    test::FakeProgram fake;
+    fake.world.windows.keepsWindowPlace = true;
+    Store(fake, "Settings", "MainState", "1");
+    Store(fake, "Settings", "MainHeight", "500");
+    Store(fake, "Settings", "MainLeft", "20");
+    ReadAll(fake);
+    EXPECT_EQ(fake.form.windowState, WindowState::Normal);
+    EXPECT_FALSE(fake.form.centreRequest);
+    EXPECT_EQ(fake.form.box.height, 500);
+    EXPECT_EQ(fake.form.box.left, 20);
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,230 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+#include "shuffler/PlainShuffle.h"
+#include "shuffler/ShuffleWorld.h"
+
+namespace orlo::test {
+namespace {
+
+// Makes small worlds in which every rule has something to bite on.
+class WorldMaker {
+  public:
+    explicit WorldMaker(unsigned seed) : engine_(seed) {}
+
+    void Fill(ShuffleWorld& made) {
+        Session& session = made.session;
+        session.DebugOn = true;
+        session.OverwriteTailNumber = Chance(60);
+        session.CheckVisitedAirports = Chance(50);
+        session.ChangeIFRVFR = Chance(50);
+        session.RemoveMinus = Chance(50);
+        session.CheckFL = Chance(50);
+        for (std::string_view code : kCodes) AddAirport(made, code);
+        for (int i = 0, count = Below(30); i < count; ++i) AddAircraft(made);
+        AddSets(session.Airlines);
+        const int badLevels = Chance(20) ? 2 : 0;
+        for (int i = 0, count = 5 + Below(60); i < count; ++i) AddFlight(session, badLevels);
+    }
+
+  private:
+    static constexpr std::array<std::string_view, 10> kCodes = {"AAAA", "BBBB", "CCCC", "DDDD",        "EEEE",
+                                                                "FFFF", "aaaa", "GGGG", "LONGER-CODE", ""};
+    static constexpr std::array<std::string_view, 2> kRegions = {"North", "south"};
+    static constexpr std::array<std::string_view, 2> kCountries = {"Land", "Isle"};
+    static constexpr std::array<std::string_view, 3> kStates = {"", "East", "West"};
+    static constexpr std::array<std::string_view, 3> kCities = {"", "Town", "Port"};
+    static constexpr std::array<std::string_view, 5> kAirlines = {"Alpha", "BETA", "gamma", "Delta", ""};
+    static constexpr std::array<std::string_view, 5> kPatterns = {"", "N!!!", "G-....,D-?!", ",X-?", "Z"};
+
+    int Below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(engine_); }
+    bool Chance(int percent) { return Below(100) < percent; }
+    template <typename List>
+    auto Pick(const List& list) {
+        return list[static_cast<std::size_t>(Below(static_cast<int>(list.size())))];
+    }
+    // Half of the time in the other case.
+    std::string AnyCase(std::string_view text) { return Chance(50) ? UpperText(text) : std::string(text); }
+
+    void AddAirport(ShuffleWorld& made, std::string_view code) {
+        if (Chance(92)) made.AddPosition(code);
+        if (Chance(10) && !made.session.PlanAirports.empty())
+            made.session.PlanAirports.back().Longitude = "W1* 00.00'";
+        if (code.empty() ? Chance(95) : Chance(5)) return;
+        const bool oneCountry = Chance(70);
+        AirportRecord record;
+        record.ICAO = AnyCase(code);
+        record.Region = oneCountry ? "North" : Pick(kRegions);
+        record.Country = oneCountry ? "Land" : Pick(kCountries);
+        record.State = Pick(kStates);
+        record.City = Pick(kCities);
+        record.TakeoffLength = Chance(3) ? 999999 : 1500 + 1000 * Below(4);
+        record.LandingLength = 1500 + 1000 * Below(4);
+        record.TakeoffSurface = Chance(85) ? 1 : Below(6);
+        record.LandingSurface = Chance(85) ? 1 : Below(5);
+        record.MinParkingRadius = Chance(50) ? 9999 : 5 + 10 * Below(4);
+        made.session.Airports.push_back(record);
+    }
+
+    void AddAircraft(ShuffleWorld& made) {
+        const std::string title = Concat("Title ", Below(30));
+        FSAircraft& aircraft = made.AddAircraft(title, AnyCase(Pick(kAirlines)));
+        if (Chance(15)) made.session.PlanAircrafts.back().ACNumber = "AC#1";
+        if (Chance(15)) made.session.PlanAircrafts.back().Title = "not installed";
+        if (Chance(30)) made.session.PlanAircrafts.back().Title = UpperText(title);
+        aircraft.Class = Below(9);
+        aircraft.CruiseSpeed = Chance(5) ? 0 : 60 + Below(400);
+        aircraft.MinFL = Chance(50) ? 0 : 20 * Below(8);
+        aircraft.MaxFL = aircraft.MinFL + 20 * (5 + Below(20));
+        aircraft.MinRange = Chance(80) ? -1 : 60 * Below(4);
+        aircraft.MaxRange = 60 * (3 + Below(10));
+        aircraft.RunwayLength = 1000 * Below(4);
+        aircraft.RunwayTypes = Chance(80) ? "hard,Soft,WATER" : Pick(std::array{"Snow", "Hard", "", "hard1"});
+        aircraft.MinParkingRadius = 10 * Below(3);
+    }
+
+    AirlineSet MakeSetOf(std::string_view name) {
+        static constexpr std::array<std::int32_t, 9> kPercents = {-1, -1, 0, 5, 30, 50, 70, 100, -7};
+        AirlineSet set;
+        set.Name = AnyCase(name);
+        set.TailPatterns = Pick(kPatterns);
+        for (int i = 0, count = Below(4); i < count; ++i) {
+            AirlineEntry entry;
+            entry.Name = AnyCase(Pick(kAirlines));
+            entry.Percent = Pick(kPercents);
+            set.Airlines.push_back(entry);
+        }
+        return set;
+    }
+
+    // Some twice, of which the first counts.
+    void AddSets(AirlineSets& sets) {
+        sets.Global = MakeSetOf("");
+        const auto add = [&](std::vector<AirlineSet>& list, std::string_view name, int percent) {
+            while (Chance(percent)) list.push_back(MakeSetOf(name));
+        };
+        for (std::string_view code : kCodes) add(sets.Airports, code, 20);
+        for (std::string_view region : kRegions) {
+            add(sets.Regions, region, 40);
+            for (std::string_view country : kCountries) {
+                const std::string place = Concat(region, "/", country);
+                add(sets.Countries, place, 40);
+                for (std::string_view state : kStates) add(sets.States, Concat(place, "/", state), 20);
+                for (std::string_view city : kCities) add(sets.Cities, Concat(place, "/", city), 20);
+            }
+        }
+    }
+
+    void AddFlight(Session& session, int badLevelPercent) {
+        static constexpr std::array<std::string_view, 4> kOddLevels = {" 100 ", "99.5", "-20", "0300"};
+        const bool week = Chance(30);
+        Flight flight{"AC#77", "OLD-1",  "50%", week ? "week" : "24Hr", AnyCase(Chance(60) ? "IFR" : "vfr"),
+                      {},      Chance(5)};
+        for (int i = 0, count = Chance(4) ? Below(2) : 2 + Below(4); i < count; ++i) {
+            Leg leg;
+            leg.DepartTime = Concat(week ? Concat(Below(7), "/") : std::string(), FormatHour(Below(24)));
+            if (Chance(3)) leg.DepartTime = "soon";
+            leg.ETA = "11:11:11";
+            leg.FixedETA = Chance(30);
+            leg.FlightLevel = Chance(90) ? Concat(20 * Below(18)) : std::string(Pick(kOddLevels));
+            if (Chance(badLevelPercent)) leg.FlightLevel = Chance(50) ? "" : "FL100";
+            leg.NumberMode = Chance(50) ? "F" : "R";
+            leg.FlightNumber = Concat(Below(9999));
+            leg.Destination = kCodes[static_cast<std::size_t>(Below(Chance(3) ? 10 : Chance(40) ? 9 : 4))];
+            flight.Legs.push_back(leg);
+        }
+        session.Flights.Append(flight);
+    }
+
+    static std::string FormatHour(int hour) { return Concat(hour / 10, hour % 10, ":05:00"); }
+
+    std::mt19937 engine_;
+};
+
+std::string Describe(const Flight& flight) {
+    std::string text = Concat(flight.Removed ? "removed " : "", flight.ACNumber, ",", flight.TailNumber, ",",
+                              flight.Percent, ",", flight.Period, ",", flight.FlightType);
+    for (const Leg& leg : flight.Legs) {
+        text += Concat("|", leg.DepartTime, ",", leg.FixedETA ? "@" : "", leg.ETA, ",", leg.FlightLevel, ",",
+                       leg.NumberMode, ",", leg.FlightNumber, ",", leg.Destination);
+    }
+    return text;
+}
+
+std::string Describe(const AirlineSet& set) {
+    std::string text = Concat(set.Name, " ", set.Flights, ":");
+    for (const AirlineEntry& entry : set.Airlines) {
+        text +=
+            Concat(" ", entry.Name, " ", entry.Percent, "/", entry.PlannedPercent, " ", entry.Flights, "[");
+        for (const AirlineAircraft& aircraft : entry.Aircraft) {
+            text +=
+                Concat(aircraft.AircraftIndex, "-", aircraft.PlanAircraftIndex, "x", aircraft.UseCount, " ");
+        }
+        text += "]";
+    }
+    return text;
+}
+
+std::string Describe(const AirlineSets& sets) {
+    std::string text = Describe(sets.Global);
+    for (const auto* list : {&sets.Regions, &sets.Countries, &sets.States, &sets.Cities, &sets.Airports}) {
+        text += "\n--";
+        for (const AirlineSet& set : *list) text += "\n" + Describe(set);
+    }
+    return text;
+}
+
+// The log's lines behind its head, with "\n".
+std::string FlightLines(const std::string& log) {
+    const std::string text = ReplaceAll(log, "\r\n", "\n");
+    return text.substr(text.find("\n\n") + 2);
+}
+
+struct Seen {
+    std::int64_t assigned = 0, removed = 0, noAirline = 0, errors = 0;
+};
+
+void CompareOneWorld(unsigned seed, Seen& seen) {
+    ShuffleWorld made(seed);
+    WorldMaker(seed).Fill(made);
+    SeededRandom plainRandom(seed);
+    const PlainShuffleResult plain = ShuffleByPlainRules(made.session, plainRandom);
+    const ShuffleResult result = made.Shuffle();
+
+    EXPECT_EQ(result.succeeded, plain.succeeded);
+    EXPECT_EQ(result.removed, plain.removed);
+    EXPECT_EQ(result.assigned, plain.assigned);
+    EXPECT_EQ(made.random.taken, plainRandom.taken);
+    ASSERT_EQ(static_cast<std::size_t>(made.session.FlightCount()), plain.flights.size());
+    for (std::int32_t i = 0; i < made.session.FlightCount(); ++i) {
+        ASSERT_EQ(Describe(made.session.Flights.Unpack(i)),
+                  Describe(plain.flights[static_cast<std::size_t>(i)]));
+    }
+    EXPECT_EQ(Describe(made.session.RunAirlines), Describe(plain.sets));
+    for (std::size_t i = 0; i < plain.usageCounts.size(); ++i) {
+        EXPECT_EQ(made.session.PlanAircrafts[i].UsageCount, plain.usageCounts[i]);
+    }
+    EXPECT_EQ(FlightLines(made.world.files.files["/plan/Shuffle.log"]), plain.log);
+    seen.assigned += plain.assigned;
+    seen.removed += plain.removed;
+    seen.noAirline += plain.noAirlineFlights;
+    seen.errors += plain.succeeded ? 0 : 1;
+}
+
+TEST(ShuffleAgainstPlainRules, FourHundredRandomWorldsEndAlikeWithTheSameDraws) {
+    Seen seen;
+    for (unsigned seed = 1; seed <= 400 && !HasFailure(); ++seed) {
+        SCOPED_TRACE(Concat("seed ", seed));
+        CompareOneWorld(seed, seen);
+    }
+    // The worlds are worth nothing unless all outcomes are common in them.
+    EXPECT_GT(seen.assigned, 3000);
+    EXPECT_GT(seen.removed, 1500);
+    EXPECT_GT(seen.noAirline, 200);
+    EXPECT_GT(seen.errors, 10);
+}
+
+}  // namespace
+}  // namespace orlo::test

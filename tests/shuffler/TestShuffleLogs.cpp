@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include "shuffler/ShuffleWorld.h"
+
+namespace orlo::test {
+namespace {
+
+// The lines of a log, each of which must end in CR LF.
+std::string Lines(const std::string& log) {
+    const std::string text = ReplaceAll(log, "\r\n", "\n");
+    EXPECT_EQ(text.find('\r'), std::string::npos);
+    EXPECT_EQ(ReplaceAll(text, "\n", "\r\n"), log);
+    return text;
+}
+
+// One flight of each outcome: by airport set, by the world's set, without airline, for want of a runway, for
+// an unknown airport.
+void FillWorld(ShuffleWorld& made) {
+    made.session.DebugOn = true;
+    made.session.OverwriteTailNumber = true;
+    made.session.ChangeIFRVFR = true;
+    made.AddAirport("ONE1", "North", "One", "", "");
+    made.AddAirport("ONE2", "North", "One", "", "");
+    made.AddAirport("WET1", "North", "Two", "", "").LandingSurface = kSurfaceWater;
+    made.AddAirport("ICE1", "North", "Two", "", "").LandingSurface = kSurfaceSnow;
+    made.AddAircraft("Jet One", "Alpha");
+    made.AddAircraft("Boat", "Beta").RunwayTypes = "WATER";
+    made.AddAircraft("Sledge", "").RunwayTypes = "SNOW";
+    made.session.FSAircrafts[1].Class = 77;
+    made.session.FSAircrafts[2].Class = kClassMicroProp;
+    made.session.Airlines.Airports = {MakeSet("ONE1", {{"Alpha", 70}, {"Gamma", 10}}, "N1")};
+    made.session.Airlines.Cities = {MakeSet("North/One/Empty", {})};
+    made.session.Airlines.Global = MakeSet("", {{"Alpha"}, {"Beta"}, {"Alpha"}});
+    made.AddFlight({"ONE2", "ONE1"}, "200", "VFR");
+    made.AddFlight({"WET1", "ONE2"}, "95");
+    made.AddFlight({"ICE1", "ONE2"});
+    made.session.FSAircrafts[2].MaxRange = 180;
+    made.AddFlight({"ICE1", "ONE1", "WET1", "ICE1"});
+    made.session.Airports[0].LandingLength = 1200;
+    made.AddFlight({"ONE1", "none"});
+    made.AddFlight({"WET1", "WET1"});
+}
+
+TEST(ShuffleLogs, EachFlightIsExplained) {
+    ShuffleWorld made;
+    FillWorld(made);
+    made.session.FSAircrafts[2].RunwayLength = 1300;
+    made.Shuffle();
+    EXPECT_EQ(Lines(made.world.files.files["/plan/Shuffle.log"]),
+              R"(;---------------------------------------------------------------------------------
+;------------------------------- O R L O  L O G ----------------------------------
+;Format:
+;  Airline / Aircraft Title / Aircraft Class / UI Manufacture / UI Type
+;  Runway: Min. Runway Length / Min. Parking Radius / Min. Runway Surface
+;      (only added if no aircraft could be found)
+;  Aircraft Number / Tail Number / IFR-VFR / Departure ICAO / Destination ICAO /
+;      Min. Flight Level / Max. Flight Level / Min. Distance / Max. Distance /
+;      Location (Region, Country, State, City, Airport)
+;
+;---------------------------------------------------------------------------------
+
+Alpha/Jet One/Small Jet/Maker/Type
+AC#1/N1/IFR/ONE1/ONE2/200/200/60/60/ONE1
+
+Beta/Boat/Unknown/Maker/Type
+AC#2/OLD/IFR/ONE2/WET1/95/95/60/60/Global
+
+No Airline/Sledge/Micro Prop/Maker/Type
+AC#3/OLD/IFR/ONE2/ICE1/200/200/120/120/No Airline
+
+Runway: 1200/50/SNOW
+NO AIRCRAFT/OLD/IFR/ICE1/ICE1/200/200/0/180
+
+ICAO none unknown. Please check your Airport configuration.
+NO AIRCRAFT/OLD/IFR/none/ONE1/200/200/-1/-1
+
+Beta/Boat/Unknown/Maker/Type
+AC#2/OLD/IFR/WET1/WET1/200/200/0/0/Global
+
+)");
+}
+
+TEST(ShuffleLogs, EachSetTellsWhatItWasGiven) {
+    ShuffleWorld made;
+    FillWorld(made);
+    made.Shuffle();
+    const std::string expected = R"(R
+No Airline: 
+Total flights: 2
+	Aircraft (1):
+		Sledge: 2 flights
+	R
+
+R
+Region: Global
+Airlines: 3
+Total flights: 2
+R
+
+	R
+	Airline: Alpha
+	Total flights: 0
+	Planed Percent: 33
+	Achieved Percent: 0.00
+	Aircraft (1):
+		Jet One: 0 flights
+	R
+
+	R
+	Airline: Beta
+	Total flights: 2
+	Planed Percent: 33
+	Achieved Percent: 100.00
+	Aircraft (1):
+		Boat: 2 flights
+	R
+
+	R
+	Airline: Alpha
+	Total flights: 0
+	Planed Percent: 33
+	Achieved Percent: 0.00
+	Aircraft (1):
+		Jet One: 0 flights
+	R
+
+R
+City: North/One/Empty
+Airlines: 0
+Total flights: 0
+R
+
+R
+Airport: ONE1
+Airlines: 2
+Total flights: 1
+R
+
+	R
+	Airline: Alpha
+	Total flights: 1
+	Planed Percent: 100
+	Achieved Percent: 100.00
+	Aircraft (1):
+		Jet One: 1 flights
+	R
+
+	R
+	Airline: Gamma
+	Total flights: 0
+	Planed Percent: 0
+	Achieved Percent: 0.00
+	Aircraft (0):
+	R
+
+)";
+    const std::string rule(66, '-');
+    EXPECT_EQ(ReplaceAll(Lines(made.world.files.files["/plan/Shuffle Result.log"]), rule, "R"), expected);
+}
+
+TEST(ShuffleLogs, WithoutLoggingOldLogsStayAndAFullDiskHarmsNothing) {
+    ShuffleWorld made;
+    FillWorld(made);
+    made.session.DebugOn = false;
+    made.world.files.files["/plan/Shuffle.log"] = "old";
+    made.Shuffle();
+    EXPECT_EQ(made.world.files.files.size(), 1u);
+    EXPECT_EQ(made.world.files.files["/plan/Shuffle.log"], "old");
+
+    made.session.DebugOn = true;
+    made.world.files.failAfterBytes = 100;
+    EXPECT_TRUE(made.Shuffle().succeeded);
+    made.world.files.failCreate = true;
+    EXPECT_TRUE(made.Shuffle().succeeded);
+}
+
+}  // namespace
+}  // namespace orlo::test

@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <limits>
+#include <map>
+#include <random>
+
+#include "core/Number.h"
+#include "simulator/FlightLevelMaths.h"
+#include "support/CaseTable.h"
+#include "support/FakeHosts.h"
+
+namespace orlo::test {
+namespace {
+
+using Rules = std::vector<FlightLevelRule>;
+
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+
+TEST(FlightLevels, BandsAndChecksAgreeWithTheTableOfCases) {
+    const auto ruleRows = ReadCaseTable("level-rules.csv");
+    const auto rows = ReadCaseTable("levels.csv");
+    if (!ruleRows || !rows) GTEST_SKIP() << "no table of levels beside the checkout";
+    Rules rules;
+    for (const CaseRow& row : *ruleRows) {
+        rules.push_back({std::stoi(row[0]), std::stoi(row[1]), std::stoi(row[2]), std::stoi(row[3]),
+                         std::stoi(row[4]), std::stoi(row[5]), std::stoi(row[6])});
+    }
+    for (const CaseRow& row : *rows) {
+        const std::int32_t distance = std::stoi(row[1]);
+        const std::int32_t course = std::stoi(row[2]);
+        const LevelLimits limits{std::stoi(row[3]), std::stoi(row[4])};
+        const std::string text = SuggestFlightLevelText(rules, row[0], distance, course, limits);
+        const LevelCheck check = CheckFlightLevel(rules, row[0], distance, course, limits, std::stoi(row[6]));
+        EXPECT_EQ(text, row[5]) << testing::PrintToString(row);
+        EXPECT_EQ(check.Right, row[7] == "True") << testing::PrintToString(row);
+        EXPECT_EQ(check.Suggestion, row[8]) << testing::PrintToString(row);
+    }
+    EXPECT_GE(rows->size(), 100u);
+}
+
+// Rules 0 and 1 are for VFR; 2 and 3 for short, 4 and 5 for long legs; east in the even ones.
+const Rules kRules = {
+    {-1, -1, 0, 179, 35, 175, 20},   {-1, -1, 180, 359, 45, 165, 20},   {0, 250, 0, 179, 70, 230, 20},
+    {0, 250, 180, 359, 80, 220, 20}, {251, 9999, 0, 179, 250, 410, 40}, {251, 9999, 180, 359, 260, 260, 0},
+};
+
+TEST(FlightLevels, BandFollowsRulesAndLimitsOfTheAircraft) {
+    struct Case {
+        std::string_view flightRules;
+        std::int32_t distance, course;
+        LevelLimits limits;
+        std::string_view expected;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {"IFR", 300, 90, {0, 999}, "FL250-410 +040"},
+             {"IFR", 300, 90, {260, 400}, "FL290-370 +040"},  // stays on the grid of its rule
+             {"IFR", 300, 90, {0, 280}, "FL250"},             // the grid has no second level
+             {"IFR", 300, 270, {0, 999}, "FL260"},
+             {"VFR", 300, 90, {0, 999}, "FL035-175 +020"},
+             {"vfr", 300, 270, {0, 999}, "FL045-165 +020"},
+             {"IFR", -1, 90, {0, 999}, "FL035-175 +020"},
+             {"IFR", 300, -1, {0, 999}, "FL100"},
+             {"IFR", 10000, 90, {0, 999}, "FL100"},
+             {"IFR", 300, 90, {100, 240}, "FL110-230 +020"},  // the highest rule within reach
+             {"IFR", 300, 90, {0, 20}, "FL250-410 +040"},     // no rule within reach: the first stands
+             {"IFR", 100, 90, {300, 420}, "FL310"},           // above its rule, yet on its grid
+             {"IFR", 300, 270, {300, 400}, "FL300"},          // no rule begins high enough
+             {"IFR", 300, 270, {100, 200}, "FL100-200 +020"},
+         }) {
+        EXPECT_EQ(SuggestFlightLevelText(kRules, c.flightRules, c.distance, c.course, c.limits), c.expected)
+            << c.flightRules << " " << c.distance << " " << c.course << " " << c.limits.MinFL << "-"
+            << c.limits.MaxFL;
+    }
+}
+
+TEST(FlightLevels, CheckTakesTheLevelsOfTheGridAlone) {
+    struct Case {
+        std::int32_t course, level;
+        bool right;
+        std::string_view suggestion;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {90, 250, true, ""},
+             {90, 370, true, ""},
+             {90, 390, false, "FL250-370 +040"},
+             {90, 410, false, "FL250-370 +040"},
+             {90, 270, false, "FL250-370 +040"},
+             {90, 210, false, "FL250-370 +040"},
+             {270, 260, true, ""},
+             {270, 280, false, "FL260"},
+             {400, 100, false, "FL100"},  // without a rule no level is right
+         }) {
+        const LevelCheck check = CheckFlightLevel(kRules, "IFR", 300, c.course, {0, 390}, c.level);
+        EXPECT_EQ(check.Right, c.right) << c.course << " " << c.level;
+        EXPECT_EQ(check.Suggestion, c.suggestion) << c.course << " " << c.level;
+    }
+}
+
+TEST(FlightLevels, DrawnLevelsGiveTheEndsHalfTheWeight) {
+    FakeRandom random;
+    for (int i = 0; i < 800; ++i) random.draws.push_back((i + 0.5) / 800);
+    std::map<std::string, int> counts;
+    for (int i = 0; i < 800; ++i) {
+        ++counts[SuggestFlightLevel(kRules, "IFR", 300, 90, {0, 999}, false, random)];
+    }
+    const std::map<std::string, int> expected = {
+        {"250", 100}, {"290", 200}, {"330", 200}, {"370", 200}, {"410", 100}};
+    EXPECT_EQ(counts, expected);
+    EXPECT_EQ(random.taken, 800u);
+}
+
+TEST(FlightLevels, NothingIsDrawnWhereThereIsNoChoice) {
+    FakeRandom random;
+    EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 270, {0, 999}, false, random), "260");
+    EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 90, {0, 280}, false, random), "250");
+    EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 400, {0, 999}, false, random), "100");
+    EXPECT_EQ(SuggestFlightLevel({}, "IFR", 300, 90, {0, 999}, false, random), "100");
+    EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 90, {0, 999}, true, random), "FL250-410 +040");
+    EXPECT_EQ(random.taken, 0u);
+}
+
+TEST(FlightLevels, HostileRulesEndTheSearch) {
+    struct Case {
+        Rules rules;
+        LevelLimits limits;
+        std::string_view expected;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             // The second rule is out of reach, so the first one comes back again and again, below the
+             // minimum.
+             {{{0, 9999, 0, 359, 100, 400, 0}, {0, 9999, 0, 359, 300, 310, 0}}, {250, 290}, "FL250"},
+             {{{0, 9999, 0, 359, 100, 400, -20}, {0, 9999, 0, 359, 300, 310, -20}},
+              {250, 290},
+              "FL250-290 +-020"},
+             {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kMost, kMost}, "FL2147483647"},
+             {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kLeast, kMost}, "FL-2147483648-2147483647 +001"},
+             {{{0, 9999, 0, 359, kLeast, kMost, kMost}}, {kMost - 1, kMost}, "FL2147483646"},
+             {{{0, 9999, 0, 359, kMost, kLeast, kLeast}}, {kLeast, kLeast}, "FL2147483647"},
+             {{{0, 9999, 0, 359, 100, 200, 20}}, {-1, -1}, "FL100-200 +020"},
+         }) {
+        EXPECT_EQ(SuggestFlightLevelText(c.rules, "IFR", 300, 90, c.limits), c.expected);
+    }
+}
+
+// Over many random tables of rules: a drawn level passes the check, and lies in the suggested band.
+TEST(FlightLevels, EveryDrawnLevelPassesTheCheck) {
+    std::mt19937 engine(20020618);
+    const auto pick = [&engine](std::int32_t from, std::int32_t to) {
+        return std::uniform_int_distribution<std::int32_t>(from, to)(engine);
+    };
+    FakeRandom random;
+    random.draws = {0, 0.999999999, 0.25, 0.5, 0.75, 0.1, 0.9};
+    int matched = 0;
+    for (int i = 0; i < 20000; ++i) {
+        Rules rules(static_cast<std::size_t>(pick(1, 6)));
+        for (FlightLevelRule& rule : rules) {
+            rule = {pick(-1, 500), pick(200, 900), 0, pick(90, 359), pick(0, 400),
+                    pick(0, 400),  pick(0, 4) * 10};
+            if (pick(0, 9) == 0) rule.LevelStep = pick(-30, 30);
+        }
+        const std::int32_t distance = pick(0, 800);
+        const std::int32_t course = pick(0, 359);
+        const LevelLimits limits{pick(-1, 300), pick(-1, 420)};
+        if (!FindLevelBand(rules, "IFR", distance, course, limits)) continue;
+        ++matched;
+        const std::string drawn = SuggestFlightLevel(rules, "IFR", distance, course, limits, false, random);
+        const auto level = ParseWholeNumber(drawn);
+        ASSERT_TRUE(level) << drawn;
+        EXPECT_GE(*level, limits.MinFL);
+        const LevelCheck check = CheckFlightLevel(rules, "IFR", distance, course, limits, *level);
+        EXPECT_TRUE(check.Right) << drawn << " is not one of " << check.Suggestion;
+        EXPECT_EQ(CheckFlightLevel(rules, "IFR", distance, course, limits, -5000).Suggestion,
+                  SuggestFlightLevelText(rules, "IFR", distance, course, limits));
+    }
+    EXPECT_GT(matched, 5000);
+}
+
+}  // namespace
+}  // namespace orlo::test
