@@ -23,20 +23,12 @@ std::int32_t SurfaceBitsOf(const FSAircraft& aircraft) {
     return bits;
 }
 
-// Whether an airline has more of the set's flights, in whole percent, than planned. A planned percent can be
-// negative, as read.
-bool IsOverShare(const AirlineEntry& entry, std::int32_t setFlights) {
-    if (setFlights == 0) return entry.PlannedPercent < 0;
-    const std::int64_t achieved = static_cast<std::int64_t>(entry.Flights) * 100;
-    return achieved >= (static_cast<std::int64_t>(entry.PlannedPercent) + 1) * setFlights;
-}
-
 }  // namespace
 
 CandidateTable::CandidateTable(const std::vector<AirlineSet*>& sets,
                                const std::vector<FSAircraft>& fsAircrafts, bool anyLevel) {
     const std::vector<std::int32_t> profileByAircraft = FindProfiles(fsAircrafts, anyLevel);
-    profileFits_.resize(profiles_.size());
+    profileFits_.resize(profiles_.front().size());
     for (AirlineSet* set : sets) AddSet(*set, profileByAircraft);
     firstRow_.push_back(static_cast<std::int32_t>(choices_.size()));
     firstSetProfile_.push_back(static_cast<std::int32_t>(setProfiles_.size()));
@@ -68,9 +60,11 @@ std::vector<std::int32_t> CandidateTable::FindProfiles(const std::vector<FSAircr
     std::vector<std::int32_t> profileByAircraft;
     profileByAircraft.reserve(fsAircrafts.size());
     for (const FSAircraft& aircraft : fsAircrafts) {
-        const auto next = static_cast<std::int32_t>(profiles_.size());
+        const auto next = static_cast<std::int32_t>(places.size());
         const auto [found, isNew] = places.try_emplace(ProfileOf(aircraft, anyLevel), next);
-        if (isNew) profiles_.push_back(found->first);
+        for (std::size_t limit = 0; isNew && limit < kLimits; ++limit) {
+            profiles_[limit].push_back(found->first[limit]);
+        }
         profileByAircraft.push_back(found->second);
     }
     return profileByAircraft;
@@ -80,7 +74,10 @@ void CandidateTable::AddSet(AirlineSet& set, const std::vector<std::int32_t>& pr
     const std::size_t firstRow = choices_.size();
     firstRow_.push_back(static_cast<std::int32_t>(firstRow));
     for (AirlineEntry& entry : set.Airlines) {
+        const auto share = static_cast<std::int32_t>(shares_.size());
+        shares_.push_back({entry.PlannedPercent, entry.Flights});
         for (AirlineAircraft& aircraft : entry.Aircraft) {
+            rowShare_.push_back(share);
             choices_.push_back({&entry, &aircraft});
             rowProfile_.push_back(profileByAircraft[static_cast<std::size_t>(aircraft.AircraftIndex)]);
         }
@@ -93,14 +90,26 @@ void CandidateTable::AddSet(AirlineSet& set, const std::vector<std::int32_t>& pr
     setProfiles_.insert(setProfiles_.end(), different.begin(), different.end());
 }
 
-void CandidateTable::TestProfiles(const FlightLimits& limits, const RouteNeeds& needs) {
+void CandidateTable::TestProfiles(FlightLimits limits, RouteNeeds needs) {
     const std::int32_t surface = SurfaceBit(needs.surface);
-    for (std::size_t i = 0; i < profiles_.size(); ++i) {
-        const auto& [minLevel, maxLevel, minRange, maxRange, runway, parking, surfaces] = profiles_[i];
-        profileFits_[i] = static_cast<std::uint8_t>(
-            (limits.minLevel >= minLevel) & (limits.maxLevel <= maxLevel) & (limits.minDistance >= minRange) &
-            (limits.maxDistance <= maxRange) & (runway <= needs.minRunway) & (parking <= needs.minParking) &
-            ((surfaces & surface) != 0));
+    const std::int32_t* minLevel = profiles_[0].data();
+    const std::int32_t* maxLevel = profiles_[1].data();
+    const std::int32_t* minRange = profiles_[2].data();
+    const std::int32_t* maxRange = profiles_[3].data();
+    const std::int32_t* runway = profiles_[4].data();
+    const std::int32_t* parking = profiles_[5].data();
+    const std::int32_t* surfaces = profiles_[6].data();
+    // A plain loop over local values without branches, which the compiler turns into vector code.
+    std::int32_t* fits = profileFits_.data();
+    const std::size_t count = profileFits_.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        fits[i] = static_cast<std::int32_t>(limits.minLevel >= minLevel[i]) &
+                  static_cast<std::int32_t>(limits.maxLevel <= maxLevel[i]) &
+                  static_cast<std::int32_t>(limits.minDistance >= minRange[i]) &
+                  static_cast<std::int32_t>(limits.maxDistance <= maxRange[i]) &
+                  static_cast<std::int32_t>(runway[i] <= needs.minRunway) &
+                  static_cast<std::int32_t>(parking[i] <= needs.minParking) &
+                  static_cast<std::int32_t>((surfaces[i] & surface) != 0);
     }
 }
 
@@ -121,16 +130,34 @@ std::span<std::int32_t> CandidateTable::FindFitting(std::int32_t set) {
     for (std::int32_t row = firstRow_[place]; row < end; ++row) {
         const std::int32_t profile = rowProfile_[static_cast<std::size_t>(row)];
         fitting_[found] = row;
-        found += profileFits_[static_cast<std::size_t>(profile)];
+        found += static_cast<std::size_t>(profileFits_[static_cast<std::size_t>(profile)]);
     }
     return {fitting_.data(), found};
+}
+
+// Whether an airline has more of the set's flights, in whole percent, than planned. A planned percent can be
+// negative, as read.
+bool CandidateTable::IsOver(const Share& share, std::int32_t setFlights) {
+    if (setFlights == 0) return share.planned < 0;
+    const std::int64_t achieved = static_cast<std::int64_t>(share.flights) * 100;
+    return achieved >= (static_cast<std::int64_t>(share.planned) + 1) * setFlights;
+}
+
+const AirlineAircraft& CandidateTable::Take(std::int32_t row) {
+    const auto place = static_cast<std::size_t>(row);
+    const Choice& choice = choices_[place];
+    ++shares_[static_cast<std::size_t>(rowShare_[place])].flights;
+    ++choice.entry->Flights;
+    ++choice.aircraft->UseCount;
+    return *choice.aircraft;
 }
 
 std::span<std::int32_t> CandidateTable::PreferUnderShare(std::int32_t setFlights,
                                                          std::span<std::int32_t> rows) const {
     std::size_t under = 0;
     for (const std::int32_t row : rows) {
-        if (!IsOverShare(*At(row).entry, setFlights)) rows[under++] = row;
+        const std::int32_t share = rowShare_[static_cast<std::size_t>(row)];
+        if (!IsOver(shares_[static_cast<std::size_t>(share)], setFlights)) rows[under++] = row;
     }
     return under > 0 ? rows.first(under) : rows;
 }

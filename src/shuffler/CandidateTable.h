@@ -21,13 +21,8 @@ class CandidateTable {
     CandidateTable(const std::vector<AirlineSet*>& sets, const std::vector<FSAircraft>& fsAircrafts,
                    bool anyLevel);
 
-    struct Choice {
-        AirlineEntry* entry = nullptr;
-        AirlineAircraft* aircraft = nullptr;
-    };
-
     // Tests all profiles for a flight, to which the further calls belong.
-    void TestProfiles(const FlightLimits& limits, const RouteNeeds& needs);
+    void TestProfiles(FlightLimits limits, RouteNeeds needs);
 
     // The rows of the set's aircraft that fit, in order. They hold until the next call.
     std::span<std::int32_t> FindFitting(std::int32_t set);
@@ -36,22 +31,37 @@ class CandidateTable {
     // order, and gives these; where there are none, gives all rows as they are.
     std::span<std::int32_t> PreferUnderShare(std::int32_t setFlights, std::span<std::int32_t> rows) const;
 
-    const Choice& At(std::int32_t row) const { return choices_[static_cast<std::size_t>(row)]; }
+    // Counts a flight for the row's aircraft and its entry, and gives the aircraft.
+    const AirlineAircraft& Take(std::int32_t row);
 
   private:
+    struct Choice {
+        AirlineEntry* entry = nullptr;
+        AirlineAircraft* aircraft = nullptr;
+    };
+    // What tells whether an airline has passed its share, kept beside its entry for the sake of the cache.
+    struct Share {
+        std::int32_t planned = 0;
+        std::int32_t flights = 0;
+    };
+    static bool IsOver(const Share& share, std::int32_t setFlights);
+
     // Minimal and maximal level, minimal and maximal range, runway, parking, bits of surfaces.
-    using Profile = std::array<std::int32_t, 7>;
+    static constexpr std::size_t kLimits = 7;
+    using Profile = std::array<std::int32_t, kLimits>;
     static Profile ProfileOf(const FSAircraft& aircraft, bool anyLevel);
     std::vector<std::int32_t> FindProfiles(const std::vector<FSAircraft>& fsAircrafts, bool anyLevel);
     void AddSet(AirlineSet& set, const std::vector<std::int32_t>& profileByAircraft);
     bool AnyProfileFits(std::size_t set) const;
 
-    std::vector<Profile> profiles_;
-    std::vector<std::uint8_t> profileFits_;  // 1 or 0, for the flight under test
+    std::array<std::vector<std::int32_t>, kLimits> profiles_;  // an array for each limit
+    std::vector<std::int32_t> profileFits_;                    // 1 or 0, for the flight under test
 
     std::vector<std::int32_t> firstRow_;  // by set, with the end of the last one behind it
     std::vector<Choice> choices_;         // by row: the aircraft of a set follow each other, by entry
     std::vector<std::int32_t> rowProfile_;
+    std::vector<std::int32_t> rowShare_;         // place in shares_
+    std::vector<Share> shares_;                  // one an entry
     std::vector<std::int32_t> firstSetProfile_;  // by set, as above
     std::vector<std::int32_t> setProfiles_;      // the different profiles of each set
     std::vector<std::int32_t> fitting_;

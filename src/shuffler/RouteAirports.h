@@ -1,9 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "core/AirlineRecords.h"
@@ -51,6 +49,7 @@ class RouteAirports {
 
   private:
     RouteAirport Resolve(std::string_view code);
+    std::size_t FindSlot(std::uint64_t key, std::string_view code) const;
     void GrowSlots();
 
     const std::vector<AirportRecord>& records_;
@@ -65,7 +64,15 @@ class RouteAirports {
 
     std::vector<RouteAirport> airports_;  // by number
     std::vector<std::string_view> codes_;
-    std::vector<std::int32_t> slots_;  // open addressing over the codes; a power of two; -1 is free
+
+    // Open addressing over the codes, a power of two. The key of a short code is its bytes, so that it is
+    // found without a look at its text.
+    struct Slot {
+        std::uint64_t key = 0;
+        std::int32_t number = -1;  // -1 is free
+    };
+    static std::uint64_t KeyOf(std::string_view code);
+    std::vector<Slot> slots_;
 };
 
 }  // namespace orlo

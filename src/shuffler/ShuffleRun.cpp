@@ -197,10 +197,7 @@ bool ShuffleRun::AssignAircraft(std::int32_t set, std::int32_t setFlights) {
         chosen =
             static_cast<std::size_t>(RoundHalfEven(static_cast<double>(rows.size() - 1) * random_.Next()));
     }
-    const CandidateTable::Choice& choice = candidates_.At(rows[chosen]);
-    ++choice.entry->Flights;
-    ++choice.aircraft->UseCount;
-    ApplyAircraft(*choice.aircraft);
+    ApplyAircraft(candidates_.Take(rows[chosen]));
     return true;
 }
 
