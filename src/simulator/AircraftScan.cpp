@@ -4,6 +4,7 @@
 #include "core/KeyedIndex.h"
 #include "core/Number.h"
 #include "core/Path.h"
+#include "core/Settings.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "simulator/AircraftClassLookup.h"
@@ -144,8 +145,8 @@ class FolderReader {
 }  // namespace
 
 std::string GetSimulatorPath(SettingsStore& machineSettings) {
-    return std::string(
-        TrimBlanks(machineSettings.Get(kSimulatorKeyPath, kSimulatorPathName).value_or(std::string())));
+    return std::string(TrimBlanks(GetMachineSetting(
+        machineSettings, "Microsoft", "Microsoft Games\\Flight Simulator", "8.0", "", "EXE Path", "")));
 }
 
 bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {
