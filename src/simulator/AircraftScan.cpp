@@ -145,8 +145,8 @@ class FolderReader {
 }  // namespace
 
 std::string GetSimulatorPath(SettingsStore& machineSettings) {
-    return std::string(
-        TrimBlanks(machineSettings.Get(kSimulatorKeyPath, kSimulatorValue).value_or(std::string())));
+    return std::string(TrimBlanks(GetMachineSetting(
+        machineSettings, "Microsoft", "Microsoft Games\\Flight Simulator", "8.0", "", "EXE Path", "")));
 }
 
 bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "core/Session.h"
 #include "services/FileSystem.h"
@@ -9,7 +8,7 @@
 
 namespace orlo {
 
-// The simulator's folder, trimmed; empty when it is not known.
+// The simulator's folder as the machine-wide settings tell it, trimmed; empty when it is not known.
 std::string GetSimulatorPath(SettingsStore& machineSettings);
 
 // Replaces session.FSAircrafts by the variants of all folders below "Aircraft", in the order of the folders

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "platform/posix/PosixFileSystem.h"
 #include "simulator/AircraftClassLookup.h"
 #include "simulator/AircraftFiles.h"
 #include "simulator/AircraftScan.h"
 #include "simulator/ModelRadius.h"
 #include "support/BglBuilder.h"
-#include "support/DiskFileSystem.h"
 #include "support/FakeHosts.h"
 
 namespace orlo::test {
@@ -284,7 +284,7 @@ TEST(AircraftScan, ManySectionsOfOneNameCantMultiplyALongText) {
 }
 
 TEST(AircraftScan, TheWorldOfRealAircraftIsReadWhole) {
-    DiskFileSystem disk;
+    PosixFileSystem disk;
     const std::string simulator = std::string(ORLO_SOURCE_DIR) + "/../shared/real/simulator";
     if (!disk.FolderExists(simulator)) GTEST_SKIP() << "no aircraft of a real world lie beside the checkout";
     Session session;

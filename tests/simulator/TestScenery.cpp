@@ -2,12 +2,12 @@
 
 #include <limits>
 
+#include "platform/posix/PosixFileSystem.h"
 #include "simulator/AfdCache.h"
 #include "simulator/AircraftScan.h"
 #include "simulator/BglAirport.h"
 #include "simulator/Scenery.h"
 #include "support/BglBuilder.h"
-#include "support/DiskFileSystem.h"
 #include "support/FakeHosts.h"
 
 namespace orlo::test {
@@ -300,9 +300,12 @@ TEST(Scenery, EntriesThatShareABodyCantMultiplyTheFile) {
 struct SceneryWorld : FakeWorld {
     Session session;
     const std::string cachePath = NativePath("\\orlo\\AFDCache.dat");
+    void SetSimulator(const std::string& path) {
+        machineSettings.Set("SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0", "EXE Path", path);
+    }
     SceneryWorld() {
         session.ProgramFolder = NativePath("\\orlo");
-        machineSettings.Set(kSimulatorKeyPath, kSimulatorPathName, NativePath(" \\fs "));
+        SetSimulator(NativePath(" \\fs "));
         const std::string folder = NativePath("\\fs\\SCENEDB\\AFDFILES\\SCENERY\\");
         BglBuilder wrong = FullFile();
         wrong.sectionTag = 1;
@@ -360,7 +363,7 @@ TEST(Scenery, WithoutASimulatorNothingIsReadAndNoCacheWritten) {
     EXPECT_EQ(world.messages.shown[0].first, kMarkCritical);
     EXPECT_FALSE(world.files.FileExists(world.cachePath));
 
-    world.machineSettings.Set(kSimulatorKeyPath, kSimulatorPathName, NativePath("\\nowhere"));
+    world.SetSimulator(NativePath("\\nowhere"));
     EXPECT_FALSE(ReadScenery(world.session, world.services));
     EXPECT_EQ(world.messages.shown.size(), 1u);
     EXPECT_FALSE(world.files.FileExists(world.cachePath));
@@ -368,7 +371,7 @@ TEST(Scenery, WithoutASimulatorNothingIsReadAndNoCacheWritten) {
 
 TEST(Scenery, TheWorldOfRealAirportsIsReadWhole) {
     const std::string simulator = std::string(ORLO_SOURCE_DIR) + "/../shared/real/simulator";
-    DiskFileSystem disk;
+    PosixFileSystem disk;
     const std::string folder = SceneryFolder(simulator);
     if (!disk.FolderExists(folder)) GTEST_SKIP() << "no scenery of real airports lies beside the checkout";
     std::vector<AirportRecord> records;
