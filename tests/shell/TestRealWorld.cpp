@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 // A copy of the plan, a program folder with the default rules, and the program on them.
 struct RealWorld {
-    fs::path folder = fs::path(ORLO_BINARY_DIR) / "real-world";
+    fs::path folder;
     test::FakeWorld fakes;
     PosixFileSystem files;
     Services services{files,          fakes.userSettings, fakes.machineSettings, fakes.progress,
@@ -32,7 +32,7 @@ struct RealWorld {
 
     static fs::path Source() { return fs::path(ORLO_SOURCE_DIR) / ".." / "shared" / "real"; }
 
-    RealWorld() {
+    explicit RealWorld(const std::string& name) : folder(fs::path(ORLO_BINARY_DIR) / name) {
         fs::remove_all(folder);
         fs::create_directories(folder / "Plan");
         for (const auto& entry : fs::directory_iterator(Source() / "plan")) {
@@ -85,7 +85,7 @@ std::string Misfit(const Session& session,
 
 void ShuffleAndCheck(bool checkFL) {
     if (!fs::exists(RealWorld::Source())) GTEST_SKIP() << "no world of real traffic beside the checkout";
-    RealWorld world;
+    RealWorld world(checkFL ? "real-world-levels" : "real-world");
     Session& session = world.program.session;
     MainForm& form = world.program.forms.frmMain;
     ASSERT_TRUE(StartUp(world.program.context));
