@@ -8,6 +8,7 @@
 namespace orlo {
 namespace {
 
+constexpr std::uint64_t kLargestWholeFile = std::uint64_t{1} << 30;
 constexpr std::size_t kBufferSize = 1024 * 1024;
 constexpr std::size_t kFirstPiece = 512;  // longer than most lines
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -97,7 +98,7 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
 
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path) {
     const auto file = files.OpenForReading(path);
-    if (!file) return std::nullopt;
+    if (!file || file->Size() > kLargestWholeFile) return std::nullopt;
     std::string bytes;
     bytes.resize(file->Size());
     std::size_t length = 0;

@@ -5,6 +5,8 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <climits>
 
 #include "core/Path.h"
 #include "platform/posix/PosixHandle.h"
@@ -58,6 +60,13 @@ bool CopyBytes(const PosixHandle& from, OutputFile& to) {
 
 std::string PosixFileSystem::Resolve(const std::string& path) {
     return ResolveNames(path);
+}
+
+std::string PosixFileSystem::FullPath(const std::string& path) {
+    if (!path.empty() && path.front() == '/') return path;
+    std::array<char, PATH_MAX> folder{};
+    if (getcwd(folder.data(), folder.size()) == nullptr) return path;
+    return JoinPath(folder.data(), path);
 }
 
 bool PosixFileSystem::FileExists(const std::string& path) {
