@@ -49,8 +49,8 @@ struct Form {
     WindowBox box;
     bool centreRequest = false;  // the front end moves the window to the screen's centre and clears it
     std::optional<WindowLimits> limits;
-    std::int32_t opacity = 255;      // 0 to 255
-    bool systemMenuAbout = false;    // the window's system menu has an entry "About"
+    std::int32_t opacity = 255;    // 0 to 255
+    bool systemMenuAbout = false;  // the window's system menu has an entry "About"
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn

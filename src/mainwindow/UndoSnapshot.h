@@ -9,8 +9,8 @@ namespace orlo {
 
 struct Context;
 
-// The traffic as it was before an operation: one step back, no history. mnuToolsUndo being enabled is the only
-// sign that one is held.
+// The traffic as it was before an operation: one step back, no history. mnuToolsUndo being enabled is the
+// only sign that one is held.
 struct UndoSnapshot {
     FlightList Flights;
     std::vector<PlanAircraft> PlanAircrafts;

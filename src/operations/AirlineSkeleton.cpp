@@ -55,23 +55,15 @@ std::string FormatAirlineSkeleton(const std::vector<AirportRecord>& airports) {
         countries.Add(Concat(airport.Region, "/", airport.Country));
     }
     std::string out;
-    AppendLines(out, {kRule,
-                      ";------------------------------------ R E G I O N S ------------------------------",
-                      kRule,
-                      ";Airline Format: AIRLINE,PERCENT",
-                      ";Tailnumber Format: #NUMBER",
-                      ";   Placeholder:",
-                      ";           ! - Random Number",
-                      ";           . - Random Char",
-                      ";           ? - Random Number or Char",
-                      kRule,
-                      "",
-                      "[Global]",
-                      ""});
+    AppendLines(out,
+                {kRule, ";------------------------------------ R E G I O N S ------------------------------",
+                 kRule, ";Airline Format: AIRLINE,PERCENT", ";Tailnumber Format: #NUMBER",
+                 ";   Placeholder:", ";           ! - Random Number", ";           . - Random Char",
+                 ";           ? - Random Number or Char", kRule, "", "[Global]", ""});
     AppendSections(out, "Region", regions);
-    AppendLines(out, {kRule,
-                      ";----------------------------------- C O U N T R I E S ---------------------------",
-                      kRule, ""});
+    AppendLines(out,
+                {kRule, ";----------------------------------- C O U N T R I E S ---------------------------",
+                 kRule, ""});
     AppendSections(out, "Country", countries);
     return out;
 }

@@ -6,6 +6,8 @@ namespace orlo {
 
 EventTable EventsOf(const Forms& forms, const Form& form) {
     if (&form == &forms.frmMain) return MainEvents();
+    if (&form == &forms.frmSplash) return SplashEvents();
+    if (&form == &forms.frmAbout) return AboutEvents();
     return {};
 }
 
@@ -19,6 +21,15 @@ const EventEntry* FindEvent(const Context& context, const Event& event) {
         if (entry.kind == event.kind && EqualNoCase(entry.control, name)) return &entry;
     }
     return nullptr;
+}
+
+void RunButton(Context& context, Button& button) {
+    if (!button.EffectivelyEnabled()) return;
+    Event event{&button.form, &button, EventKind::Click};
+    const EventEntry* entry = FindEvent(context, event);
+    if (entry == nullptr) return;
+    if (entry->procedure == nullptr) return context.services.windows.ShowNotBuilt(entry->control);
+    entry->procedure(context, event);
 }
 
 }  // namespace orlo

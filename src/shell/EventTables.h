@@ -6,11 +6,16 @@
 namespace orlo {
 
 EventTable MainEvents();
+EventTable SplashEvents();
+EventTable AboutEvents();
 
 // The table of a form; empty for a form without events.
 EventTable EventsOf(const Forms& forms, const Form& form);
 
 // The entry that an event runs; null where nothing is to run.
 const EventEntry* FindEvent(const Context& context, const Event& event);
+
+// Runs what a click on the button runs, where the button is enabled: keys that stand for buttons.
+void RunButton(Context& context, Button& button);
 
 }  // namespace orlo

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/MainForm.h"
 
 namespace orlo {
 
@@ -23,8 +23,9 @@ struct EdgeModes {
 
 enum class EdgeUnit : std::int16_t { Scale = 0, Offset = 1 };
 
-// The proportional layout of a window: each registered control keeps the edges that it had at registration, moved
-// or scaled with the window's inner size. Nothing clips; the least size of the window keeps controls apart.
+// The proportional layout of a window: each registered control keeps the edges that it had at registration,
+// moved or scaled with the window's inner size. Nothing clips; the least size of the window keeps controls
+// apart.
 class cResize {
   public:
     void SetFormHeight(std::int32_t height) { height_ = height; }
@@ -53,6 +54,6 @@ class cResize {
 };
 
 // Registers the controls of the main window that follow its size, in their order, for its present inner size.
-void RegisterMainLayout(cResize& layout, struct MainForm& form, std::int32_t height, std::int32_t width);
+void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width);
 
 }  // namespace orlo

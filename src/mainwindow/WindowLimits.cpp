@@ -1,4 +1,4 @@
-#include "shell/WindowLimits.h"
+#include "mainwindow/WindowLimits.h"
 
 #include <algorithm>
 
