@@ -34,7 +34,8 @@ std::string_view WithoutByteOrderMark(std::string_view text) {
 
 }  // namespace
 
-LineReader::LineReader(InputFile& file) : file_(file), buffer_(kBufferSize) {}
+LineReader::LineReader(InputFile& file)
+    : file_(file), buffer_(static_cast<std::size_t>(std::min<std::uint64_t>(file.Size() + 1, kBufferSize))) {}
 
 // Reads more bytes behind those not yet given out. False at the end of the file.
 bool LineReader::Fill() {
