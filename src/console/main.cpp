@@ -1,5 +1,6 @@
 // The console program: makes the services of this system and runs a script on the program.
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory_resource>
@@ -7,17 +8,9 @@
 #include "console/ConsoleHost.h"
 #include "console/Options.h"
 #include "console/ScriptRunner.h"
-#include "core/Path.h"
 #include "core/Version.h"
+#include "platform/Platform.h"
 #include "platform/common/SystemRandom.h"
-#include "platform/common/TextSettingsStore.h"
-#include "platform/posix/LargePageMemory.h"
-#include "platform/posix/PosixFileSystem.h"
-#include "platform/posix/PosixMachineSettings.h"
-#include "platform/posix/ProgramFolder.h"
-#include "platform/posix/SystemClock.h"
-#include "platform/posix/Terminal.h"
-#include "platform/posix/UserFolders.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 
@@ -27,27 +20,23 @@ namespace {
 constexpr int kStartUpFailed = 1;
 constexpr int kScriptFailed = 2;
 
-// The rule files stand in the installation, or in the checkout beside the build's folder.
-std::string FindProgramFolder(FileSystem& files) {
-    const std::string executable = ExecutablePath();
-    const std::string installation = ParentFolder(ParentFolder(executable));
-    return FindProgramFolder(files, executable,
-                             {JoinPath(installation, "share/orlo"), JoinPath(installation, "share")});
+// Words of the command line are UTF-8 on Windows, and the system's bytes elsewhere.
+std::filesystem::path ScriptPath(const std::string& word) {
+    return std::u8string(word.begin(), word.end());
 }
 
 int RunConsole(const ConsoleOptions& options, std::istream& script) {
-    std::pmr::set_default_resource(&LargePageMemory());
-    PosixFileSystem files;
-    TextSettingsStore userSettings(files, options.settings ? *options.settings : UserSettingsPath());
-    PosixMachineSettings machineSettings(files, std::string(kMachineSettingsPath), WinePrefixFolder());
-    if (options.simulator) machineSettings.SetSimulator(*options.simulator);
+    std::pmr::set_default_resource(&ListMemory());
+    const auto files = MakeFileSystem();
+    const auto userSettings = MakeUserSettings(*files, options.settings);
+    const auto machineSettings = MakeMachineSettings(*files, options.simulator.value_or(std::string()));
     SystemRandom random(options.seed);
-    SystemClock clock;
-    ConsoleHost host(files, std::cout, options.strict, options.trace);
-    if (IsTerminal(StandardStream::Error)) host.DrawBarOn(&std::cerr);
-    Services services{files, userSettings, machineSettings, host, host, host, random, clock};
+    const auto clock = MakeClock();
+    ConsoleHost host(*files, std::cout, options.strict, options.trace);
+    if (ErrorsAreOnTerminal()) host.DrawBarOn(&std::cerr);
+    Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
 
-    const std::string programFolder = options.program ? *options.program : FindProgramFolder(files);
+    const std::string programFolder = options.program ? *options.program : FindProgramFolder(*files);
     Program program(services, programFolder);
     ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict);
     if (!StartUp(program.context)) {
@@ -68,7 +57,7 @@ int Main(const std::vector<std::string>& arguments) {
         return 0;
     }
     if (!options.script) return RunConsole(options, std::cin);
-    std::ifstream script(*options.script, std::ios::binary);
+    std::ifstream script(ScriptPath(*options.script), std::ios::binary);
     if (!script) {
         std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
         return kScriptFailed;
@@ -81,5 +70,8 @@ int Main(const std::vector<std::string>& arguments) {
 
 int main(int count, char** words) {
     std::ios::sync_with_stdio(false);
-    return orlo::Main(std::vector<std::string>(words + 1, words + count));
+    const auto streams = orlo::UseUtf8Streams();
+    const int status = orlo::Main(orlo::ProgramArguments(count, words));
+    std::cout << std::flush;
+    return status;
 }
