@@ -88,7 +88,7 @@ std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& 
 }
 
 std::unique_ptr<OutputFile> WindowsFileSystem::CreateReplacing(const std::string& path) {
-    return OpenReplacing(path);
+    return OpenReplacing(ResolveNames(path));
 }
 
 std::unique_ptr<OutputFile> WindowsFileSystem::CreateInPlace(const std::string& path) {
@@ -98,7 +98,7 @@ std::unique_ptr<OutputFile> WindowsFileSystem::CreateInPlace(const std::string& 
 bool WindowsFileSystem::CopyFile(const std::string& from, const std::string& to) {
     const WindowsHandle source = OpenOnDisk(from, OpenFor::Reading);
     if (!source.IsOpen()) return false;
-    const auto target = OpenReplacing(to);
+    const auto target = OpenReplacing(ResolveNames(to));
     return target && CopyBytes(source, *target) && target->Commit();
 }
 

@@ -32,6 +32,13 @@ DWORD DispositionFor(OpenFor purpose) {
     return OPEN_EXISTING;
 }
 
+// An administrator may get past the attribute, and no file is to be written so.
+bool IsReadOnly(HANDLE file) {
+    BY_HANDLE_FILE_INFORMATION facts{};
+    return GetFileInformationByHandle(file, &facts) == 0 ||
+           (facts.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 // A file that is replaced hands its permissions and attributes on; not every disk can do that.
 bool RenameOnce(const std::wstring& from, const std::wstring& to) {
     constexpr DWORD kRules = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
@@ -78,6 +85,7 @@ WindowsHandle OpenOnDisk(const std::string& path, OpenFor purpose) {
     if (opened == INVALID_HANDLE_VALUE) return {};
     WindowsHandle file(opened);
     if (GetFileType(opened) != FILE_TYPE_DISK) return {};
+    if (purpose != OpenFor::Reading && IsReadOnly(opened)) return {};
     if (purpose == OpenFor::Truncating && !SetSize(file, 0)) return {};
     return file;
 }
