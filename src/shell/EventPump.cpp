@@ -32,16 +32,16 @@ int EventPump::EnterModal() {
 }
 
 bool EventPump::Accepts(const Event& event) const {
-    if (event.kind == EventKind::Timer) return true;
-    if (event.form == nullptr || !windows_.IsOpen(*event.form) || running_ > 0) return false;
+    if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
+    if (event.form == nullptr || !windows_.IsOpen(*event.form)) return false;
     const Form* top = windows_.TopModal();
-    if (top != nullptr && top != event.form) return false;
+    if (top != event.form && (top != nullptr || running_ > 0)) return false;
     if (event.kind == EventKind::Close) return true;
     return event.form->enabled && (event.control == nullptr || event.control->EffectivelyEnabled());
 }
 
 void EventPump::RunQueued() {
-    while (running_ == 0 && !queue_.empty()) {
+    while (!queue_.empty()) {
         Event event = queue_.front();
         queue_.pop_front();
         Deliver(event);
@@ -79,6 +79,9 @@ void EventPump::RecoverFromFailure(std::string_view reason) {
     form.enabled = true;
     form.pointer = PointerShape::Normal;
     form.frozen = 0;
+    form.HandlingNodeCheck = false;
+    form.tvShuffleAircraft.visible = context_.session.PlanLoaded;
+    form.tvMoveAircrafts.visible = context_.session.PlanLoaded;
     form.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 

@@ -31,7 +31,7 @@ class EventPump {
     OpenForms& Windows() { return windows_; }
 
     void Post(const Event& event) { queue_.push_back(event); }
-    // Runs what is queued; nothing while an operation runs below the same modal form.
+    // Runs what is queued, or drops it.
     void RunQueued();
     // Runs one event at once. False when it was dropped or its procedure refused it.
     bool Deliver(Event& event);

@@ -156,6 +156,17 @@ TEST(WindowsFileSystem, AFileThatGrowsInPlaceTakesItsRoomFirst) {
     EXPECT_EQ(FinalPath(file).substr(1, 2), ":\\");
 }
 
+TEST(WindowsFileSystem, ARelativePathStandsInTheWorkingFolder) {
+    const TemporaryFolder folder;
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Wide(L""));
+    WindowsFileSystem files;
+    EXPECT_EQ(files.FullPath("Plan/a.txt"), folder.Path("Plan\\a.txt"));
+    EXPECT_EQ(files.FullPath(folder.Path("a.txt")), folder.Path("a.txt"));
+    EXPECT_EQ(files.FullPath("NUL"), "NUL");
+    std::filesystem::current_path(before);
+}
+
 TEST(WindowsFileSystem, OnlyAFolderThatStandsCanBeWrittenIn) {
     const TemporaryFolder folder;
     EXPECT_TRUE(CanWriteIn(folder.Path()));

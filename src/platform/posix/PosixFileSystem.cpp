@@ -4,6 +4,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <climits>
+
+#include "core/Path.h"
 #include "platform/common/OutputFiles.h"
 #include "platform/posix/PosixHandle.h"
 #include "platform/posix/PosixNames.h"
@@ -45,6 +49,13 @@ mode_t CopyMode(const struct stat& source) {
 
 std::string PosixFileSystem::Resolve(const std::string& path) {
     return ResolveNames(path);
+}
+
+std::string PosixFileSystem::FullPath(const std::string& path) {
+    if (!path.empty() && path.front() == '/') return path;
+    std::array<char, PATH_MAX> folder{};
+    if (getcwd(folder.data(), folder.size()) == nullptr) return path;
+    return JoinPath(folder.data(), path);
 }
 
 bool PosixFileSystem::FileExists(const std::string& path) {

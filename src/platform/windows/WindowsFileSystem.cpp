@@ -64,6 +64,11 @@ std::string WindowsFileSystem::Resolve(const std::string& path) {
     return ResolveNames(path);
 }
 
+std::string WindowsFileSystem::FullPath(const std::string& path) {
+    std::string full = orlo::FullPath(path);
+    return full.empty() ? path : full;
+}
+
 bool WindowsFileSystem::FileExists(const std::string& path) {
     const auto facts = FactsOf(path);
     return facts && !facts->isFolder;
