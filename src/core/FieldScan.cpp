@@ -1,6 +1,7 @@
 #include "core/FieldScan.h"
 
 #include <bit>
+#include <cstring>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -19,18 +20,6 @@ struct BlockMasks {
 
 constexpr std::size_t kBlock = 32;
 
-BlockMasks MasksOf(const char* bytes, std::size_t count) {
-    BlockMasks masks;
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint32_t bit = std::uint32_t{1} << i;
-        if (bytes[i] == ',') masks.commas |= bit;
-        if (bytes[i] == ';') masks.semicolons |= bit;
-        if (bytes[i] == '/') masks.slashes |= bit;
-        if (bytes[i] == ' ') masks.blanks |= bit;
-    }
-    return masks;
-}
-
 #ifdef __SSE2__
 std::uint32_t EqualMask(__m128i low, __m128i high, char character) {
     const __m128i wanted = _mm_set1_epi8(character);
@@ -39,17 +28,39 @@ std::uint32_t EqualMask(__m128i low, __m128i high, char character) {
     return lowMask | highMask << 16;
 }
 
-BlockMasks MasksOfWholeBlock(const char* bytes) {
+BlockMasks MasksOf(const char* bytes) {
     const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
     const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16));
     return {EqualMask(low, high, ','), EqualMask(low, high, ';'), EqualMask(low, high, '/'),
             EqualMask(low, high, ' ')};
 }
 #else
-BlockMasks MasksOfWholeBlock(const char* bytes) {
-    return MasksOf(bytes, kBlock);
+BlockMasks MasksOf(const char* bytes) {
+    BlockMasks masks;
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        const std::uint32_t bit = std::uint32_t{1} << i;
+        if (bytes[i] == ',') masks.commas |= bit;
+        if (bytes[i] == ';') masks.semicolons |= bit;
+        if (bytes[i] == '/') masks.slashes |= bit;
+        if (bytes[i] == ' ') masks.blanks |= bit;
+    }
+    return masks;
 }
 #endif
+
+// Of the last `left` bytes of a line, fewer than a block: those of the block that ends with them, moved down.
+// A line shorter than a block is filled up.
+BlockMasks MasksOfTail(std::string_view line, std::size_t left) {
+    char filled[kBlock] = {};
+    const char* block = line.data() + line.size() - kBlock;
+    if (line.size() < kBlock) {
+        std::memcpy(filled + kBlock - line.size(), line.data(), line.size());
+        block = filled;
+    }
+    const BlockMasks masks = MasksOf(block);
+    const std::size_t shift = kBlock - left;
+    return {masks.commas >> shift, masks.semicolons >> shift, masks.slashes >> shift, masks.blanks >> shift};
+}
 
 }  // namespace
 
@@ -59,9 +70,8 @@ void FieldScan::Scan(std::string_view line) {
     std::uint32_t blanks = 0;
     std::uint32_t slashBefore = 0;  // 1 when the byte in front of the block is a slash
     for (std::size_t at = 0; at < length_; at += kBlock) {
-        const std::size_t left = length_ - at;
-        const BlockMasks masks =
-            left >= kBlock ? MasksOfWholeBlock(line.data() + at) : MasksOf(line.data() + at, left);
+        const std::size_t left = line.size() - at;
+        const BlockMasks masks = left >= kBlock ? MasksOf(line.data() + at) : MasksOfTail(line, left);
         blanks |= masks.blanks;
         std::uint32_t found = masks.commas;
         std::uint32_t doubled = masks.slashes & (masks.slashes << 1 | slashBefore);
@@ -79,10 +89,10 @@ void FieldScan::Scan(std::string_view line) {
         }
         if (commas_.size() < count_ + kBlock) commas_.resize(2 * count_ + kBlock);
         std::uint32_t* next = commas_.data() + count_;
-        count_ += static_cast<std::size_t>(std::popcount(found));
         for (; found != 0; found &= found - 1) {
             *next++ = static_cast<std::uint32_t>(at) + static_cast<std::uint32_t>(std::countr_zero(found));
         }
+        count_ = static_cast<std::size_t>(next - commas_.data());
     }
     hasBlanks_ = blanks != 0;
 }

@@ -14,7 +14,8 @@ struct RowHead {
 
 constexpr std::size_t kRowAlignment = 8;
 constexpr std::size_t kFirstChunk = 16 * 1024;
-constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
+constexpr std::size_t kMostInSmallChunks = 256 * 1024;
+constexpr std::size_t kLargeChunk = 4 * 1024 * 1024;
 constexpr std::size_t kLargePage = 2 * 1024 * 1024;
 
 char* FieldsOf(char* rowStart) {
@@ -73,8 +74,10 @@ class FlightList::Arena {
     };
 
     void AddChunk(std::size_t wanted) {
-        const std::size_t size = std::max(wanted, std::clamp(bytes_ / 4, kFirstChunk, kLargestChunk));
-        const std::size_t alignment = size >= kLargestChunk ? kLargePage : kRowAlignment;
+        // A list that has outgrown the small chunks goes over to whole large pages.
+        const std::size_t usual = bytes_ < kMostInSmallChunks ? kFirstChunk : kLargeChunk;
+        const std::size_t size = std::max(wanted, usual);
+        const std::size_t alignment = size >= kLargeChunk ? kLargePage : kRowAlignment;
         chunks_.reserve(chunks_.size() + 1);
         chunks_.push_back({memory_->allocate(size, alignment), size, alignment});
         next_ = static_cast<char*>(chunks_.back().start);
