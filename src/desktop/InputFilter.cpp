@@ -183,7 +183,10 @@ bool InputFilter::Shortcut(FormWindow& window, QObject* object) {
             if (LabelOf(*control) == to) to = control;
         }
     }
-    return !Leaves(window, to);
+    if (!Leaves(window, to)) return true;
+    // The toolkit presses a button by its mnemonic without giving it the focus.
+    if (to->kind == ControlKind::Button) widget->setFocus(Qt::ShortcutFocusReason);
+    return false;
 }
 
 // A wheel that passes over a field changes nothing.

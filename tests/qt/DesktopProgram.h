@@ -156,6 +156,7 @@ struct DesktopProgram {
     DesktopProgram() {
         host.Attach(program.pump, program.forms.frmProgress);
         program.pump.AddTable(form, SampleEvents());
+        form.box = {0, 0, 600, 760};
         host.ShowForm(form);
         EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(form)));
         Settle();
