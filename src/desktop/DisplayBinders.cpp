@@ -7,7 +7,6 @@
 namespace orlo {
 
 void FrameBinder::DrawContent() {
-    // A frame has no mnemonic of its own in this toolkit, unless it can be checked.
     if (caption_.Changes(Of().caption)) shown_.setTitle(ToQString(Of().caption));
 }
 

@@ -121,6 +121,7 @@ void FormWindow::TakeRequests() {
             if (widget.isEnabled() && widget.isVisibleTo(this)) widget.setFocus(Qt::OtherFocusReason);
         }
         form_->focusRequest = false;
+        form_->focus = FocusControl();
     }
     for (const auto& binder : binders_) {
         // A request to a hidden control waits, as its contents do.

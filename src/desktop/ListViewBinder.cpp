@@ -35,19 +35,30 @@ class RowDelegate : public QStyledItemDelegate {
     const ListView& list_;
 };
 
-// Tells whether an act of the user's adds to the selection.
+// Remembers what the user's last act does to the selection.
 class ListTable : public QTableView {
   public:
     using QTableView::QTableView;
-    bool replaces = true;
+    QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
+
+    // The toolkit's own toggles with the key held that calls it.
+    void selectAll() override {
+        if (model() == nullptr || model()->rowCount() == 0 || model()->columnCount() == 0) return;
+        command_ = QItemSelectionModel::ClearAndSelect;
+        const QItemSelection all(model()->index(0, 0),
+                                 model()->index(model()->rowCount() - 1, model()->columnCount() - 1));
+        selectionModel()->select(all, command_);
+    }
 
   protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override {
-        const auto flags = QTableView::selectionCommand(index, event);
-        const_cast<ListTable*>(this)->replaces = flags.testFlag(QItemSelectionModel::Clear);
-        return flags;
+        command_ = QTableView::selectionCommand(index, event);
+        return command_;
     }
+
+  private:
+    mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
 
 std::vector<PositionRange> RangesOf(const QItemSelection& selection) {
@@ -196,16 +207,30 @@ void ListViewBinder::TakeRequests() {
 
 void ListViewBinder::UserSelects(const QItemSelection& selected, const QItemSelection& deselected) {
     if (!Takes(EventKind::SelectRow) || !model_.SameSize()) return GoBack();
-    if (inPieces_ && !static_cast<ListTable&>(shown_).replaces) {
-        list_.SelectRanges(RangesOf(deselected), false);
-        list_.SelectRanges(RangesOf(selected), true);
-    } else {
+    const auto command = static_cast<ListTable&>(shown_).LastCommand();
+    if (!inPieces_ || command.testFlag(QItemSelectionModel::Clear)) {
         list_.SelectOnly(RangesOf(shown_.selectionModel()->selection()));
         inPieces_ = false;
+    } else if (command.testFlag(QItemSelectionModel::Toggle)) {
+        // The toolkit doesn't know whether the rows were selected.
+        Toggle(RangesOf(selected));
+        Toggle(RangesOf(deselected));
+    } else {
+        list_.SelectRanges(RangesOf(deselected), false);
+        list_.SelectRanges(RangesOf(selected), true);
     }
     drawnSelection_ = list_.selectionRevision;
     shown_.viewport()->update();
     AnnounceSelection();
+}
+
+void ListViewBinder::Toggle(const std::vector<PositionRange>& ranges) {
+    for (const PositionRange& range : ranges) {
+        for (std::int32_t position = range.first; position <= range.last; ++position) {
+            const std::int32_t place = list_.PlaceAt(position);
+            list_.Select(place, !list_.Selected(place));
+        }
+    }
 }
 
 void ListViewBinder::UserMoves(const QModelIndex& index) {

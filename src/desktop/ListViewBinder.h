@@ -32,6 +32,7 @@ class ListViewBinder : public Binder {
     void DrawSelection();
     void DrawCurrent();
     void UserSelects(const QItemSelection& selected, const QItemSelection& deselected);
+    void Toggle(const std::vector<PositionRange>& ranges);
     void UserMoves(const QModelIndex& index);
     // Both come from one act of the user, which is one event.
     void AnnounceSelection();

@@ -80,9 +80,9 @@ struct ListView : Control {
     // What ranges name beyond the rows counts for nothing.
     void SelectRanges(std::span<const PositionRange> ranges, bool on);
     void SelectOnly(std::span<const PositionRange> ranges);  // and nothing else
-    std::vector<std::int32_t> SelectedPlaces() const;   // in displayed order
-    std::vector<PositionRange> SelectedRanges() const;  // in displayed order, none next to another
-    std::int32_t current = -1;                          // place, -1 for none
+    std::vector<std::int32_t> SelectedPlaces() const;        // in displayed order
+    std::vector<PositionRange> SelectedRanges() const;       // in displayed order, none next to another
+    std::int32_t current = -1;                               // place, -1 for none
 
     bool sorted = false;  // the switch; while it is off, further rows go to the end
     std::int32_t sortColumn = 0;

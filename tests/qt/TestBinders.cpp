@@ -229,6 +229,11 @@ TEST(Binders, ASelectionInPiecesIsKeptByTheForm) {
     DesktopProgram::Settle();
     EXPECT_TRUE(form.lvRows.Selected(2));
     EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 50001u);
+    for (const bool on : {false, true}) {
+        desktop.ClickAt(table, RowPlace(table, 1), Qt::LeftButton, Qt::ControlModifier);
+        DesktopProgram::Settle();
+        EXPECT_EQ(form.lvRows.Selected(1), on);
+    }
     desktop.ClickAt(table, RowPlace(table, 4));
     DesktopProgram::Settle();
     EXPECT_EQ(form.lvRows.SelectedPlaces(), std::vector{4});
@@ -237,6 +242,10 @@ TEST(Binders, ASelectionInPiecesIsKeptByTheForm) {
     desktop.ClickAt(table, RowPlace(table, 3), Qt::LeftButton, Qt::ShiftModifier);
     DesktopProgram::Settle();
     EXPECT_EQ(form.lvRows.SelectedPlaces(), (std::vector{0, 1, 2, 3}));
+    selectEveryOther();
+    desktop.Key(form, Qt::Key_A, Qt::ControlModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 100000u);
 }
 
 TEST(Binders, RangesOfAListAreThoseOfItsDisplayedOrder) {

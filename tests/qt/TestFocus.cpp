@@ -168,6 +168,16 @@ TEST(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
     form.SetFocus(form.cmZone);
     desktop.CatchUp();
     EXPECT_EQ(form.focus, &form.cmZone);
+    // One for a control that can't have it is given up.
+    form.ckSwitch.enabled = false;
+    form.SetFocus(form.ckSwitch);
+    desktop.CatchUp();
+    EXPECT_EQ(form.focus, &form.cmZone);
+    // A focus that the toolkit moves gives way to one that was asked for.
+    form.cmZone.visible = false;
+    form.SetFocus(form.cmdStop);
+    desktop.CatchUp();
+    EXPECT_EQ(form.focus, &form.cmdStop);
     EXPECT_TRUE(form.ran.empty());
 }
 
