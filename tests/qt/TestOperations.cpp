@@ -38,10 +38,13 @@ TEST(Operations, WhatTheUserDoesWhileEventsRunIsDroppedTheCloseBoxIncluded) {
         desktop.Click(form.cmdStop);
         desktop.WindowOf(form).close();
         context.services.windows.ProcessEvents();
+        // Not kept for afterwards.
+        desktop.host.Post({&form, &form.cmdStop, EventKind::Click});
     };
     desktop.Click(form.cmdGo);
     DesktopProgram::Settle();
     EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
+    EXPECT_EQ(form.focus, &form.cmdGo);
     EXPECT_FALSE(form.ckSwitch.checked);
     EXPECT_FALSE(desktop.Find<QCheckBox>(form.ckSwitch).isChecked());
     desktop.Click(form.cmdStop);
