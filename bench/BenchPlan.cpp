@@ -9,7 +9,6 @@
 #include <map>
 
 #include "core/FlightplanFile.h"
-#include "platform/posix/LargePageMemory.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/FakeHosts.h"
 
@@ -33,10 +32,6 @@ const std::string& PlanOf(std::int64_t flights) {
     return path;
 }
 
-void SetUpMemory() {
-    std::pmr::set_default_resource(&LargePageMemory());
-}
-
 void BM_PlainRead(benchmark::State& state) {
     PosixFileSystem files;
     const std::string& path = PlanOf(state.range(0));
@@ -50,7 +45,6 @@ void BM_PlainRead(benchmark::State& state) {
 }
 
 void BM_ReadFlightplan(benchmark::State& state) {
-    SetUpMemory();
     test::FakeWorld world;
     PosixFileSystem files;
     Services services{files,          world.userSettings, world.machineSettings, world.progress,
@@ -67,7 +61,6 @@ void BM_ReadFlightplan(benchmark::State& state) {
 }
 
 FlightList ListOf(std::int64_t flights) {
-    SetUpMemory();
     test::FakeWorld world;
     PosixFileSystem files;
     Services services{files,          world.userSettings, world.machineSettings, world.progress,

@@ -9,6 +9,10 @@ function(orlo_compile_options target)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(${target} PRIVATE -Wno-restrict)
   endif()
+  # To clang -Wconversion also means signs, to g++ it does not.
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    target_compile_options(${target} PRIVATE -Wno-sign-conversion)
+  endif()
   if(ORLO_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined,fuzzer-no-link
       -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g)

@@ -70,7 +70,7 @@ bool Offers(const std::vector<MessageAnswer>& buttons, MessageAnswer answer) {
 
 // The line of a dialog or input box; nothing stands behind the arrow of a cancel.
 std::string ArrowLine(std::string_view said, const std::optional<std::string>& answer) {
-    return answer ? Concat(said, " -> ", *answer) : Concat(said, " ->");
+    return answer ? Concat(said, " -> ", Printed(*answer)) : Concat(said, " ->");
 }
 
 }  // namespace
@@ -170,15 +170,15 @@ void ConsoleHost::ShowNotBuilt(std::string_view controlName) {
 }
 
 void ConsoleHost::StartTimer(std::string_view name, int) {
-    timers_.emplace(name);
+    timers_.insert(UpperText(name));
 }
 
 void ConsoleHost::StopTimer(std::string_view name) {
-    timers_.erase(std::string(name));
+    timers_.erase(UpperText(name));
 }
 
 bool ConsoleHost::TimerArmed(std::string_view name) const {
-    return timers_.find(name) != timers_.end();
+    return timers_.contains(UpperText(name));
 }
 
 std::optional<std::string> ConsoleHost::TakePath(std::string_view what, std::string_view title,
@@ -212,7 +212,7 @@ std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::s
         answers.inputs.pop_front();
     }
     const std::string said = Concat("input \"", PrintedMessage(title), "\" \"", PrintedMessage(prompt), "\"");
-    out_ << ArrowLine(said, text ? std::optional(PrintedMessage(*text)) : std::nullopt) << '\n';
+    out_ << ArrowLine(said, text ? std::optional(ReplaceAll(*text, "\\", "\\\\")) : std::nullopt) << '\n';
     if (strict_ && !answered) throw ScriptEnd{"an input box has no queued answer"};
     return text;
 }

@@ -86,7 +86,7 @@ class ConsoleHost : public ProgressHost, public MessageHost, public WindowHost {
     std::ostream* bar_ = nullptr;
     int drawnPercent_ = -1;
     bool progressShown_ = false;
-    std::set<std::string, std::less<>> timers_;
+    std::set<std::string> timers_;  // upper-cased names of the armed ones
     std::string printPath_;
 };
 

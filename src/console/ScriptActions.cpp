@@ -11,6 +11,33 @@
 namespace orlo {
 namespace {
 
+// Whether a text is the one that a script names: as typed, or as its code page 1252 form; case aside.
+bool IsNamed(std::string_view text, std::string_view word) {
+    return EqualNoCase(text, word) || EqualNoCase(text, FromScreen(word));
+}
+
+bool TakesFocus(const Control& control) {
+    switch (control.kind) {
+        case ControlKind::Label:
+        case ControlKind::MenuEntry:
+        case ControlKind::Frame:
+        case ControlKind::ProgressBar:
+        case ControlKind::Picture:
+        case ControlKind::StatusBar:
+            return false;
+        default:
+            return true;
+    }
+}
+
+// Panes behind other tabs can be used; what is hidden otherwise can't.
+bool IsHidden(const Control& control) {
+    for (const Control* at = &control; at != nullptr; at = at->parent) {
+        if (!at->visible && at->kind != ControlKind::Picture) return true;
+    }
+    return false;
+}
+
 bool ParseOnOff(const std::string& word) {
     if (EqualNoCase(word, "on")) return true;
     if (EqualNoCase(word, "off")) return false;
@@ -29,7 +56,7 @@ std::int32_t RowPlace(const ListView& list, std::string_view word) {
 std::int32_t NodePlace(const TreeView& tree, std::string_view text) {
     for (const std::int32_t place : tree.DisplayOrder()) {
         const TreeNode& node = tree.nodes[static_cast<std::size_t>(place)];
-        if (EqualNoCase(node.text, text) || EqualNoCase(node.key, text)) return place;
+        if (IsNamed(node.text, text) || IsNamed(node.key, text)) return place;
     }
     throw ScriptEnd{Concat(tree.name, " has no node '", text, "'")};
 }
@@ -39,12 +66,12 @@ std::int32_t EntryPlace(const ComboBox& combo, const std::string& word) {
         const auto index = ParseWholeNumber(std::string_view(word).substr(1));
         if (index && *index >= 0 && *index < static_cast<std::int32_t>(combo.entries.size())) return *index;
     }
-    const std::string text = FromScreen(word);
     for (std::size_t i = 0; i < combo.entries.size(); ++i) {
-        if (combo.entries[i].text == text) return static_cast<std::int32_t>(i);
+        if (combo.entries[i].text == word || combo.entries[i].text == FromScreen(word))
+            return static_cast<std::int32_t>(i);
     }
     for (std::size_t i = 0; i < combo.entries.size(); ++i) {
-        if (EqualNoCase(combo.entries[i].text, text)) return static_cast<std::int32_t>(i);
+        if (IsNamed(combo.entries[i].text, word)) return static_cast<std::int32_t>(i);
     }
     throw ScriptEnd{Concat(combo.name, " has no entry '", word, "'")};
 }
@@ -103,8 +130,7 @@ Control& ScriptRunner::Usable(std::string_view name) const {
         throw ScriptEnd{Concat(control.name, " stands under a modal window")};
     if (!control.form.enabled || !control.EffectivelyEnabled())
         throw ScriptEnd{Concat(control.name, " is disabled")};
-    if (!control.visible && control.kind != ControlKind::Picture)
-        throw ScriptEnd{Concat(control.name, " is hidden")};
+    if (IsHidden(control)) throw ScriptEnd{Concat(control.name, " is hidden")};
     return control;
 }
 
@@ -130,7 +156,7 @@ bool ScriptRunner::Leave(Control& field) {
 
 bool ScriptRunner::MoveFocus(Control& to) {
     Form& form = to.form;
-    if (form.focus == &to) return true;
+    if (form.focus == &to || !TakesFocus(to)) return true;
     if (form.focus != nullptr && !Leave(*form.focus)) return false;
     form.focus = &to;
     form.focusRequest = false;
@@ -149,9 +175,7 @@ void ScriptRunner::Press(Control& control) {
 
 void ScriptRunner::Click(const Words& words) {
     Control& control = Usable(words[1]);
-    // Menus take no focus, so that choosing an entry leaves no field.
-    if (control.kind != ControlKind::MenuEntry && !MoveFocus(control)) return;
-    Press(control);
+    if (MoveFocus(control)) Press(control);
 }
 
 void ScriptRunner::WriteText(TextBox& field, const std::string& text) {
@@ -168,7 +192,7 @@ void ScriptRunner::Type(const Words& words) {
 
 void ScriptRunner::Set(const Words& words) {
     Control& control = Usable(words[1]);
-    if (control.kind != ControlKind::MenuEntry && !MoveFocus(control)) return;
+    if (!MoveFocus(control)) return;
     switch (control.kind) {
         case ControlKind::TextBox:
             WriteText(static_cast<TextBox&>(control), words[2]);
@@ -209,7 +233,7 @@ void ScriptRunner::Set(const Words& words) {
 void ScriptRunner::Node(const Words& words) {
     auto& tree = UsableAs<TreeView>(words[1], ControlKind::TreeView);
     if (!MoveFocus(tree)) return;
-    const std::int32_t place = NodePlace(tree, FromScreen(words[2]));
+    const std::int32_t place = NodePlace(tree, words[2]);
     const bool on = ParseOnOff(words[3]);
     TreeNode& node = tree.nodes[static_cast<std::size_t>(place)];
     tree.current = place;
@@ -254,10 +278,9 @@ void ScriptRunner::SortColumn(const Words& words) {
     if (!MoveFocus(list)) return;
     const auto count = static_cast<std::int32_t>(list.columns.size());
     std::int32_t column = ParseWholeNumber(words[2]).value_or(-1);
-    const std::string text = FromScreen(words[2]);
     for (std::int32_t i = 0; i < count; ++i) {
         const ListColumn& candidate = list.columns[static_cast<std::size_t>(i)];
-        if (EqualNoCase(candidate.caption, text) || EqualNoCase(candidate.key, text)) column = i;
+        if (IsNamed(candidate.caption, words[2]) || IsNamed(candidate.key, words[2])) column = i;
     }
     if (column < 0 || column >= count) throw ScriptEnd{Concat(list.name, " has no column '", words[2], "'")};
     Deliver(list, EventKind::ClickColumn, column);
@@ -265,6 +288,7 @@ void ScriptRunner::SortColumn(const Words& words) {
 
 void ScriptRunner::Key(const Words& words) {
     Control& control = Usable(words[1]);
+    if (!TakesFocus(control)) throw ScriptEnd{Concat(control.name, " takes no focus")};
     if (!MoveFocus(control)) return;
     Form& form = control.form;
     if (EqualNoCase(words[2], "Enter") || EqualNoCase(words[2], "Escape")) {
@@ -282,7 +306,9 @@ void ScriptRunner::Key(const Words& words) {
 }
 
 void ScriptRunner::Focus(const Words& words) {
-    MoveFocus(Usable(words[1]));
+    Control& control = Usable(words[1]);
+    if (!TakesFocus(control)) throw ScriptEnd{Concat(control.name, " takes no focus")};
+    MoveFocus(control);
 }
 
 void ScriptRunner::CloseForm(const Words& words) {
@@ -292,8 +318,16 @@ void ScriptRunner::CloseForm(const Words& words) {
     if (form == nullptr) form = &program_.forms.frmMain;
     const Form* top = windows.TopModal();
     if (top != nullptr && top != form) throw ScriptEnd{Concat(form->name, " stands under a modal window")};
-    Event event{form, nullptr, EventKind::Close};
-    program_.pump.Deliver(event);
+    PressCloseBox(*form);
+}
+
+bool ScriptRunner::PressCloseBox(Form& form) {
+    Event event{&form, nullptr, EventKind::Close};
+    if (!program_.pump.Deliver(event)) return false;
+    form.closeRequest = true;
+    if (&form != &program_.forms.frmMain && program_.pump.Windows().TopModal() != &form)
+        host_.UnloadForm(form);
+    return true;
 }
 
 void ScriptRunner::FireTimer(const Words& words) {
@@ -324,17 +358,17 @@ void ScriptRunner::Hover(const Words& words) {
     std::int32_t node = -1;
     if (words.size() > 2) {
         if (control.kind != ControlKind::TreeView) throw ScriptEnd{Concat(control.name, " is no tree")};
-        node = NodePlace(static_cast<TreeView&>(control), FromScreen(words[2]));
+        node = NodePlace(static_cast<TreeView&>(control), words[2]);
     }
+    if (control.kind == ControlKind::TreeView) control.toolTip.clear();
     Deliver(control, EventKind::Hover, node);
     out_ << Printed(control.toolTip) << '\n';
 }
 
 void ScriptRunner::Popup(const Words& words) {
     Control& control = Usable(words[1]);
-    if (!MoveFocus(control)) return;
     Event event{&control.form, &control, EventKind::Popup};
-    program_.pump.Deliver(event);
+    if (MoveFocus(control)) program_.pump.Deliver(event);
     if (event.menu != nullptr) {
         PrintMenu(out_, *event.menu);
     } else {

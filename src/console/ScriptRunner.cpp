@@ -29,9 +29,10 @@ ScriptRunner::ScriptRunner(Program& program, ConsoleHost& host, std::istream& sc
 int ScriptRunner::Run() {
     try {
         while (!closed_ && RunNextLine()) {
+            if (quitting_) Quit();
         }
-        if (strict_ && !host_.answers.Empty()) throw ScriptEnd{"queued answers are left over"};
         if (!closed_ && !quitCancelled_) Quit();
+        if (strict_ && !host_.answers.Empty()) throw ScriptEnd{"queued answers are left over"};
     } catch (const ScriptEnd& end) {
         host_.Close();
         out_ << std::flush;
@@ -42,28 +43,42 @@ int ScriptRunner::Run() {
     return 0;
 }
 
-// Runs script lines on a modal form. At the end of the script the form is closed as by its close box.
+// Runs script lines on a modal form until it closes. A quit and the end of the script press its close box;
+// where the form refuses, the quit is over, and the end of the script ends it all the same.
 void ScriptRunner::RunUntilClosed(Form& form) {
-    while (!form.closeRequest && !quitting_) {
-        if (!RunNextLine()) quitting_ = true;
+    while (!form.closeRequest) {
+        if (!quitting_ && RunNextLine()) continue;
+        if (PressCloseBox(form) || scriptEnded_) return;
+        quitting_ = false;
+        quitCancelled_ = true;
     }
-    if (form.closeRequest) return;
-    Event event{&form, nullptr, EventKind::Close};
-    program_.pump.Deliver(event);
 }
 
 bool ScriptRunner::RunNextLine() {
     std::string line;
-    if (!std::getline(script_, line)) return false;
+    if (!ReadLine(line)) {
+        scriptEnded_ = true;
+        return false;
+    }
     ++lineNumber_;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
     if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+    const std::size_t first = line.find_first_not_of(" \t");
+    if (first == std::string::npos || line[first] == '#') return true;
     const auto words = SplitScriptLine(line);
     if (!words) throw ScriptEnd{"a quote is not closed"};
-    if (words->empty() || words->front().front() == '#') return true;
     RunCommand(*words);
     if (program_.forms.frmMain.closeRequest) closed_ = true;
     return true;
+}
+
+// Up to a CR LF, LF or CR.
+bool ScriptRunner::ReadLine(std::string& line) {
+    for (int byte = script_.get(); byte != std::istream::traits_type::eof(); byte = script_.get()) {
+        if (byte == '\r' && script_.peek() == '\n') script_.get();
+        if (byte == '\r' || byte == '\n') return true;
+        line.push_back(static_cast<char>(byte));
+    }
+    return !line.empty();
 }
 
 void ScriptRunner::RunCommand(const Words& words) {
@@ -116,7 +131,8 @@ void ScriptRunner::RunCommand(const Words& words) {
         {"echo",
          {0, 1000,
           [&] {
-              for (std::size_t i = 1; i < words.size(); ++i) out_ << (i == 1 ? "" : " ") << words[i];
+              for (std::size_t i = 1; i < words.size(); ++i)
+                  out_ << (i == 1 ? "" : " ") << ToScreen(words[i]);
               out_ << '\n';
           }}},
         {"quit", {0, 0, [&] { Quit(); }}},
@@ -131,19 +147,10 @@ void ScriptRunner::RunCommand(const Words& words) {
 // Closes the main window, after the close box of each form above it. Modal forms unwind from the top: the
 // loops that run them see `quitting_`, close their form and return to the operation that showed it.
 void ScriptRunner::Quit() {
-    if (program_.pump.Windows().TopModal() != nullptr) {
-        quitting_ = true;
-        return;
-    }
-    quitting_ = false;
-    Form& main = program_.forms.frmMain;
-    Event event{&main, nullptr, EventKind::Close};
-    program_.pump.Deliver(event);
-    if (main.closeRequest) {
-        closed_ = true;
-    } else {
-        quitCancelled_ = true;
-    }
+    quitting_ = program_.pump.Windows().TopModal() != nullptr;
+    if (quitting_) return;
+    closed_ = PressCloseBox(program_.forms.frmMain);
+    quitCancelled_ = !closed_;
 }
 
 }  // namespace orlo

@@ -27,6 +27,7 @@ class ScriptRunner {
 
     void RunUntilClosed(Form& form);
     bool RunNextLine();
+    bool ReadLine(std::string& line);
     void RunCommand(const Words& words);
     void Quit();
 
@@ -60,6 +61,8 @@ class ScriptRunner {
     // Moves the focus; false, with a line that says which field was kept, when the field that has it refuses.
     bool MoveFocus(Control& to);
     bool Leave(Control& field);
+    // The close box; false when the form refuses.
+    bool PressCloseBox(Form& form);
     bool Deliver(Control& control, EventKind kind, std::int32_t value = 0);
     void Press(Control& control);
     void WriteText(TextBox& field, const std::string& text);
@@ -71,7 +74,8 @@ class ScriptRunner {
     std::ostream& errors_;
     bool strict_;
     int lineNumber_ = 0;
-    bool quitting_ = false;
+    bool quitting_ = false;  // the forms above the main window close one by one
+    bool scriptEnded_ = false;
     bool quitCancelled_ = false;
     bool closed_ = false;
 };

@@ -1,5 +1,7 @@
 // The console program: makes the services of this system and runs a script on the program.
 
+#include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory_resource>
@@ -7,17 +9,9 @@
 #include "console/ConsoleHost.h"
 #include "console/Options.h"
 #include "console/ScriptRunner.h"
-#include "core/Path.h"
 #include "core/Version.h"
+#include "platform/Platform.h"
 #include "platform/common/SystemRandom.h"
-#include "platform/common/TextSettingsStore.h"
-#include "platform/posix/LargePageMemory.h"
-#include "platform/posix/PosixFileSystem.h"
-#include "platform/posix/PosixMachineSettings.h"
-#include "platform/posix/ProgramFolder.h"
-#include "platform/posix/SystemClock.h"
-#include "platform/posix/Terminal.h"
-#include "platform/posix/UserFolders.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 
@@ -27,34 +21,59 @@ namespace {
 constexpr int kStartUpFailed = 1;
 constexpr int kScriptFailed = 2;
 
-// The rule files stand in the installation, or in the checkout beside the build's folder.
-std::string FindProgramFolder(FileSystem& files) {
-    const std::string executable = ExecutablePath();
-    const std::string installation = ParentFolder(ParentFolder(executable));
-    return FindProgramFolder(files, executable,
-                             {JoinPath(installation, "share/orlo"), JoinPath(installation, "share")});
+// Words of the command line are UTF-8 on Windows, and the system's bytes elsewhere.
+std::filesystem::path ScriptPath(const std::string& word) {
+    return std::u8string(word.begin(), word.end());
 }
 
-int RunConsole(const ConsoleOptions& options, std::istream& script) {
-    std::pmr::set_default_resource(&LargePageMemory());
-    PosixFileSystem files;
-    TextSettingsStore userSettings(files, options.settings ? *options.settings : UserSettingsPath());
-    PosixMachineSettings machineSettings(files, std::string(kMachineSettingsPath), WinePrefixFolder());
-    if (options.simulator) machineSettings.SetSimulator(*options.simulator);
-    SystemRandom random(options.seed);
-    SystemClock clock;
-    ConsoleHost host(files, std::cout, options.strict, options.trace);
-    if (IsTerminal(StandardStream::Error)) host.DrawBarOn(&std::cerr);
-    Services services{files, userSettings, machineSettings, host, host, host, random, clock};
+// Writes nothing before the script has run to its end: one that could not go on leaves no settings.
+class HeldSettings : public SettingsStore {
+  public:
+    explicit HeldSettings(SettingsStore& store) : store_(store) {}
+    std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override {
+        return store_.Get(keyPath, name);
+    }
+    bool Set(std::string_view keyPath, std::string_view name, std::string_view value) override {
+        return store_.Set(keyPath, name, value);
+    }
+    bool Flush() override { return flushed_ = true; }
+    bool WriteHeld() { return !flushed_ || store_.Flush(); }
 
-    const std::string programFolder = options.program ? *options.program : FindProgramFolder(files);
-    Program program(services, programFolder);
+  private:
+    SettingsStore& store_;
+    bool flushed_ = false;
+};
+
+int RunScript(const ConsoleOptions& options, std::istream& script, FileSystem& files) {
+    const auto store = MakeUserSettings(files, options.settings);
+    HeldSettings userSettings(*store);
+    const auto machineSettings = MakeMachineSettings(files, options.simulator.value_or(std::string()));
+    SystemRandom random(options.seed);
+    const auto clock = MakeClock();
+    ConsoleHost host(files, std::cout, options.strict, options.trace);
+    if (ErrorsAreOnTerminal()) host.DrawBarOn(&std::cerr);
+    Services services{files, userSettings, *machineSettings, host, host, host, random, *clock};
+
+    Program program(services, options.program ? *options.program : FindProgramFolder(files));
     ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict);
     if (!StartUp(program.context)) {
         std::cout << std::flush;
         return kStartUpFailed;
     }
-    return runner.Run();
+    const int status = runner.Run();
+    if (status == 0 && !userSettings.WriteHeld())
+        std::cerr << "orlo-console: the settings could not be written\n";
+    return status;
+}
+
+int RunConsole(const ConsoleOptions& options, FileSystem& files) {
+    if (!options.script) return RunScript(options, std::cin, files);
+    std::ifstream script(ScriptPath(*options.script), std::ios::binary);
+    if (!script || !files.FileExists(*options.script)) {
+        std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
+        return kScriptFailed;
+    }
+    return RunScript(options, script, files);
 }
 
 int Main(const std::vector<std::string>& arguments) {
@@ -67,13 +86,14 @@ int Main(const std::vector<std::string>& arguments) {
         std::cout << (options.help ? ConsoleHelp() : std::string("orlo-console ") + kVersionText + '\n');
         return 0;
     }
-    if (!options.script) return RunConsole(options, std::cin);
-    std::ifstream script(*options.script, std::ios::binary);
-    if (!script) {
-        std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
-        return kScriptFailed;
+    std::pmr::set_default_resource(&ListMemory());
+    const auto files = MakeFileSystem();
+    try {
+        return RunConsole(options, *files);
+    } catch (const std::exception& failure) {
+        std::cerr << "orlo-console: " << failure.what() << '\n';
+        return kStartUpFailed;
     }
-    return RunConsole(options, script);
 }
 
 }  // namespace
@@ -81,5 +101,8 @@ int Main(const std::vector<std::string>& arguments) {
 
 int main(int count, char** words) {
     std::ios::sync_with_stdio(false);
-    return orlo::Main(std::vector<std::string>(words + 1, words + count));
+    const auto streams = orlo::UseUtf8Streams();
+    const int status = orlo::Main(orlo::ProgramArguments(count, words));
+    std::cout << std::flush;
+    return status;
 }

@@ -54,8 +54,7 @@ BlockMasks MasksOfWholeBlock(const char* bytes) {
 }  // namespace
 
 void FieldScan::Scan(std::string_view line) {
-    if (commas_.size() < line.size() + kBlock) commas_.resize(line.size() + kBlock);
-    std::uint32_t* next = commas_.data();
+    count_ = 0;
     length_ = line.size();
     std::uint32_t blanks = 0;
     std::uint32_t slashBefore = 0;  // 1 when the byte in front of the block is a slash
@@ -78,11 +77,13 @@ void FieldScan::Scan(std::string_view line) {
             length_ = at + second - 1;  // the cut stands in front of the first slash of the pair
             found &= (std::uint32_t{1} << second) - 1;
         }
+        if (commas_.size() < count_ + kBlock) commas_.resize(2 * count_ + kBlock);
+        std::uint32_t* next = commas_.data() + count_;
+        count_ += static_cast<std::size_t>(std::popcount(found));
         for (; found != 0; found &= found - 1) {
             *next++ = static_cast<std::uint32_t>(at) + static_cast<std::uint32_t>(std::countr_zero(found));
         }
     }
-    count_ = static_cast<std::size_t>(next - commas_.data());
     hasBlanks_ = blanks != 0;
 }
 

@@ -17,6 +17,7 @@ constexpr std::size_t kFewestFields = kFlightFields + 2 * kLegFields;  // two co
 constexpr std::size_t kPercentField = 2;
 constexpr std::size_t kLongestLevel = 3;
 constexpr std::size_t kLongestNumber = 4;
+constexpr std::size_t kLongestLine = 0xFFFFFFFF - 16;  // positions and rows have 32-bit lengths
 constexpr int kLinesBetweenProgress = 201;
 constexpr std::string_view kMostPercent = "99%";
 
@@ -80,6 +81,7 @@ class LinePacker {
 
     bool Append(std::string_view line) {
         if (line.empty() || line.front() == ';' || line.substr(0, 2) == "//") return false;
+        if (line.size() > kLongestLine) return false;
         fields_.Scan(line);
         if (fields_.Count() < kFewestFields) return false;
         const std::size_t legs = (fields_.Count() - kFlightFields) / kLegFields;

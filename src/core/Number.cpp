@@ -104,8 +104,11 @@ std::string FormatDigits(std::int64_t value, int digits) {
 
 std::string FormatFixed(double value, int decimals) {
     char buffer[400];
+    const double scale = std::pow(10.0, decimals);
+    const double rounded = std::round(value * scale) / scale;
     const auto result =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+        std::to_chars(buffer, buffer + sizeof buffer, std::isfinite(rounded) ? rounded : value,
+                      std::chars_format::fixed, decimals);
     return result.ec == std::errc() ? std::string(buffer, result.ptr) : std::string();
 }
 

@@ -21,8 +21,7 @@ std::optional<double> ParseDecimal(std::string_view text);
 // The number filled with zeros on the left to at least `digits` digits; a minus sign stands in front.
 std::string FormatDigits(std::int64_t value, int digits);
 
-// The number with exactly `decimals` digits (up to 80) behind the point, its exact value rounded with halves
-// to even; the point is a "." in every locale.
+// The number with exactly `decimals` digits behind the point; halves are rounded away from zero.
 std::string FormatFixed(double value, int decimals);
 
 }  // namespace orlo

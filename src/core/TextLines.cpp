@@ -8,6 +8,7 @@
 namespace orlo {
 namespace {
 
+constexpr std::uint64_t kLargestWholeFile = std::uint64_t{1} << 30;
 constexpr std::size_t kBufferSize = 1024 * 1024;
 constexpr std::size_t kFirstPiece = 512;  // longer than most lines
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -33,7 +34,8 @@ std::string_view WithoutByteOrderMark(std::string_view text) {
 
 }  // namespace
 
-LineReader::LineReader(InputFile& file) : file_(file), buffer_(kBufferSize) {}
+LineReader::LineReader(InputFile& file)
+    : file_(file), buffer_(static_cast<std::size_t>(std::min<std::uint64_t>(file.Size() + 1, kBufferSize))) {}
 
 // Reads more bytes behind those not yet given out. False at the end of the file.
 bool LineReader::Fill() {
@@ -97,7 +99,7 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
 
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path) {
     const auto file = files.OpenForReading(path);
-    if (!file) return std::nullopt;
+    if (!file || file->Size() > kLargestWholeFile) return std::nullopt;
     std::string bytes;
     bytes.resize(file->Size());
     std::size_t length = 0;

@@ -35,8 +35,8 @@ class LineReader {
 // The lines of a text by the same rule.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
-// A whole file; nothing when it can't be opened. A file that shrinks while it is read gives what could be
-// read.
+// A whole file; nothing when it can't be opened or is larger than any file that is read whole could be (1
+// GiB). A file that shrinks while it is read gives what could be read.
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path);
 
 // What is left of a line of the plan's text files when its comments are cut: the text before the first ";"

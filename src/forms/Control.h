@@ -32,6 +32,16 @@ enum class Colour : std::uint8_t { WindowText, Black, Red, Blue, Gray };
 // "text", "black", "red", "blue" or "gray".
 std::string_view ColourWord(Colour colour);
 
+// A control's place in its container, in the units of its front end, which lays it out.
+struct ControlBox {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    bool operator==(const ControlBox&) const = default;
+};
+
 // What all controls have. A control registers itself with its form when it is built, in the order of
 // declaration, which is also the tab order; so forms and controls are never copied or moved. Captions carry
 // "&" in front of their mnemonic.
@@ -51,6 +61,7 @@ struct Control {
     Colour colour = Colour::WindowText;
     std::string tag;
     std::string toolTip;
+    ControlBox box;
     std::string accessibleName;  // what a reader of the screen says where no caption or label tells enough
 
     // Children of a disabled or hidden container are disabled or hidden with it.

@@ -22,7 +22,9 @@ enum class EventKind {
     Hover,  // the pointer rests on a control, `value` is the tree's node or -1; the procedure sets its tool
             // tip
     Timer,  // `control` is null, `name` tells the timer
-    Close,  // the close box; `control` is null; may be refused
+    SystemMenu,  // the entry "About" of a window's system menu; `control` is null
+    Resize,      // the inner size of the window changed, and the form's box with it; `control` is null
+    Close,       // the close box; `control` is null; may be refused
 };
 
 enum EventKey : std::int32_t { kKeyEnter = 13, kKeyEscape = 27, kKeyInsert = 45, kKeyDelete = 46 };

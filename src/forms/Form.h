@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,6 +22,16 @@ struct WindowBox {
     std::int32_t height = -1;
 };
 
+// The least and the largest size of a window, in pixels.
+struct WindowLimits {
+    std::int32_t minimumWidth = 0;
+    std::int32_t minimumHeight = 0;
+    std::int32_t maximumWidth = 0;
+    std::int32_t maximumHeight = 0;
+
+    bool operator==(const WindowLimits&) const = default;
+};
+
 // A window as data. Writing it by code fires nothing.
 struct Form {
     Form(std::string_view nameOf, std::string_view captionOf);
@@ -37,6 +48,9 @@ struct Form {
     WindowState windowState = WindowState::Normal;
     WindowBox box;
     bool centreRequest = false;  // the front end moves the window to the screen's centre and clears it
+    std::optional<WindowLimits> limits;
+    std::int32_t opacity = 255;    // 0 to 255
+    bool systemMenuAbout = false;  // the window's system menu has an entry "About"
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn

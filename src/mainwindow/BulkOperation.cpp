@@ -3,6 +3,11 @@
 #include "core/Text.h"
 
 namespace orlo {
+namespace {
+
+constexpr std::string_view kNotWritten = "Not written: [";
+
+}  // namespace
 
 BusyMainWindow::BusyMainWindow(Context& context) : form_(context.forms.frmMain) {
     form_.enabled = false;
@@ -36,7 +41,12 @@ void MarkPlanModified(Context& context) {
 }
 
 void ReportNotWritten(Context& context, std::string_view path) {
-    context.forms.frmMain.sbMain.text = Concat("Not written: [", path, "]. The old file stands as it was.");
+    context.forms.frmMain.sbMain.text = Concat(kNotWritten, path, "].");
+}
+
+void ForgetNotWritten(Context& context) {
+    std::string& text = context.forms.frmMain.sbMain.text;
+    if (text.starts_with(kNotWritten)) text.clear();
 }
 
 }  // namespace orlo

@@ -40,5 +40,7 @@ void MarkPlanModified(Context& context);
 
 // Says in the status bar what could not be written; messages stay as they are.
 void ReportNotWritten(Context& context, std::string_view path);
+// Takes such a text away, before the next try.
+void ForgetNotWritten(Context& context);
 
 }  // namespace orlo

@@ -2,10 +2,18 @@
 
 #include "core/Session.h"
 #include "forms/Forms.h"
+#include "mainwindow/Resize.h"
 #include "mainwindow/UndoSnapshot.h"
+#include "mainwindow/WindowLimits.h"
 #include "services/Services.h"
 
 namespace orlo {
+
+// What holds the main window's controls and size.
+struct WindowFrame {
+    cResize layout;
+    WindowLimitTable limits;
+};
 
 // What an event procedure works on. Its owner, the running program, outlives it.
 struct Context {
@@ -13,6 +21,7 @@ struct Context {
     Forms& forms;
     Services& services;
     UndoSnapshot& undo;
+    WindowFrame& frame;
 };
 
 }  // namespace orlo

@@ -65,6 +65,7 @@ void ResetTimetableView(Context& context) {
 
 void ResetMoverView(Context& context) {
     MainForm& form = context.forms.frmMain;
+    form.MovePercent = -1;
     form.cmSource.Clear();
     form.cmDest.Clear();
     for (const PlanAirport& airport : context.session.PlanAirports) {

@@ -12,6 +12,7 @@ namespace orlo {
 void SaveFlightplan(Context& context) {
     Session& session = context.session;
     FileSystem& files = context.services.files;
+    ForgetNotWritten(context);
     const PlanWriteResult plan =
         WriteFlightplan(files, session.FlightplanPath, session.Flights, session.BackupPlan);
     const bool aircraftWritten = WritePlanAircraft(session, files);
@@ -41,8 +42,8 @@ void SaveFlightplanAs(Context& context) {
     dialog.overwritePrompt = true;
     const std::string path = context.services.windows.ShowSaveDialog(dialog);
     if (path.empty()) return;
-    context.session.FlightplanPath = path;
-    AddRecentFlightplan(context, path);
+    context.session.FlightplanPath = context.services.files.FullPath(path);
+    AddRecentFlightplan(context, context.session.FlightplanPath);
     SaveFlightplanCommand(context);
 }
 

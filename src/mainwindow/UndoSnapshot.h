@@ -19,7 +19,13 @@ struct UndoSnapshot {
 // Copies flights and aircraft and enables mnuToolsUndo; nothing while the switch Undo is off.
 void TakeUndoSnapshot(Context& context);
 
+// The same unless a snapshot is held already: a run of single edits is undone as one step.
+void TakeFirstUndoSnapshot(Context& context);
+
 // Empties the snapshot and disables mnuToolsUndo.
 void DiscardUndoSnapshot(Context& context);
+
+// Puts the snapshot back, discards it, rebuilds trees and views, and says so. PlanModified stays as it is.
+void RestoreUndoSnapshot(Context& context);
 
 }  // namespace orlo

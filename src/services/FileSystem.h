@@ -54,6 +54,9 @@ class FileSystem {
     // The path with each existing component spelled as the disk spells it; components that don't exist stay.
     virtual std::string Resolve(const std::string& path) = 0;
 
+    // The path from the root: a relative one stands in the working folder.
+    virtual std::string FullPath(const std::string& path) = 0;
+
     virtual bool FileExists(const std::string& path) = 0;  // a file that isn't a folder
     virtual bool FolderExists(const std::string& path) = 0;
     virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder

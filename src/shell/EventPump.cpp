@@ -39,7 +39,7 @@ bool EventPump::TakesInput(const Form& form) const {
 }
 
 bool EventPump::Accepts(const Event& event) const {
-    if (event.kind == EventKind::Timer) return true;
+    if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
     if (event.form == nullptr) return false;
     if (event.kind == EventKind::Close && running_ == 0) {
         // Also of a disabled form, so that one that was left disabled can be closed.
@@ -108,6 +108,9 @@ void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
         form->pointer = PointerShape::Normal;
         form->frozen = 0;
     }
+    main.HandlingNodeCheck = false;
+    main.tvShuffleAircraft.visible = context_.session.PlanLoaded;
+    main.tvMoveAircrafts.visible = context_.session.PlanLoaded;
     main.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 

@@ -43,7 +43,7 @@ class EventPump {
 
     // Queues the event; one that isn't accepted is dropped.
     void Post(const Event& event);
-    // Runs what is queued until nothing is left.
+    // Runs what is queued, or drops it.
     void RunQueued();
     // Runs one event at once. False when it was dropped or its procedure refused it.
     bool Deliver(Event& event);

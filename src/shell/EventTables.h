@@ -6,6 +6,8 @@
 namespace orlo {
 
 EventTable MainEvents();
+EventTable SplashEvents();
+EventTable AboutEvents();
 
 // The table of a form; empty for a form without events.
 EventTable EventsOf(const Forms& forms, const Form& form);
@@ -14,5 +16,8 @@ EventTable EventsOf(const Forms& forms, const Form& form);
 // table.
 const EventEntry* FindEvent(EventTable table, const Event& event);
 const EventEntry* FindEvent(const Context& context, const Event& event);
+
+// Runs what a click on the button runs, where the button is enabled: keys that stand for buttons.
+void RunButton(Context& context, Button& button);
 
 }  // namespace orlo

@@ -1,7 +1,9 @@
 #include <array>
 
 #include "mainwindow/SavePlan.h"
+#include "operations/AirlineSkeleton.h"
 #include "shell/EventTables.h"
+#include "shell/HelpMenu.h"
 #include "shell/MenuSwitches.h"
 #include "shell/OpenPlan.h"
 #include "shell/ShuffleTab.h"
@@ -37,6 +39,24 @@ void CloseMainWindow(Context& context, Event& event) {
     }
 }
 
+// Delete and Insert on a list stand for its buttons.
+void OnExportKey(Context& context, Event& event) {
+    MainForm& form = context.forms.frmMain;
+    if (event.value == kKeyDelete) RunButton(context, form.cmdDeleteFlight);
+    if (event.value == kKeyInsert) RunButton(context, form.cmdAddFlight);
+}
+
+void OnProjectKey(Context& context, Event& event) {
+    MainForm& form = context.forms.frmMain;
+    if (event.value == kKeyDelete) RunButton(context, form.cmdProjectDelete);
+    if (event.value == kKeyInsert) RunButton(context, form.cmdProjectAdd);
+}
+
+void LayOutControls(Context& context, Event&) {
+    const MainForm& form = context.forms.frmMain;
+    context.frame.layout.Resize(form.box.height, form.box.width);
+}
+
 void SortByColumn(Context&, Event& event) {
     auto& list = static_cast<ListView&>(*event.control);
     list.ascending = list.sorted && list.sortColumn == event.value ? !list.ascending : true;
@@ -49,6 +69,8 @@ using enum EventKind;
 
 constexpr std::array kMainEvents = {
     EventEntry{"", Close, CloseMainWindow},
+    EventEntry{"", Resize, LayOutControls},
+    EventEntry{"", SystemMenu, Run<ShowAbout>},
     EventEntry{kSplashTimer, Timer, Run<CloseSplash>},
     EventEntry{"tabMain", SelectTab, Run<ActivateTab>},
 
@@ -85,6 +107,7 @@ constexpr std::array kMainEvents = {
     EventEntry{"cmdAddFlight", Click},
     EventEntry{"cmdDeleteFlight", Click},
     EventEntry{"lvExPreview", ClickColumn, SortByColumn},
+    EventEntry{"lvExPreview", KeyUp, OnExportKey},
 
     EventEntry{"cmTTZone", Change},
     EventEntry{"cmdTTShow", Click},
@@ -100,6 +123,7 @@ constexpr std::array kMainEvents = {
     EventEntry{"cmdProjectFile", Click},
     EventEntry{"cmdProjectAC", Click},
     EventEntry{"lvProject", ClickColumn, SortByColumn},
+    EventEntry{"lvProject", KeyUp, OnProjectKey},
 
     EventEntry{"mnuFileLoad", Click, OpenPlan},
     EventEntry{"mnuFileSave", Click, Run<SaveFlightplanCommand>},
@@ -120,7 +144,7 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuRecentProjects5", Click},
     EventEntry{"mnuFileExit", Click, CloseMainWindow},
 
-    EventEntry{"mnuToolsUndo", Click},
+    EventEntry{"mnuToolsUndo", Click, Run<RestoreUndoSnapshot>},
     EventEntry{"mnuToolsShuffle", Click, NoAction},
     EventEntry{"mnuToolsMove", Click, NoAction},
     EventEntry{"mnuToolsCompileCurrent", Click},
@@ -142,7 +166,7 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuToolsRandPlan", Click},
     EventEntry{"mnuToolsRandPerc", Click},
     EventEntry{"mnuToolsRandFlightNumbers", Click},
-    EventEntry{"mnuToolsAirlinesCFG", Click},
+    EventEntry{"mnuToolsAirlinesCFG", Click, Run<GenerateAirlineConfig>},
     EventEntry{"mnuToolsAirportsTXT", Click},
     EventEntry{"mnuToolsFPAirportsTXT", Click},
     EventEntry{"mnuToolsDeleteCache", Click, Run<DeleteSceneryCache>},
@@ -172,9 +196,9 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuViewStatusBar", Click, NoAction},
     EventEntry{"mnuViewRefresh", Click, NoAction},
     EventEntry{"mnuViewOptions", Click, NoAction},
-    EventEntry{"mnuHelpContents", Click},
+    EventEntry{"mnuHelpContents", Click, Run<ShowHelp>},
     EventEntry{"mnuHelpSearchForHelpOn", Click, NoAction},
-    EventEntry{"mnuHelpAbout", Click},
+    EventEntry{"mnuHelpAbout", Click, Run<ShowAbout>},
 };
 
 }  // namespace

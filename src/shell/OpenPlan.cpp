@@ -48,6 +48,10 @@ void EraseOldPlan(Context& context) {
     session.PlanAirports.clear();
     session.PlanAirportIndex.Clear();
     session.FSAircrafts.clear();
+    session.SearchResults.Clear();
+    session.SearchResultIndex.clear();
+    session.SearchResultText.clear();
+    form.lvExPreview.Clear();
 
     const FrozenForm frozen(form);
     form.tvShuffleAircraft.visible = false;
@@ -125,7 +129,7 @@ void OpenFlightplan(Context& context, std::string path) {
     path = ChoosePlan(context, std::move(path));
     if (path.empty()) return;
 
-    session.FlightplanPath = path;
+    session.FlightplanPath = context.services.files.FullPath(path);
     session.PlanLoaded = false;
     session.PlanModified = false;
     DisablePlanCommands(context);

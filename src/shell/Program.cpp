@@ -3,7 +3,7 @@
 namespace orlo {
 
 Program::Program(Services& services, std::string programFolder)
-    : context{session, forms, services, undo}, pump(context) {
+    : context{session, forms, services, undo, frame}, pump(context) {
     session.ProgramFolder = std::move(programFolder);
 }
 

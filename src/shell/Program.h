@@ -20,6 +20,7 @@ struct Program {
     Session session;
     Forms forms;
     UndoSnapshot undo;
+    WindowFrame frame;
     Context context;
     EventPump pump;
 };

@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "core/Number.h"
 #include "core/Settings.h"
 #include "mainwindow/RecentLists.h"
 
@@ -94,8 +95,9 @@ void ReadSwitches(Context& context) {
     form.ckCheckFL.checked = settings.Boolean("CheckFL", true);
     form.ckIFRVFR.checked = settings.Boolean("ChangeIFRVFR", true);
     form.ckCheckVisitedAirports.checked = settings.Boolean("CheckVisitedAirports", true);
-    SetTATime(context, settings.Number("TATime", 30));
-    SetMaxTATime(context, settings.Number("MaxTATime", 24));
+    // A value that doesn't read is one of those that mean off.
+    SetTATime(context, ParseWholeNumber(settings.Text("TATime", "30")).value_or(kNoTurnAroundLimit));
+    SetMaxTATime(context, ParseWholeNumber(settings.Text("MaxTATime", "24")).value_or(kNoTurnAroundLimit));
 
     const OwnSettings editor(context.services.userSettings, kEditorSettings);
     session.CheckAircraftRange = editor.Boolean("CheckAircraftRange", true);

@@ -16,14 +16,15 @@ MessageAnswer AskToSave(Context& context, std::string_view question) {
                        &context.forms.frmMain);
 }
 
+// In this order: what was derived goes before what it was derived from.
 void EraseMemory(Context& context) {
     Session& session = context.session;
     DiscardUndoSnapshot(context);
     session.Airports = {};
     session.Airlines = {};
     session.RunAirlines = {};
-    session.SearchResults.Clear();
     session.Flights.Clear();
+    session.SearchResults.Clear();
     session.PlanAircrafts = {};
     session.PlanAirports = {};
     session.PlanAirportIndex.Clear();
@@ -50,6 +51,8 @@ bool Shutdown(Context& context) {
     OpenProgress(context, "Cleaning Memory...", kCleaningStages, 1);
     EraseMemory(context);
     context.services.progress.Close();
+    context.forms.frmMain.systemMenuAbout = false;
+    context.frame.limits.RemoveWindowLimits(context.forms.frmMain);
     return true;
 }
 

@@ -12,6 +12,7 @@ namespace orlo {
 namespace {
 
 constexpr int kSplashMilliseconds = 1000;
+constexpr std::int32_t kSplashOpacity = 192;
 constexpr std::int32_t kFirstMoveView = 1;
 constexpr std::int32_t kFirstShufflerView = 2;
 
@@ -38,6 +39,7 @@ void ShowWindows(Context& context) {
     windows.ShowForm(forms.frmMain);
     windows.ProcessEvents();
     forms.frmSplash.owner = &forms.frmMain;
+    forms.frmSplash.opacity = kSplashOpacity;
     windows.ShowForm(forms.frmSplash);
     windows.ProcessEvents();
 }
@@ -62,10 +64,13 @@ bool StartUp(Context& context) {
         windows.StopTimer(kSplashTimer);
         return false;
     }
+    RegisterMainLayout(context.frame.layout, form, form.box.height, form.box.width);
     ReadZones(context);
     ReadWindowPlace(context);
     ActivateTab(context);
     ShowWindows(context);
+    context.frame.limits.AddWindowLimits(form, kMainWindowLimits);
+    form.systemMenuAbout = true;
     return true;
 }
 

@@ -16,9 +16,10 @@ constexpr std::string_view kRule =
 constexpr std::string_view kTitle =
     ";------------------------------- O R L O  L O G ----------------------------------";
 
-constexpr std::array<std::string_view, 12> kHead = {
+constexpr std::array<std::string_view, 13> kHead = {
     kRule,
     kTitle,
+    kRule,
     ";Format:",
     ";  Airline / Aircraft Title / Aircraft Class / UI Manufacture / UI Type",
     ";  Runway: Min. Runway Length / Min. Parking Radius / Min. Runway Surface",

@@ -96,8 +96,8 @@ TEST(Number, NumbersAreWrittenTheSameInEveryLocale) {
     for (const char* locale : {"de_DE.UTF-8", "fr_FR.UTF-8"}) std::setlocale(LC_ALL, locale);
     EXPECT_EQ(FormatFixed(118.3, 3), "118.300");
     std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(FormatFixed(0.125, 2), "0.12");
-    EXPECT_EQ(FormatFixed(-2.5, 0), "-2");
+    EXPECT_EQ(FormatFixed(0.125, 2), "0.13");
+    EXPECT_EQ(FormatFixed(-2.5, 0), "-3");
     EXPECT_EQ(FormatFixed(std::numeric_limits<double>::max(), 2).size(), 312u);
     EXPECT_EQ(FormatDigits(5, 3), "005");
     EXPECT_EQ(FormatDigits(-5, 3), "-005");

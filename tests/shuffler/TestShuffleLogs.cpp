@@ -49,6 +49,7 @@ TEST(ShuffleLogs, EachFlightIsExplained) {
     EXPECT_EQ(Lines(made.world.files.files["/plan/Shuffle.log"]),
               R"(;---------------------------------------------------------------------------------
 ;------------------------------- O R L O  L O G ----------------------------------
+;---------------------------------------------------------------------------------
 ;Format:
 ;  Airline / Aircraft Title / Aircraft Class / UI Manufacture / UI Type
 ;  Runway: Min. Runway Length / Min. Parking Radius / Min. Runway Surface

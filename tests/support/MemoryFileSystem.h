@@ -28,6 +28,7 @@ class MemoryFileSystem : public FileSystem {
         }
         return path;
     }
+    std::string FullPath(const std::string& path) override { return path; }
     bool FileExists(const std::string& path) override { return files.contains(Resolve(path)); }
     bool FolderExists(const std::string& path) override {
         const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");

@@ -4,9 +4,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
+#include <array>
+#include <climits>
 
 #include "core/Path.h"
+#include "platform/common/OutputFiles.h"
 #include "platform/posix/PosixHandle.h"
 #include "platform/posix/PosixNames.h"
 #include "platform/posix/PosixOutput.h"
@@ -16,7 +18,6 @@ namespace {
 
 constexpr mode_t kNewFile = 0666;
 constexpr mode_t kNewFolder = 0777;
-constexpr std::size_t kCopyPiece = 256 * 1024;
 
 class PosixInput : public InputFile {
   public:
@@ -44,20 +45,17 @@ mode_t CopyMode(const struct stat& source) {
     return (source.st_mode & 0777) | S_IWUSR;
 }
 
-bool CopyBytes(const PosixHandle& from, OutputFile& to) {
-    std::vector<char> buffer(kCopyPiece);
-    for (;;) {
-        const ssize_t count = ReadSome(from, buffer);
-        if (count < 0) return false;
-        if (count == 0) return true;
-        if (!to.Write({buffer.data(), static_cast<std::size_t>(count)})) return false;
-    }
-}
-
 }  // namespace
 
 std::string PosixFileSystem::Resolve(const std::string& path) {
     return ResolveNames(path);
+}
+
+std::string PosixFileSystem::FullPath(const std::string& path) {
+    if (!path.empty() && path.front() == '/') return path;
+    std::array<char, PATH_MAX> folder{};
+    if (getcwd(folder.data(), folder.size()) == nullptr) return path;
+    return JoinPath(folder.data(), path);
 }
 
 bool PosixFileSystem::FileExists(const std::string& path) {
@@ -108,22 +106,10 @@ bool PosixFileSystem::DeleteFile(const std::string& path) {
 
 bool PosixFileSystem::CreateFolders(const std::string& path) {
     if (!IsUsablePath(path)) return false;
-    std::vector<std::string> made;
-    std::vector<std::string> missing;
-    std::string folder(WithoutTrailingSeparator(ResolveNames(path)));
-    while (!folder.empty() && !FolderExists(folder)) {
-        missing.push_back(folder);
-        folder = WithoutTrailingSeparator(ParentFolder(folder));
-    }
-    for (auto next = missing.rbegin(); next != missing.rend(); ++next) {
-        if (mkdir(next->c_str(), kNewFolder) == 0) {
-            made.push_back(*next);
-        } else if (!FolderExists(*next)) {
-            for (auto last = made.rbegin(); last != made.rend(); ++last) rmdir(last->c_str());
-            return false;
-        }
-    }
-    return true;
+    return MakeFolders(
+        *this, ResolveNames(path),
+        [](const std::string& each) { return mkdir(each.c_str(), kNewFolder) == 0; },
+        [](const std::string& each) { rmdir(each.c_str()); });
 }
 
 std::vector<FolderEntry> PosixFileSystem::ListFolder(const std::string& path) {

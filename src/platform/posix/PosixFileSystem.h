@@ -9,6 +9,7 @@ namespace orlo {
 class PosixFileSystem : public FileSystem {
   public:
     std::string Resolve(const std::string& path) override;
+    std::string FullPath(const std::string& path) override;
     bool FileExists(const std::string& path) override;
     bool FolderExists(const std::string& path) override;
     std::optional<std::uint64_t> FileSize(const std::string& path) override;

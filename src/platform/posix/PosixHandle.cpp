@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <utility>
 
 namespace orlo {
@@ -31,6 +32,14 @@ bool PosixHandle::Close() {
 
 int PosixHandle::Release() {
     return std::exchange(descriptor_, -1);
+}
+
+bool PosixHandle::Rename(const std::string& from, const std::string& to) {
+    return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+void PosixHandle::Remove(const std::string& path) {
+    unlink(path.c_str());
 }
 
 PosixHandle OpenRegular(const std::string& path, int flags, mode_t mode) {
@@ -65,6 +74,23 @@ ssize_t ReadSome(const PosixHandle& file, std::span<char> buffer) {
         count = read(file.Descriptor(), buffer.data(), std::min(buffer.size(), kLargestTransfer));
     } while (count < 0 && errno == EINTR);
     return count;
+}
+
+std::optional<std::uint64_t> SizeOf(const PosixHandle& file) {
+    struct stat facts {};
+    if (fstat(file.Descriptor(), &facts) != 0) return std::nullopt;
+    return static_cast<std::uint64_t>(facts.st_size);
+}
+
+bool SetSize(const PosixHandle& file, std::uint64_t size) {
+    return ftruncate(file.Descriptor(), static_cast<off_t>(size)) == 0;
+}
+
+// Not every disk can set room aside; it then shows at the write that it is full.
+bool TakeRoom(const PosixHandle& file, std::uint64_t from, std::uint64_t to) {
+    const int fault =
+        posix_fallocate(file.Descriptor(), static_cast<off_t>(from), static_cast<off_t>(to - from));
+    return fault == 0 || fault == EOPNOTSUPP || fault == EINVAL;
 }
 
 }  // namespace orlo

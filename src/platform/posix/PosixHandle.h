@@ -3,6 +3,8 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,6 +28,9 @@ class PosixHandle {
     // False when the system reports that earlier writes were lost; the handle is closed either way.
     bool Close();
 
+    static bool Rename(const std::string& from, const std::string& to);
+    static void Remove(const std::string& path);
+
   private:
     int Release();
 
@@ -41,5 +46,10 @@ bool WriteAll(const PosixHandle& file, std::string_view bytes);
 
 // Bytes read into the front of `buffer`; 0 at the end; negative after a failure.
 ssize_t ReadSome(const PosixHandle& file, std::span<char> buffer);
+
+// See common/OutputFiles.h.
+std::optional<std::uint64_t> SizeOf(const PosixHandle& file);
+bool SetSize(const PosixHandle& file, std::uint64_t size);
+bool TakeRoom(const PosixHandle& file, std::uint64_t from, std::uint64_t to);
 
 }  // namespace orlo

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <tuple>
 
 #include "core/Path.h"
 #include "core/Text.h"
@@ -41,10 +40,6 @@ bool Exists(const std::string& path) {
     return lstat(path.c_str(), &facts) == 0;
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 // The name in the folder that equals `name` but for case; empty when there is none.
 std::string FindName(const std::string& folder, std::string_view name) {
     const FolderHandle handle = OpenFolder(folder);
@@ -67,18 +62,6 @@ bool IsFolder(DIR* folder, const dirent& entry) {
 }
 
 }  // namespace
-
-std::string FoldedFileName(std::string_view name) {
-    if (IsAscii(name)) return UpperText(name);
-    std::string single = FromScreen(name);
-    const bool isUtf8 = ToScreen(name) == name;
-    if (!isUtf8 || single != name) return UpperText(single);
-    // Bytes inside a longer character are no letters.
-    for (char& character : single) {
-        if (static_cast<unsigned char>(character) < 0x80) character = UpperChar(character);
-    }
-    return single;
-}
 
 bool IsUsablePath(std::string_view path) {
     return !path.empty() && path.find('\0') == std::string_view::npos;
@@ -122,20 +105,11 @@ std::string FollowLinks(std::string path) {
 std::vector<FolderEntry> ListNames(const std::string& folder) {
     const FolderHandle handle = OpenFolder(folder);
     if (!handle) return {};
-    struct Keyed {
-        std::string key;
-        FolderEntry entry;
-    };
-    std::vector<Keyed> found;
-    WalkFolder(handle.get(), [&](const dirent& entry, std::string_view name) {
-        found.push_back({FoldedFileName(name), {std::string(name), IsFolder(handle.get(), entry)}});
-    });
-    std::sort(found.begin(), found.end(), [](const Keyed& a, const Keyed& b) {
-        return std::tie(a.key, a.entry.name) < std::tie(b.key, b.entry.name);
-    });
     std::vector<FolderEntry> entries;
-    entries.reserve(found.size());
-    for (Keyed& keyed : found) entries.push_back(std::move(keyed.entry));
+    WalkFolder(handle.get(), [&](const dirent& entry, std::string_view name) {
+        entries.push_back({std::string(name), IsFolder(handle.get(), entry)});
+    });
+    SortByName(entries);
     return entries;
 }
 

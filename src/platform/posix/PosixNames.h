@@ -4,14 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/common/FileNames.h"
 #include "services/FileSystem.h"
 
 namespace orlo {
-
-// A file name in the form in which names are compared and sorted. A UTF-8 name counts as the code page 1252
-// text that it shows, so that a name from a file of the simulator finds its file on a UTF-8 disk; a name with
-// other characters is folded in its ASCII letters only.
-std::string FoldedFileName(std::string_view name);
 
 // Whether the system can be asked for the path at all: it isn't empty and holds no zero byte, at which the
 // system would cut it.

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "services/Clock.h"
+
+namespace orlo {
+
+class SystemClock : public Clock {
+  public:
+    std::int64_t Now() const override;
+};
+
+}  // namespace orlo

@@ -1,0 +1,127 @@
+#include "platform/windows/WindowsFileSystem.h"
+
+#include "platform/common/FileNames.h"
+#include "platform/common/OutputFiles.h"
+#include "platform/windows/SystemHeader.h"
+#include "platform/windows/WideText.h"
+#include "platform/windows/WindowsHandle.h"
+#include "platform/windows/WindowsNames.h"
+#include "platform/windows/WindowsOutput.h"
+
+namespace orlo {
+namespace {
+
+class WindowsInput : public InputFile {
+  public:
+    WindowsInput(WindowsHandle file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
+
+    std::size_t Read(std::span<char> buffer) override {
+        const std::ptrdiff_t count = ReadSome(file_, buffer);
+        return count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    std::uint64_t Size() const override { return size_; }
+
+  private:
+    WindowsHandle file_;
+    std::uint64_t size_;
+};
+
+struct Facts {
+    bool isFolder = false;
+    std::uint64_t size = 0;
+};
+
+template <typename Data>
+Facts FactsIn(const Data& data) {
+    return {(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+            (std::uint64_t{data.nFileSizeHigh} << 32) + data.nFileSizeLow};
+}
+
+// Of what a link leads to.
+std::optional<Facts> FactsBehindLink(const std::wstring& systemPath) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE opened = CreateFileW(systemPath.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return std::nullopt;
+    const WindowsHandle file(opened);
+    BY_HANDLE_FILE_INFORMATION data{};
+    if (GetFileInformationByHandle(opened, &data) == 0) return std::nullopt;
+    return FactsIn(data);
+}
+
+std::optional<Facts> FactsOf(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (systemPath.empty() || GetFileAttributesExW(systemPath.c_str(), GetFileExInfoStandard, &data) == 0)
+        return std::nullopt;
+    if ((data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return FactsBehindLink(systemPath);
+    return FactsIn(data);
+}
+
+}  // namespace
+
+std::string WindowsFileSystem::Resolve(const std::string& path) {
+    return ResolveNames(path);
+}
+
+std::string WindowsFileSystem::FullPath(const std::string& path) {
+    std::string full = orlo::FullPath(path);
+    return full.empty() ? path : full;
+}
+
+bool WindowsFileSystem::FileExists(const std::string& path) {
+    const auto facts = FactsOf(path);
+    return facts && !facts->isFolder;
+}
+
+bool WindowsFileSystem::FolderExists(const std::string& path) {
+    const auto facts = FactsOf(path);
+    return facts && facts->isFolder;
+}
+
+std::optional<std::uint64_t> WindowsFileSystem::FileSize(const std::string& path) {
+    const auto facts = FactsOf(path);
+    if (!facts || facts->isFolder) return std::nullopt;
+    return facts->size;
+}
+
+std::unique_ptr<InputFile> WindowsFileSystem::OpenForReading(const std::string& path) {
+    WindowsHandle file = OpenOnDisk(path, OpenFor::Reading);
+    const auto size = file.IsOpen() ? SizeOf(file) : std::nullopt;
+    if (!size) return nullptr;
+    return std::make_unique<WindowsInput>(std::move(file), *size);
+}
+
+std::unique_ptr<OutputFile> WindowsFileSystem::CreateReplacing(const std::string& path) {
+    return OpenReplacing(ResolveNames(path));
+}
+
+std::unique_ptr<OutputFile> WindowsFileSystem::CreateInPlace(const std::string& path) {
+    return OpenInPlace(path);
+}
+
+bool WindowsFileSystem::CopyFile(const std::string& from, const std::string& to) {
+    const WindowsHandle source = OpenOnDisk(from, OpenFor::Reading);
+    if (!source.IsOpen()) return false;
+    const auto target = OpenReplacing(ResolveNames(to));
+    return target && CopyBytes(source, *target) && target->Commit();
+}
+
+bool WindowsFileSystem::DeleteFile(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    return !systemPath.empty() && DeleteFileW(systemPath.c_str()) != 0;
+}
+
+bool WindowsFileSystem::CreateFolders(const std::string& path) {
+    if (SystemPath(path).empty()) return false;
+    return MakeFolders(
+        *this, path,
+        [](const std::string& each) { return CreateDirectoryW(SystemPath(each).c_str(), nullptr) != 0; },
+        [](const std::string& each) { RemoveDirectoryW(SystemPath(each).c_str()); });
+}
+
+std::vector<FolderEntry> WindowsFileSystem::ListFolder(const std::string& path) {
+    return ListNames(path);
+}
+
+}  // namespace orlo

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "services/FileSystem.h"
+
+namespace orlo {
+
+// See FileSystem::CreateReplacing. `path` is resolved, so that the file keeps its spelling. A link that leads
+// nowhere is refused.
+std::unique_ptr<OutputFile> OpenReplacing(const std::string& path);
+
+// See FileSystem::CreateInPlace. Destroyed without a Commit, it still writes what it was given.
+std::unique_ptr<OutputFile> OpenInPlace(const std::string& path);
+
+}  // namespace orlo

@@ -1,0 +1,70 @@
+#include "shell/HelpMenu.h"
+
+#include <array>
+
+#include "core/Application.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "shell/EventTables.h"
+#include "shell/StartUp.h"
+
+namespace orlo {
+namespace {
+
+// Where the system tells its information program: the program itself, or the folder that holds it.
+std::string SystemInformationProgram(Context& context) {
+    SettingsStore& machine = context.services.machineSettings;
+    const auto program = machine.Get("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH");
+    if (program && !program->empty()) return *program;
+    const auto folder = machine.Get("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO");
+    return folder && !folder->empty() ? JoinPath(*folder, "MSINFO32.EXE") : std::string();
+}
+
+void OnSystemInformation(Context& context, Event&) {
+    const std::string program = SystemInformationProgram(context);
+    if (!program.empty() && context.services.files.FileExists(program) &&
+        context.services.windows.OpenDocument(program, ParentFolder(program))) {
+        return;
+    }
+    ShowMessage(context.services.messages, "System Information Is Unavailable At This Time", kMarkExclamation,
+                &context.forms.frmAbout);
+}
+
+void OnAboutOk(Context& context, Event&) {
+    context.forms.frmAbout.closeRequest = true;
+}
+
+void OnSplash(Context& context, Event&) {
+    CloseSplash(context);
+}
+
+constexpr std::array kAboutEvents = {
+    EventEntry{"cmdOK", EventKind::Click, OnAboutOk},
+    EventEntry{"cmdSysInfo", EventKind::Click, OnSystemInformation},
+};
+
+constexpr std::array kSplashEvents = {
+    EventEntry{"picSplash", EventKind::Click, OnSplash},
+    EventEntry{"picSplash", EventKind::KeyUp, OnSplash},
+    EventEntry{"", EventKind::KeyUp, OnSplash},
+};
+
+}  // namespace
+
+EventTable AboutEvents() {
+    return kAboutEvents;
+}
+EventTable SplashEvents() {
+    return kSplashEvents;
+}
+
+void ShowHelp(Context& context) {
+    const std::string folder = JoinPath(context.session.ProgramFolder, "Help");
+    context.services.windows.OpenDocument(JoinPath(folder, "index.html"), folder);
+}
+
+void ShowAbout(Context& context) {
+    context.services.windows.ShowModal(context.forms.frmAbout, &context.forms.frmMain);
+}
+
+}  // namespace orlo

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "mainwindow/UndoSnapshot.h"
+#include "support/FakeProgram.h"
+
+namespace orlo {
+namespace {
+
+Flight MakeFlight(std::string tail) {
+    Flight flight;
+    flight.ACNumber = "AC#1";
+    flight.TailNumber = std::move(tail);
+    flight.Legs = {{"10:00:00", "11:00:00", false, "350", "F", "1", "EDDF"},
+                   {"12:00:00", "13:00:00", false, "350", "F", "2", "EDDM"}};
+    return flight;
+}
+
+struct UndoWorld : test::FakeProgram {
+    UndoWorld() {
+        session.Flights.Append(MakeFlight("N1"));
+        session.PlanAircrafts.push_back({"AC#1", "Jet One", "450", 0});
+        FSAircraft aircraft;
+        aircraft.Title = "Jet One";
+        session.FSAircrafts.push_back(aircraft);
+        session.PlanLoaded = true;
+    }
+    void Change(std::string tail) {
+        session.Flights.Replace(0, MakeFlight(std::move(tail)));
+        session.PlanAircrafts.clear();
+    }
+    std::string Tail() const { return std::string(session.Flights.At(0).TailNumber); }
+};
+
+TEST(Undo, BringsFlightsAndAircraftBackOnce) {
+    UndoWorld world;
+    TakeUndoSnapshot(world.context);
+    world.session.PlanModified = true;
+    world.Change("N2");
+    ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
+    EXPECT_EQ(world.Tail(), "N1");
+    EXPECT_EQ(world.session.PlanAircraftCount(), 1);
+    EXPECT_TRUE(world.session.PlanModified) << "the mark stays as it stood";
+    EXPECT_FALSE(world.form.mnuToolsUndo.enabled);
+    EXPECT_TRUE(world.form.tvShuffleAircraft
+                    .nodes[static_cast<std::size_t>(world.form.tvShuffleAircraft.Find("JET ONE##"))]
+                    .checked);
+    EXPECT_EQ(world.form.cmExportAircraft.entries.size(), 2u);
+    const std::vector<std::string> progress = {"text Undo...",       "max 3",   "value 1", "show",
+                                               "text Refreshing...", "value 2", "close"};
+    EXPECT_EQ(world.world.progress.lines, progress);
+    EXPECT_EQ(world.world.messages.shown.back(),
+              (std::pair<int, std::string>(64, "Successfully completed undo.")));
+    EXPECT_FALSE(world.Press(world.form.mnuToolsUndo)) << "there is nothing left to undo";
+}
+
+TEST(Undo, SingleEditsAreOneStepAndABulkOperationStartsANewOne) {
+    UndoWorld world;
+    TakeFirstUndoSnapshot(world.context);
+    world.Change("N2");
+    TakeFirstUndoSnapshot(world.context);
+    world.Change("N3");
+    world.Press(world.form.mnuToolsUndo);
+    EXPECT_EQ(world.Tail(), "N1");
+
+    TakeFirstUndoSnapshot(world.context);
+    world.Change("N4");
+    TakeUndoSnapshot(world.context);
+    world.Change("N5");
+    world.Press(world.form.mnuToolsUndo);
+    EXPECT_EQ(world.Tail(), "N4");
+}
+
+TEST(Undo, TheSwitchTakesTheSnapshotAwayForGood) {
+    UndoWorld world;
+    world.form.mnuToolsUndoOn.checked = true;
+    TakeUndoSnapshot(world.context);
+    world.Press(world.form.mnuToolsUndoOn);
+    EXPECT_FALSE(world.form.mnuToolsUndo.enabled);
+    TakeUndoSnapshot(world.context);
+    EXPECT_FALSE(world.form.mnuToolsUndo.enabled);
+    world.Press(world.form.mnuToolsUndoOn);
+    EXPECT_FALSE(world.form.mnuToolsUndo.enabled);
+    EXPECT_TRUE(world.context.undo.Flights.Empty());
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,100 @@
+// Every writer on a disk that fails: the old file stays whole, and the program goes on.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "config/AircraftClasses.h"
+#include "platform/common/TextSettingsStore.h"
+#include "support/FakeProgram.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::string_view kOld = "the old file, which is longer than what a full disk takes\r\n";
+
+struct Writer {
+    const char* name;
+    const char* path;
+    bool saysSo;  // the status bar names the file
+    std::function<void(test::FakeProgram&)> write;
+};
+
+void AddPlan(test::FakeProgram& fake) {
+    fake.session.FlightplanPath = "/plan/FlightPlans.txt";
+    fake.session.BackupPlan = false;
+    fake.session.PlanAircrafts = {{"AC#1", "Jet One", "450", 0}};
+    Flight flight;
+    flight.ACNumber = "AC#1";
+    flight.Legs.resize(2);
+    fake.session.Flights.Append(flight);
+    fake.form.mnuFileSave.enabled = true;
+}
+
+const std::vector<Writer> kWriters = {
+    {"the plan", "/plan/FlightPlans.txt", true,
+     [](test::FakeProgram& fake) { fake.Press(fake.form.mnuFileSave); }},
+    {"the removed flights", "/plan/Removed Flights.txt", true,
+     [](test::FakeProgram& fake) {
+         fake.session.Flights.SetRemoved(0, true);
+         fake.Press(fake.form.mnuFileSave);
+     }},
+    {"the plan's aircraft", "/plan/Aircraft.txt", true,
+     [](test::FakeProgram& fake) { fake.Press(fake.form.mnuFileSave); }},
+    {"the airline skeleton", "/program/New ORLO_AL.CFG", true,
+     [](test::FakeProgram& fake) {
+         fake.session.Airports.resize(1);
+         fake.Press(fake.form.mnuToolsAirlinesCFG);
+     }},
+    {"the aircraft classes", "/program/ORLO_AC.CFG", false,
+     [](test::FakeProgram& fake) { EXPECT_FALSE(WriteAircraftClasses(fake.session, fake.world.files)); }},
+    {"the settings", "/home/settings.txt", false,
+     [](test::FakeProgram& fake) {
+         TextSettingsStore store(fake.world.files, "/home/settings.txt");
+         store.Set("SOFTWARE\\Orlo", "Name", "Value");
+         EXPECT_FALSE(store.Flush());
+     }},
+};
+
+TEST(FailedWrites, LeaveTheOldFileWholeAndTheProgramRunning) {
+    struct Failure {
+        const char* name;
+        void (*cause)(test::MemoryFileSystem& files);
+    };
+    const std::vector<Failure> failures = {
+        {"no second file and none in place", [](test::MemoryFileSystem& files) { files.failCreate = true; }},
+        {"a full disk", [](test::MemoryFileSystem& files) { files.failAfterBytes = 3; }},
+        {"a failed rename", [](test::MemoryFileSystem& files) { files.failCommit = true; }},
+    };
+    for (const Writer& writer : kWriters) {
+        for (const Failure& failure : failures) {
+            SCOPED_TRACE(testing::Message() << writer.name << ": " << failure.name);
+            test::FakeProgram fake;
+            AddPlan(fake);
+            fake.world.files.files[writer.path] = kOld;
+            failure.cause(fake.world.files);
+            writer.write(fake);
+            EXPECT_EQ(fake.world.files.files[writer.path], kOld);
+            EXPECT_TRUE(fake.form.enabled);
+            EXPECT_EQ(fake.form.pointer, PointerShape::Normal);
+            if (writer.saysSo) {
+                EXPECT_TRUE(fake.form.sbMain.text.starts_with("Not written: [")) << fake.form.sbMain.text;
+            }
+        }
+    }
+}
+
+TEST(FailedWrites, ASaveThatSucceedsTakesTheWarningAway) {
+    test::FakeProgram fake;
+    AddPlan(fake);
+    fake.world.files.failCommit = true;
+    fake.Press(fake.form.mnuFileSave);
+    fake.world.files.failCommit = false;
+    fake.form.mnuFileSave.enabled = true;
+    fake.Press(fake.form.mnuFileSave);
+    EXPECT_EQ(fake.form.sbMain.text, "");
+    EXPECT_EQ(fake.world.messages.shown.back().second, "Successfully saved modified Flightplan.");
+}
+
+}  // namespace
+}  // namespace orlo
