@@ -31,6 +31,13 @@ bool Control::EffectivelyVisible() const {
     return true;
 }
 
+void OptionButton::Check() {
+    for (Control* control : form.Controls()) {
+        if (control->kind != ControlKind::OptionButton || control->parent != parent) continue;
+        static_cast<OptionButton*>(control)->checked = control == this;
+    }
+}
+
 void ComboBox::Clear() {
     entries.clear();
     index = -1;

@@ -110,6 +110,9 @@ struct OptionButton : Control {
     OptionButton(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::OptionButton, in.form, in.parent, nameOf, captionOf) {}
     bool checked = false;
+
+    // Checks this one and clears the others.
+    void Check();
 };
 
 struct ComboEntry {

@@ -172,6 +172,31 @@ void ListView::SelectAll(bool on) {
     ++selectionRevision;
 }
 
+void ListView::SelectRanges(std::span<const PositionRange> ranges, bool on) {
+    for (const PositionRange& range : ranges) {
+        const std::int32_t last = std::min(range.last, Count() - 1);
+        for (std::int32_t at = std::max(range.first, 0); at <= last; ++at) Slot(PlaceAt(at)).selected = on;
+    }
+    ++selectionRevision;
+}
+
+void ListView::SelectOnly(std::span<const PositionRange> ranges) {
+    SelectAll(false);
+    SelectRanges(ranges, true);
+}
+
+std::vector<PositionRange> ListView::SelectedRanges() const {
+    std::vector<PositionRange> ranges;
+    bool open = false;
+    for (std::int32_t at = 0; at < Count(); ++at) {
+        const bool selected = Selected(PlaceAt(at));
+        if (selected && !open) ranges.push_back({at, at});
+        if (selected) ranges.back().last = at;
+        open = selected;
+    }
+    return ranges;
+}
+
 std::vector<std::int32_t> ListView::SelectedPlaces() const {
     std::vector<std::int32_t> places;
     for (const std::int32_t place : order_) {

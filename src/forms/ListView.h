@@ -17,6 +17,12 @@ struct ListColumn {
     std::string caption;
 };
 
+// Rows that are displayed one after the other.
+struct PositionRange {
+    std::int32_t first = 0;
+    std::int32_t last = 0;  // included
+};
+
 // What is added as one row.
 struct ListRow {
     std::string key;  // may be empty; a key that stands already, case aside, is refused
@@ -71,8 +77,12 @@ struct ListView : Control {
     bool Selected(std::int32_t place) const { return Slot(place).selected; }
     void Select(std::int32_t place, bool on);
     void SelectAll(bool on);
-    std::vector<std::int32_t> SelectedPlaces() const;  // in displayed order
-    std::int32_t current = -1;                         // place, -1 for none
+    // What ranges name beyond the rows counts for nothing.
+    void SelectRanges(std::span<const PositionRange> ranges, bool on);
+    void SelectOnly(std::span<const PositionRange> ranges);  // and nothing else
+    std::vector<std::int32_t> SelectedPlaces() const;        // in displayed order
+    std::vector<PositionRange> SelectedRanges() const;       // in displayed order, none next to another
+    std::int32_t current = -1;                               // place, -1 for none
 
     bool sorted = false;  // the switch; while it is off, further rows go to the end
     std::int32_t sortColumn = 0;

@@ -31,13 +31,26 @@ int EventPump::EnterModal() {
     return outer;
 }
 
+bool EventPump::TakesInput(const Form& form) const {
+    // A form that isn't open may be gone.
+    if (!windows_.IsOpen(form) || !form.enabled) return false;
+    const Form* top = windows_.TopModal();
+    return top == &form || (top == nullptr && running_ == 0);
+}
+
 bool EventPump::Accepts(const Event& event) const {
     if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
-    if (event.form == nullptr || !windows_.IsOpen(*event.form)) return false;
-    const Form* top = windows_.TopModal();
-    if (top != event.form && (top != nullptr || running_ > 0)) return false;
-    if (event.kind == EventKind::Close) return true;
-    return event.form->enabled && (event.control == nullptr || event.control->EffectivelyEnabled());
+    if (event.form == nullptr) return false;
+    if (event.kind == EventKind::Close && running_ == 0) {
+        // Also of a disabled form, so that one that was left disabled can be closed.
+        const Form* top = windows_.TopModal();
+        return windows_.IsOpen(*event.form) && (top == nullptr || top == event.form);
+    }
+    return TakesInput(*event.form) && (event.control == nullptr || event.control->EffectivelyEnabled());
+}
+
+void EventPump::Post(const Event& event) {
+    if (Accepts(event)) queue_.push_back(event);
 }
 
 void EventPump::RunQueued() {
@@ -54,9 +67,22 @@ bool EventPump::Deliver(Event& event) {
     return !event.refused;
 }
 
+const EventEntry* EventPump::Find(const Event& event) const {
+    for (const auto& [form, table] : tables_) {
+        if (event.kind != EventKind::Timer && form != event.form) continue;
+        if (const EventEntry* entry = FindEvent(table, event)) return entry;
+    }
+    return FindEvent(context_, event);
+}
+
 void EventPump::Run(Event& event) {
-    const EventEntry* entry = FindEvent(context_, event);
-    if (entry == nullptr) return;
+    const EventEntry* entry = Find(event);
+    if (entry == nullptr) {
+        // Nothing else could close a modal form whose close box has no procedure.
+        if (event.kind == EventKind::Close && windows_.TopModal() == event.form)
+            event.form->closeRequest = true;
+        return;
+    }
     if (entry->procedure == nullptr) {
         context_.services.windows.ShowNotBuilt(entry->control);
         return;
@@ -65,24 +91,27 @@ void EventPump::Run(Event& event) {
     try {
         entry->procedure(context_, event);
     } catch (const std::bad_alloc&) {
-        RecoverFromFailure("not enough memory");
+        RecoverFromFailure(event.form, "not enough memory");
     } catch (const std::exception& failure) {
-        RecoverFromFailure(failure.what());
+        RecoverFromFailure(event.form, failure.what());
     }
     --running_;
 }
 
 // What an operation that broke off may have left behind.
-void EventPump::RecoverFromFailure(std::string_view reason) {
-    MainForm& form = context_.forms.frmMain;
+void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
+    MainForm& main = context_.forms.frmMain;
     context_.services.progress.Close();
-    form.enabled = true;
-    form.pointer = PointerShape::Normal;
-    form.frozen = 0;
-    form.HandlingNodeCheck = false;
-    form.tvShuffleAircraft.visible = context_.session.PlanLoaded;
-    form.tvMoveAircrafts.visible = context_.session.PlanLoaded;
-    form.sbMain.text = Concat("The operation ended early: ", reason, ".");
+    for (Form* form : {shown, static_cast<Form*>(&main)}) {
+        if (form == nullptr) continue;
+        form->enabled = true;
+        form->pointer = PointerShape::Normal;
+        form->frozen = 0;
+    }
+    main.HandlingNodeCheck = false;
+    main.tvShuffleAircraft.visible = context_.session.PlanLoaded;
+    main.tvMoveAircrafts.visible = context_.session.PlanLoaded;
+    main.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 
 }  // namespace orlo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <utility>
 #include <vector>
 
 #include "forms/Event.h"
@@ -21,7 +22,8 @@ struct OpenForms {
 };
 
 // Runs events one at a time. An event for a form under a modal one, for a control that is disabled by now,
-// or, while an operation lets events run, for any form but the topmost modal one, is dropped.
+// or, while an operation lets events run, for any form but the topmost modal one, is dropped, both when it
+// arrives and when its turn comes. Timers always run.
 class EventPump {
   public:
     explicit EventPump(Context& context) : context_(context) {}
@@ -30,7 +32,17 @@ class EventPump {
 
     OpenForms& Windows() { return windows_; }
 
-    void Post(const Event& event) { queue_.push_back(event); }
+    // The events of a form that the shell's own tables don't know; the form stays open no longer than the
+    // pump.
+    void AddTable(const Form& form, EventTable table) { tables_.emplace_back(&form, table); }
+
+    // Whether the event would run now.
+    bool Accepts(const Event& event) const;
+    // Whether the user may use the form at all now.
+    bool TakesInput(const Form& form) const;
+
+    // Queues the event; one that isn't accepted is dropped.
+    void Post(const Event& event);
     // Runs what is queued, or drops it.
     void RunQueued();
     // Runs one event at once. False when it was dropped or its procedure refused it.
@@ -43,12 +55,13 @@ class EventPump {
     void LeaveModal(int running) { running_ = running; }
 
   private:
-    bool Accepts(const Event& event) const;
+    const EventEntry* Find(const Event& event) const;
     void Run(Event& event);
-    void RecoverFromFailure(std::string_view reason);
+    void RecoverFromFailure(Form* shown, std::string_view reason);
 
     Context& context_;
     OpenForms windows_;
+    std::vector<std::pair<const Form*, EventTable>> tables_;
     std::deque<Event> queue_;
     int running_ = 0;
 };

@@ -11,16 +11,20 @@ EventTable EventsOf(const Forms& forms, const Form& form) {
     return {};
 }
 
-const EventEntry* FindEvent(const Context& context, const Event& event) {
-    const bool timer = event.kind == EventKind::Timer;
-    const Form& form = timer ? static_cast<const Form&>(context.forms.frmMain) : *event.form;
-    const std::string_view name = timer                      ? event.name
-                                  : event.control != nullptr ? event.control->name
-                                                             : std::string_view();
-    for (const EventEntry& entry : EventsOf(context.forms, form)) {
+const EventEntry* FindEvent(EventTable table, const Event& event) {
+    const std::string_view name = event.kind == EventKind::Timer ? event.name
+                                  : event.control != nullptr     ? event.control->name
+                                                                 : std::string_view();
+    for (const EventEntry& entry : table) {
         if (entry.kind == event.kind && EqualNoCase(entry.control, name)) return &entry;
     }
     return nullptr;
+}
+
+const EventEntry* FindEvent(const Context& context, const Event& event) {
+    const bool timer = event.kind == EventKind::Timer;
+    const Form& form = timer ? static_cast<const Form&>(context.forms.frmMain) : *event.form;
+    return FindEvent(EventsOf(context.forms, form), event);
 }
 
 void RunButton(Context& context, Button& button) {

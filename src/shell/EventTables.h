@@ -12,7 +12,9 @@ EventTable AboutEvents();
 // The table of a form; empty for a form without events.
 EventTable EventsOf(const Forms& forms, const Form& form);
 
-// The entry that an event runs; null where nothing is to run.
+// The entry that an event runs; null where nothing is to run. Timers are looked up in the main window's
+// table.
+const EventEntry* FindEvent(EventTable table, const Event& event);
 const EventEntry* FindEvent(const Context& context, const Event& event);
 
 // Runs what a click on the button runs, where the button is enabled: keys that stand for buttons.

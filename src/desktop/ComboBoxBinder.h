@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QComboBox>
+
+#include "desktop/Binder.h"
+
+namespace orlo {
+
+// Reads the entries when they are asked for. Its count is the one of the last drawing, so that entries may
+// come and go in between.
+class ComboModel : public QAbstractListModel {
+  public:
+    explicit ComboModel(const ComboBox& combo) : combo_(combo) {}
+    void Reset();
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    const ComboBox& combo_;
+    int count_ = 0;
+};
+
+class ComboBoxBinder : public Binder {
+  public:
+    ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink);
+    ~ComboBoxBinder() override;
+
+  protected:
+    void DrawContent() override;
+    void GoBack() override;
+
+  private:
+    ComboBox& combo_;
+    QComboBox& shown_;
+    ComboModel model_;
+    std::int64_t drawnRevision_ = -1;
+};
+
+}  // namespace orlo

@@ -1,0 +1,285 @@
+#include "desktop/DesktopHost.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QWindow>
+#include <algorithm>
+
+#include "desktop/FormWindow.h"
+#include "shell/EventPump.h"
+
+namespace orlo {
+namespace {
+
+constexpr qint64 kDrawMilliseconds = 40;  // 25 times a second
+constexpr int kAboveCentre = 32;          // pixels between the centres of progress and owner
+
+const QEvent::Type kRunQueued = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+}  // namespace
+
+DesktopHost::DesktopHost() {
+    drawTimer_.setSingleShot(true);
+    QObject::connect(&drawTimer_, &QTimer::timeout, this, [this] { DrawAll(); });
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    qApp->installEventFilter(&filter_);
+}
+
+DesktopHost::~DesktopHost() {
+    Detach();
+}
+
+void DesktopHost::Attach(EventPump& pump, ProgressForm& progress) {
+    pump_ = &pump;
+    progress_ = &progress;
+}
+
+void DesktopHost::Detach() {
+    drawTimer_.stop();
+    timers_.clear();
+    // From the last one, so that children go before their parents.
+    while (!windows_.empty()) {
+        FormWindow* window = windows_.back();
+        windows_.pop_back();
+        delete window;
+    }
+    pump_ = nullptr;
+    progress_ = nullptr;
+}
+
+bool DesktopHost::Accepts(const Event& event) const {
+    return pump_ != nullptr && pump_->Accepts(event);
+}
+
+void DesktopHost::Post(const Event& event) {
+    if (pump_ == nullptr) return;
+    pump_->Post(event);
+    if (runPosted_) return;
+    runPosted_ = true;
+    QCoreApplication::postEvent(this, new QEvent(kRunQueued));
+}
+
+void DesktopHost::customEvent(QEvent* event) {
+    if (event->type() != kRunQueued || pump_ == nullptr) return;
+    runPosted_ = false;
+    pump_->RunQueued();
+    PumpRan();
+}
+
+void DesktopHost::PumpRan() {
+    if (!loops_.empty() && loops_.back().form->closeRequest) loops_.back().loop->quit();
+    ScheduleDraw();
+}
+
+void DesktopHost::DeliverNow(Event& event) {
+    if (pump_ == nullptr) return;
+    pump_->RunQueued();
+    pump_->Deliver(event);
+    PumpRan();
+}
+
+void DesktopHost::CatchUp(FormWindow& window) {
+    pump_->RunQueued();
+    PumpRan();
+    window.Draw();
+    window.TakeRequests();
+}
+
+bool DesktopHost::TakesInput(const FormWindow& window) const {
+    return pump_ != nullptr && window.Shown() != nullptr && pump_->TakesInput(*window.Shown());
+}
+
+void DesktopHost::ProcessEvents() {
+    if (pump_ == nullptr) return;
+    pump_->RunQueued();
+    DrawWhenDue();
+    QCoreApplication::processEvents();
+}
+
+void DesktopHost::RunUntilClosed(Form& form) {
+    QEventLoop loop;
+    loops_.push_back({&form, &loop});
+    ScheduleDraw();
+    if (!form.closeRequest) loop.exec();
+    loops_.pop_back();
+}
+
+FormWindow* DesktopHost::Find(const Form& form) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [&](const FormWindow* window) { return window->Shown() == &form; });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+FormWindow* DesktopHost::WindowOf(QObject* object) {
+    if (object->isWidgetType()) {
+        auto* window = dynamic_cast<FormWindow*>(static_cast<QWidget*>(object)->window());
+        return window;
+    }
+    if (!object->isWindowType()) return nullptr;
+    const auto found = std::find_if(windows_.begin(), windows_.end(), [&](const FormWindow* window) {
+        return window->isWindow() && window->windowHandle() == object;
+    });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+QWidget* DesktopHost::OwnerWindow(const Form* owner) const {
+    if (owner != nullptr) return Find(*owner);
+    return windows_.empty() ? nullptr : windows_.back()->window();
+}
+
+FormWindow& DesktopHost::Open(Form& form, QWidget* parent, Qt::WindowFlags flags) {
+    pump_->Windows().Show(form);
+    FormWindow* window = Find(form);
+    if (window == nullptr) {
+        window = new FormWindow(form, *this, parent, flags);
+        windows_.push_back(window);
+    }
+    return *window;
+}
+
+void DesktopHost::ShowForm(Form& form) {
+    if (pump_ == nullptr) return;
+    QWidget* parent = form.owner == nullptr ? nullptr : OwnerWindow(form.owner);
+    FormWindow& window = Open(form, parent, Qt::Window);
+    window.Draw();
+    window.show();
+    window.activateWindow();
+    window.TakeRequests();
+}
+
+void DesktopHost::ShowModal(Form& form, Form* owner) {
+    if (pump_ == nullptr) return;
+    form.owner = owner;
+    form.closeRequest = false;
+    FormWindow& window = Open(form, OwnerWindow(owner), Qt::Dialog);
+    OpenForms& open = pump_->Windows();
+    open.modal.insert(open.modal.begin(), &form);
+    window.setWindowModality(Qt::ApplicationModal);
+    window.Draw();
+    window.show();
+    window.activateWindow();
+    window.TakeRequests();
+
+    const int outer = pump_->EnterModal();
+    RunUntilClosed(form);
+    pump_->LeaveModal(outer);
+    Shut(form);
+    form.closeRequest = false;
+    ScheduleDraw();
+}
+
+// A modal form ends its loop first, and is unloaded where it was shown.
+void DesktopHost::UnloadForm(Form& form) {
+    if (pump_ == nullptr) return;
+    const std::vector<Form*>& modal = pump_->Windows().modal;
+    if (std::find(modal.begin(), modal.end(), &form) != modal.end()) {
+        form.closeRequest = true;
+    } else {
+        Shut(form);
+    }
+}
+
+// A widget of the window may be handling an event up the stack. What stands in the window goes with it.
+void DesktopHost::Shut(Form& form) {
+    pump_->Windows().Unload(form);
+    FormWindow* window = Find(form);
+    if (window == nullptr) return;
+    std::erase(windows_, window);
+    const std::vector<FormWindow*> others = windows_;
+    for (const FormWindow* other : others) {
+        if (other->parentWidget() == window && other->Shown() != nullptr) Shut(*other->Shown());
+    }
+    window->Release();
+    window->hide();
+    window->deleteLater();
+}
+
+void DesktopHost::SetText(std::string_view text) {
+    if (progress_ != nullptr) progress_->lblProgress.caption = text;
+}
+
+void DesktopHost::SetMax(int maximum) {
+    if (progress_ != nullptr) progress_->pbProgress.maximum = maximum;
+}
+
+void DesktopHost::SetValue(int value) {
+    if (progress_ != nullptr) progress_->pbProgress.value = value;
+}
+
+// A part of the owner's window, which so keeps the focus, and without a close box.
+void DesktopHost::Show(Form* owner) {
+    if (pump_ == nullptr) return;
+    QWidget* parent = OwnerWindow(owner);
+    FormWindow& window = Open(*progress_, parent, parent == nullptr ? Qt::Tool : Qt::Widget);
+    window.setAutoFillBackground(true);
+    window.Draw();
+    PlaceProgress(window);
+    window.show();
+    window.raise();
+}
+
+void DesktopHost::PlaceProgress(FormWindow& window) {
+    const QWidget* parent = window.parentWidget();
+    if (parent == nullptr) return;
+    const QSize size(std::max(parent->width() / 2, window.sizeHint().width()), window.sizeHint().height());
+    QRect place(QPoint(), size);
+    place.moveCenter(parent->rect().center() - QPoint(0, kAboveCentre));
+    window.setGeometry(place);
+}
+
+void DesktopHost::Close() {
+    if (pump_ != nullptr) Shut(*progress_);
+}
+
+void DesktopHost::StartTimer(std::string_view name, int milliseconds) {
+    auto timer = std::make_unique<QTimer>();
+    timer->setSingleShot(true);
+    QObject::connect(timer.get(), &QTimer::timeout, this, [this, text = std::string(name)] {
+        // Not from within the timer's own signal: its procedure may arm it again.
+        QTimer::singleShot(0, this, [this, text] { FireTimer(text); });
+    });
+    timer->start(milliseconds);
+    timers_.insert_or_assign(std::string(name), std::move(timer));
+}
+
+void DesktopHost::StopTimer(std::string_view name) {
+    const auto found = timers_.find(name);
+    if (found != timers_.end()) timers_.erase(found);
+}
+
+bool DesktopHost::TimerArmed(std::string_view name) const {
+    return timers_.find(name) != timers_.end();
+}
+
+void DesktopHost::FireTimer(const std::string& name) {
+    const auto found = timers_.find(name);
+    if (found == timers_.end() || found->second->isActive()) return;
+    timers_.erase(found);
+    Event event;
+    event.kind = EventKind::Timer;
+    event.name = name;
+    DeliverNow(event);
+}
+
+void DesktopHost::ScheduleDraw() {
+    if (drawTimer_.isActive()) return;
+    const qint64 passed = lastDrawn_.isValid() ? lastDrawn_.elapsed() : kDrawMilliseconds;
+    drawTimer_.start(static_cast<int>(std::max<qint64>(0, kDrawMilliseconds - passed)));
+}
+
+void DesktopHost::DrawWhenDue() {
+    if (lastDrawn_.isValid() && lastDrawn_.elapsed() < kDrawMilliseconds) return ScheduleDraw();
+    DrawAll();
+}
+
+void DesktopHost::DrawAll() {
+    if (drawing_) return;
+    drawing_ = true;
+    drawTimer_.stop();
+    for (FormWindow* window : windows_) window->Draw();
+    for (FormWindow* window : windows_) window->TakeRequests();
+    drawing_ = false;
+    lastDrawn_.start();
+}
+
+}  // namespace orlo

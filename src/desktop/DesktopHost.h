@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/EventSink.h"
+#include "desktop/InputFilter.h"
+#include "forms/ProgressForm.h"
+#include "services/MessageHost.h"
+#include "services/ProgressHost.h"
+#include "services/WindowHost.h"
+
+class QEventLoop;
+
+namespace orlo {
+
+class EventPump;
+
+// The desktop front end over an event pump: windows for the forms, dialogs, timers, and the loops that run
+// events. One lives beside the application object; the pump and the forms come after it and go before it,
+// except for what stays in RunUntilClosed.
+class DesktopHost : public QObject,
+                    public EventSink,
+                    public ProgressHost,
+                    public MessageHost,
+                    public WindowHost {
+  public:
+    DesktopHost();
+    ~DesktopHost() override;
+
+    // Until it is called nothing is shown.
+    void Attach(EventPump& pump, ProgressForm& progress);
+    // Closes all windows and lets go of the pump.
+    void Detach();
+
+    // Runs events until the form's close request.
+    void RunUntilClosed(Form& form);
+
+    // EventSink
+    bool Accepts(const Event& event) const override;
+    void Post(const Event& event) override;
+
+    // For the input filter.
+    bool TakesInput(const FormWindow& window) const;
+    void DeliverNow(Event& event);          // after what is queued
+    void CatchUp(FormWindow& window);       // runs what is queued and draws what it changed in the window
+    FormWindow* WindowOf(QObject* object);  // of a widget or of the system's window; null for another's
+    int DialogsShown() const { return dialogsShown_; }
+
+    // ProgressHost
+    void SetText(std::string_view text) override;
+    void SetMax(int maximum) override;
+    void SetValue(int value) override;
+    void Show(Form* owner) override;
+    void Close() override;
+
+    // MessageHost
+    MessageAnswer ShowMessage(std::string_view text, int flags, std::string_view title, Form* owner) override;
+
+    // WindowHost
+    void ProcessEvents() override;
+    void ShowForm(Form& form) override;
+    void ShowModal(Form& form, Form* owner) override;
+    void UnloadForm(Form& form) override;
+    bool KeepsWindowPlace() const override { return true; }
+    void ShowNotBuilt(std::string_view controlName) override;
+    void StartTimer(std::string_view name, int milliseconds) override;
+    void StopTimer(std::string_view name) override;
+    bool TimerArmed(std::string_view name) const override;
+    std::string ShowOpenDialog(const FileDialog& dialog) override;
+    std::string ShowSaveDialog(const FileDialog& dialog) override;
+    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view defaultText) override;
+    bool ShowPrintDialog(std::string_view title) override;
+    void Print(std::string_view text) override;
+    bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
+
+  protected:
+    void customEvent(QEvent* event) override;
+
+  private:
+    class DialogRound;
+    struct Loop {
+        Form* form;
+        QEventLoop* loop;
+    };
+    void PumpRan();
+    void FireTimer(const std::string& name);
+    FormWindow* Find(const Form& form) const;
+    FormWindow& Open(Form& form, QWidget* parent, Qt::WindowFlags flags);
+    void Shut(Form& form);
+    void PlaceProgress(FormWindow& window);
+    QWidget* OwnerWindow(const Form* owner) const;  // else the topmost one
+    void ScheduleDraw();
+    void DrawWhenDue();
+    void DrawAll();
+
+    EventPump* pump_ = nullptr;
+    ProgressForm* progress_ = nullptr;
+    std::vector<FormWindow*> windows_;  // in the order of opening; their toolkit parents own none of them
+    std::vector<Loop> loops_;           // the innermost last
+    std::map<std::string, std::unique_ptr<QTimer>, std::less<>> timers_;
+    InputFilter filter_{*this};
+    bool runPosted_ = false;
+    QTimer drawTimer_;
+    QElapsedTimer lastDrawn_;
+    bool drawing_ = false;
+    // Stands for a dialog of the toolkit among the modal forms.
+    Form dialogForm_{"", ""};
+    int dialogsShown_ = 0;
+};
+
+}  // namespace orlo

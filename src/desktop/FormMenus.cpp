@@ -1,0 +1,76 @@
+#include "desktop/FormMenus.h"
+
+#include <QAction>
+#include <algorithm>
+
+#include "desktop/ScreenText.h"
+
+namespace orlo {
+
+FormMenus::FormMenus(Form& form, QWidget& window, EventSink& sink) : window_(window), sink_(sink) {
+    for (Control* control : form.Controls()) {
+        if (control->kind != ControlKind::MenuEntry) continue;
+        const bool hasEntries = std::any_of(form.Controls().begin(), form.Controls().end(),
+                                            [&](const Control* other) { return other->parent == control; });
+        Add(static_cast<MenuEntry&>(*control), hasEntries);
+    }
+    Draw();
+}
+
+void FormMenus::Add(MenuEntry& entry, bool hasEntries) {
+    QMenu* menu = hasEntries ? new QMenu(&window_) : nullptr;
+    QAction* action = menu != nullptr ? menu->menuAction() : new QAction(&window_);
+    const QString name = QString::fromStdString(entry.name);
+    action->setObjectName(name);
+    if (menu != nullptr) menu->setObjectName(name + "Menu");
+    if (!entry.popup) {
+        QWidget* holder = HolderOf(entry);
+        if (entry.separatorBefore && holder != bar_) static_cast<QMenu*>(holder)->addSeparator();
+        holder->addAction(action);
+    }
+    if (menu == nullptr) {
+        QObject::connect(action, &QAction::triggered, &life_,
+                         [this, &entry, action] { Choose(entry, *action); });
+    }
+    drawn_.push_back({&entry, action, menu, {}});
+}
+
+QWidget* FormMenus::HolderOf(const MenuEntry& entry) {
+    for (const Drawn& drawn : drawn_) {
+        if (drawn.entry == entry.parent) return drawn.menu;
+    }
+    if (bar_ == nullptr) bar_ = new QMenuBar(&window_);
+    return bar_;
+}
+
+// The check mark follows what the procedure makes of the choice.
+void FormMenus::Choose(MenuEntry& entry, QAction& action) {
+    action.setChecked(entry.checked);
+    sink_.Post({&entry.form, &entry, EventKind::Click});
+}
+
+void FormMenus::Draw() {
+    for (Drawn& drawn : drawn_) DrawEntry(drawn);
+}
+
+void FormMenus::DrawEntry(Drawn& drawn) {
+    const MenuEntry& entry = *drawn.entry;
+    QAction& action = *drawn.action;
+    if (drawn.caption != entry.caption) {
+        drawn.caption = entry.caption;
+        action.setText(ToQString(entry.caption));
+    }
+    if (action.isVisible() != entry.visible) action.setVisible(entry.visible);
+    if (action.isEnabled() != entry.EffectivelyEnabled()) action.setEnabled(entry.EffectivelyEnabled());
+    if (action.isCheckable() != entry.checkable) action.setCheckable(entry.checkable);
+    if (action.isChecked() != entry.checked) action.setChecked(entry.checked);
+}
+
+void FormMenus::Open(const MenuEntry& root, const QPoint& place) {
+    Draw();
+    for (const Drawn& drawn : drawn_) {
+        if (drawn.entry == &root && drawn.menu != nullptr) drawn.menu->popup(place);
+    }
+}
+
+}  // namespace orlo

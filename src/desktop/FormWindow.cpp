@@ -1,0 +1,172 @@
+#include "desktop/FormWindow.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <QScreen>
+
+#include "desktop/Binders.h"
+#include "desktop/FormLayout.h"
+#include "desktop/LabelBinder.h"
+#include "desktop/ScreenText.h"
+
+namespace orlo {
+namespace {
+
+bool SameBox(const WindowBox& a, const WindowBox& b) {
+    return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), form_(&form), sink_(sink) {
+    setObjectName(QString::fromStdString(form.name));
+    Build();
+}
+
+FormWindow::~FormWindow() {
+    Release();
+}
+
+// The order of the controls is the tab order, which the toolkit takes from the order of creation.
+void FormWindow::Build() {
+    for (Control* control : form_->Controls()) {
+        const auto holder = byControl_.find(control->parent);
+        QWidget& parent = holder != byControl_.end() ? holder->second->Widget() : *this;
+        std::unique_ptr<Binder> binder = MakeBinder(*control, parent, sink_);
+        if (binder == nullptr) continue;
+        byControl_[control] = binder.get();
+        byWidget_[&binder->Widget()] = binder.get();
+        binders_.push_back(std::move(binder));
+    }
+    JoinLabels();
+    menus_ = std::make_unique<FormMenus>(*form_, *this, sink_);
+    LayOut(*form_, *this, menus_->Bar(), [this](const Control& control) -> QWidget* {
+        const auto found = byControl_.find(&control);
+        return found == byControl_.end() ? nullptr : &found->second->Widget();
+    });
+}
+
+void FormWindow::JoinLabels() {
+    for (const auto& binder : binders_) {
+        const auto label = byControl_.find(LabelOf(binder->Of()));
+        if (label != byControl_.end()) static_cast<LabelBinder*>(label->second)->SetBuddy(binder->Widget());
+    }
+}
+
+void FormWindow::Draw() {
+    if (form_ == nullptr) return;
+    const bool frozen = form_->frozen > 0;
+    if (updatesEnabled() == frozen) setUpdatesEnabled(!frozen);
+    if (frozen) return;
+    DrawFrame();
+    for (const auto& binder : binders_) binder->Draw();
+    menus_->Draw();
+}
+
+void FormWindow::DrawFrame() {
+    if (caption_.Changes(form_->caption)) setWindowTitle(ToQString(form_->caption));
+    if (drawnPointer_ != form_->pointer) {
+        drawnPointer_ = form_->pointer;
+        if (form_->pointer == PointerShape::Hourglass) {
+            setCursor(Qt::WaitCursor);
+        } else {
+            unsetCursor();
+        }
+    }
+    if (isWindow()) DrawPlace();
+}
+
+void FormWindow::DrawPlace() {
+    const QScopedValueRollback<bool> placing(placing_, true);
+    if (form_->centreRequest) {
+        form_->centreRequest = false;
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        QRect place(QPoint(), size().expandedTo(minimumSizeHint()));
+        place.moveCenter(room.center());
+        setGeometry(place);
+    } else if (form_->box.height >= 0 && !SameBox(form_->box, drawnBox_)) {
+        setGeometry(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
+    }
+    if (drawnState_ != form_->windowState) {
+        const Qt::WindowStates others = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+        const Qt::WindowState state = form_->windowState == WindowState::Maximised   ? Qt::WindowMaximized
+                                      : form_->windowState == WindowState::Minimised ? Qt::WindowMinimized
+                                                                                     : Qt::WindowNoState;
+        setWindowState(others | state);
+    }
+    drawnState_ = form_->windowState;
+    drawnBox_ = form_->box;
+}
+
+// The place that the window has when it is neither minimised nor maximised.
+void FormWindow::NotePlace() {
+    if (form_ == nullptr || placing_ || !isWindow() || !isVisible()) return;
+    form_->windowState = isMinimized()   ? WindowState::Minimised
+                         : isMaximized() ? WindowState::Maximised
+                                         : WindowState::Normal;
+    drawnState_ = form_->windowState;
+    if (form_->windowState != WindowState::Normal) return;
+    form_->box = {geometry().x(), geometry().y(), geometry().width(), geometry().height()};
+    drawnBox_ = form_->box;
+}
+
+void FormWindow::TakeRequests() {
+    if (form_ == nullptr || form_->frozen > 0 || !isVisible()) return;
+    if (form_->focusRequest) {
+        const auto found = byControl_.find(form_->focus);
+        if (found != byControl_.end()) {
+            QWidget& widget = found->second->Widget();
+            if (widget.isEnabled() && widget.isVisibleTo(this)) widget.setFocus(Qt::OtherFocusReason);
+        }
+        form_->focusRequest = false;
+        form_->focus = FocusControl();
+    }
+    for (const auto& binder : binders_) {
+        // A request to a hidden control waits, as its contents do.
+        if (binder->Of().EffectivelyVisible()) binder->TakeRequests();
+    }
+}
+
+void FormWindow::Release() {
+    byWidget_.clear();
+    byControl_.clear();
+    menus_.reset();
+    binders_.clear();
+    form_ = nullptr;
+}
+
+Binder* FormWindow::BinderOf(const QWidget* widget) const {
+    for (; widget != nullptr && widget != this; widget = widget->parentWidget()) {
+        const auto found = byWidget_.find(widget);
+        if (found != byWidget_.end()) return found->second;
+    }
+    return nullptr;
+}
+
+Control* FormWindow::FocusControl() const {
+    const Binder* binder = BinderOf(focusWidget());
+    return binder == nullptr ? nullptr : &binder->Of();
+}
+
+// The form closes when its procedure says so.
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (form_ != nullptr) sink_.Post({form_, nullptr, EventKind::Close});
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+    NotePlace();
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    NotePlace();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) NotePlace();
+}
+
+}  // namespace orlo

@@ -1,0 +1,235 @@
+#include "desktop/InputFilter.h"
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWindow>
+
+#include "desktop/DesktopHost.h"
+#include "desktop/FormWindow.h"
+#include "desktop/ScreenText.h"
+
+namespace orlo {
+namespace {
+
+// What is dropped where the form takes no input. Releases pass: they only end what a press began, and the
+// binders ask again before they write.
+bool IsInput(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::InputMethod:
+        case QEvent::TouchBegin:
+        case QEvent::TabletPress:
+        case QEvent::DragEnter:
+        case QEvent::Drop:
+        case QEvent::ToolTip:
+            return true;
+        default:
+            return false;
+    }
+}
+
+// The control that a press would give the focus to, as the toolkit finds it; null when the focus stays.
+const Control* FocusTaker(const FormWindow& window, const QPoint& place) {
+    for (const QWidget* widget = window.childAt(place); widget != nullptr && widget != &window;
+         widget = widget->parentWidget()) {
+        if (!widget->isEnabled() || (widget->focusPolicy() & Qt::ClickFocus) == 0) continue;
+        const Binder* binder = window.BinderOf(widget);
+        return binder == nullptr ? nullptr : &binder->Of();
+    }
+    return nullptr;
+}
+
+bool TakesEnter(const Control* control) {
+    if (control == nullptr || control->kind != ControlKind::TextBox) return false;
+    const auto& box = static_cast<const TextBox&>(*control);
+    return box.style != TextBoxStyle::SingleLine && !box.readOnly;
+}
+
+bool Clickable(const Button* button) {
+    return button != nullptr && button->EffectivelyEnabled() && button->EffectivelyVisible();
+}
+
+}  // namespace
+
+bool InputFilter::eventFilter(QObject* object, QEvent* event) {
+    const QEvent::Type type = event->type();
+    const bool watched = IsInput(type) || type == QEvent::MouseButtonRelease || type == QEvent::KeyRelease ||
+                         type == QEvent::FocusIn;
+    if (!watched) return false;
+    FormWindow* window = host_.WindowOf(object);
+    if (window == nullptr) return false;  // a dialog or pop-up of the toolkit
+    if (IsInput(type)) {
+        if (!host_.TakesInput(*window)) return true;
+        // What was done before runs and is seen before what is done now.
+        host_.CatchUp(*window);
+        if (!host_.TakesInput(*window)) return true;
+    }
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            return Press(*window, object, *static_cast<QMouseEvent*>(event));
+        case QEvent::MouseButtonRelease:
+            return Release(*static_cast<QMouseEvent*>(event));
+        case QEvent::KeyPress:
+            return Key(*window, object, *static_cast<QKeyEvent*>(event));
+        case QEvent::KeyRelease:
+            KeyReleased(*window, object, *static_cast<QKeyEvent*>(event));
+            return false;
+        case QEvent::Shortcut:
+            return Shortcut(*window, object);
+        case QEvent::Wheel:
+            return Wheel(*window, object);
+        case QEvent::ContextMenu:
+            return Popup(*window, object, *static_cast<QContextMenuEvent*>(event));
+        case QEvent::ToolTip:
+            return Hover(*window, object, *static_cast<QHelpEvent*>(event));
+        case QEvent::FocusIn:
+            FocusIn(*window, object);
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool InputFilter::Leaves(FormWindow& window, const Control* to) {
+    Control* from = window.FocusControl();
+    if (from == nullptr || from == to || from->kind != ControlKind::TextBox) return true;
+    Event event{&from->form, from, EventKind::Leave};
+    host_.DeliverNow(event);
+    return !event.refused;
+}
+
+// The window sees a press before the toolkit moves the focus, a widget only after it.
+bool InputFilter::Press(FormWindow& window, QObject* object, QMouseEvent& event) {
+    if (!object->isWindowType()) return false;
+    swallowedButton_ = 0;
+    const Control* to = FocusTaker(window, event.position().toPoint());
+    if (to == nullptr) return false;
+    const int shown = host_.DialogsShown();
+    if (Leaves(window, to)) {
+        // A dialog that the procedure showed has taken the release.
+        const bool lost =
+            shown != host_.DialogsShown() && !QGuiApplication::mouseButtons().testFlag(event.button());
+        if (!lost) return false;
+    }
+    swallowedButton_ = static_cast<int>(event.button());
+    return true;
+}
+
+bool InputFilter::Release(QMouseEvent& event) {
+    if (swallowedButton_ != static_cast<int>(event.button())) return false;
+    swallowedButton_ = 0;
+    return true;
+}
+
+bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
+    const QWidget* focus = window.focusWidget();
+    const bool isTarget = focus != nullptr ? object == focus : object == &window;
+    if (!isTarget || window.Shown() == nullptr) return false;
+    Form& form = *window.Shown();
+    Control* control = window.FocusControl();
+    const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (others != Qt::NoModifier) return false;
+    switch (event.key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return !Leaves(window, nullptr);
+        case Qt::Key_Return:
+        case Qt::Key_Enter: {
+            if (TakesEnter(control)) return false;
+            Button* button = control != nullptr && control->kind == ControlKind::Button
+                                 ? static_cast<Button*>(control)
+                                 : form.defaultButton;
+            if (!Clickable(button)) return false;
+            host_.Post({&form, button, EventKind::Click});
+            return true;
+        }
+        case Qt::Key_Escape:
+            if (!Clickable(form.cancelButton)) return false;
+            host_.Post({&form, form.cancelButton, EventKind::Click});
+            return true;
+        default:
+            return false;
+    }
+}
+
+void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& event) {
+    if (object != window.focusWidget() || event.isAutoRepeat()) return;
+    Control* control = window.FocusControl();
+    if (control == nullptr) return;
+    if (event.key() == Qt::Key_Delete) host_.Post({&control->form, control, EventKind::KeyUp, kKeyDelete});
+    if (event.key() == Qt::Key_Insert) host_.Post({&control->form, control, EventKind::KeyUp, kKeyInsert});
+}
+
+// A mnemonic moves the focus too; those of menus go to their actions, which are no widgets.
+bool InputFilter::Shortcut(FormWindow& window, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    const Binder* binder = window.BinderOf(widget);
+    if (binder == nullptr) return false;
+    const Control* to = &binder->Of();
+    if (to->kind == ControlKind::Label) {
+        const auto& controls = to->form.Controls();
+        for (const Control* control : controls) {
+            if (LabelOf(*control) == to) to = control;
+        }
+    }
+    if (!Leaves(window, to)) return true;
+    // The toolkit presses a button by its mnemonic without giving it the focus.
+    if (to->kind == ControlKind::Button) widget->setFocus(Qt::ShortcutFocusReason);
+    return false;
+}
+
+// A wheel that passes over a field changes nothing.
+bool InputFilter::Wheel(FormWindow& window, QObject* object) {
+    const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));
+    if (binder == nullptr) return false;
+    const Control& control = binder->Of();
+    if (control.kind == ControlKind::TabStrip) return true;
+    return control.kind == ControlKind::ComboBox && &control != window.FocusControl();
+}
+
+bool InputFilter::Popup(FormWindow& window, QObject* object, QContextMenuEvent& event) {
+    const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));
+    if (binder == nullptr) return false;
+    Control& control = binder->Of();
+    if (control.kind != ControlKind::ListView && control.kind != ControlKind::TreeView) return false;
+    Event popup{&control.form, &control, EventKind::Popup};
+    host_.DeliverNow(popup);
+    if (popup.menu != nullptr && window.Shown() != nullptr)
+        window.Menus().Open(*popup.menu, event.globalPos());
+    return true;
+}
+
+bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    const Binder* binder = window.BinderOf(widget);
+    if (binder == nullptr) return false;
+    Control& control = binder->Of();
+    Event hover{&control.form, &control, EventKind::Hover, binder->HoverValue(event.pos())};
+    host_.DeliverNow(hover);
+    if (window.Shown() == nullptr) return true;
+    // The rows of a list have tips of their own.
+    if (control.kind == ControlKind::ListView) return false;
+    QToolTip::showText(event.globalPos(), ToQString(control.toolTip), widget);
+    return true;
+}
+
+// A focus that was asked for and isn't given yet is not overwritten by one that the toolkit moves meanwhile.
+void InputFilter::FocusIn(FormWindow& window, QObject* object) {
+    Form* form = window.Shown();
+    const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));
+    if (form == nullptr || binder == nullptr || form->focusRequest) return;
+    form->focus = &binder->Of();
+}
+
+}  // namespace orlo

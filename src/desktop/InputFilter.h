@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+
+class QHelpEvent;
+class QContextMenuEvent;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace orlo {
+
+class DesktopHost;
+class FormWindow;
+struct Control;
+
+// Sees what the user does before any widget does: drops it where no form takes it, asks the field that is
+// about to lose the focus, and turns keys, right clicks and a resting pointer into events. These are the only
+// events that run at once instead of from the queue, since the toolkit has to know the outcome; no widget is
+// in the middle of anything then.
+class InputFilter : public QObject {
+  public:
+    explicit InputFilter(DesktopHost& host) : host_(host) {}
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    bool Press(FormWindow& window, QObject* object, QMouseEvent& event);
+    bool Release(QMouseEvent& event);
+    bool Key(FormWindow& window, QObject* object, QKeyEvent& event);
+    void KeyReleased(FormWindow& window, QObject* object, QKeyEvent& event);
+    bool Shortcut(FormWindow& window, QObject* object);
+    static bool Wheel(FormWindow& window, QObject* object);
+    bool Popup(FormWindow& window, QObject* object, QContextMenuEvent& event);
+    bool Hover(FormWindow& window, QObject* object, QHelpEvent& event);
+    void FocusIn(FormWindow& window, QObject* object);
+    // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.
+    bool Leaves(FormWindow& window, const Control* to);
+
+    DesktopHost& host_;
+    int swallowedButton_ = 0;  // whose release follows a press that was dropped
+};
+
+}  // namespace orlo

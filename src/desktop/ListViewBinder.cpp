@@ -1,0 +1,264 @@
+#include "desktop/ListViewBinder.h"
+
+#include <QFontMetrics>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTimer>
+
+#include "desktop/ScreenText.h"
+
+namespace orlo {
+namespace {
+
+// The toolkit walks all ranges for each cell that it paints.
+constexpr std::size_t kMostRanges = 1000;
+constexpr int kHeaderRoom = 24;
+constexpr int kLeastWidth = 70;
+constexpr int kRowRoom = 4;
+
+// Paints a row as selected where the form says so.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    RowDelegate(QObject* parent, const ListView& list) : QStyledItemDelegate(parent), list_(list) {}
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool selected = index.row() < list_.Count() && list_.Selected(list_.PlaceAt(index.row()));
+        option->state.setFlag(QStyle::State_Selected, selected);
+    }
+
+  private:
+    const ListView& list_;
+};
+
+// Remembers what the user's last act does to the selection.
+class ListTable : public QTableView {
+  public:
+    using QTableView::QTableView;
+    QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
+
+    // The toolkit's own toggles with the key held that calls it.
+    void selectAll() override {
+        if (model() == nullptr || model()->rowCount() == 0 || model()->columnCount() == 0) return;
+        command_ = QItemSelectionModel::ClearAndSelect;
+        const QItemSelection all(model()->index(0, 0),
+                                 model()->index(model()->rowCount() - 1, model()->columnCount() - 1));
+        selectionModel()->select(all, command_);
+    }
+
+  protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override {
+        command_ = QTableView::selectionCommand(index, event);
+        return command_;
+    }
+
+  private:
+    mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
+};
+
+std::vector<PositionRange> RangesOf(const QItemSelection& selection) {
+    std::vector<PositionRange> ranges;
+    ranges.reserve(static_cast<std::size_t>(selection.size()));
+    for (const QItemSelectionRange& range : selection) ranges.push_back({range.top(), range.bottom()});
+    return ranges;
+}
+
+QItemSelection SelectionOf(const QAbstractItemModel& model, const std::vector<PositionRange>& ranges) {
+    QItemSelection selection;
+    const int lastColumn = model.columnCount() - 1;
+    for (const PositionRange& range : ranges) {
+        selection.append(
+            QItemSelectionRange(model.index(range.first, 0), model.index(range.last, lastColumn)));
+    }
+    return selection;
+}
+
+}  // namespace
+
+ListViewBinder::ListViewBinder(ListView& list, QWidget& parent, EventSink& sink)
+    : Binder(list, *new ListTable(&parent), sink),
+      list_(list),
+      shown_(static_cast<QTableView&>(Widget())),
+      model_(list) {
+    shown_.setModel(&model_);
+    shown_.setItemDelegate(new RowDelegate(&shown_, list));
+    shown_.setSelectionBehavior(QAbstractItemView::SelectRows);
+    shown_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    shown_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    shown_.setFocusPolicy(Qt::StrongFocus);
+    shown_.setTabKeyNavigation(false);
+    shown_.setShowGrid(false);
+    shown_.setWordWrap(false);
+    shown_.setCornerButtonEnabled(false);
+    shown_.verticalHeader()->hide();
+    shown_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    shown_.verticalHeader()->setDefaultSectionSize(QFontMetrics(shown_.font()).height() + kRowRoom);
+    shown_.horizontalHeader()->setSectionsClickable(true);
+    shown_.horizontalHeader()->setHighlightSections(false);
+    shown_.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    Connect();
+}
+
+ListViewBinder::~ListViewBinder() {
+    drawing_ = true;
+    shown_.setItemDelegate(nullptr);
+    shown_.setModel(nullptr);
+}
+
+void ListViewBinder::Connect() {
+    const QItemSelectionModel* selection = shown_.selectionModel();
+    QObject::connect(selection, &QItemSelectionModel::selectionChanged, &life,
+                     [this](const QItemSelection& selected, const QItemSelection& deselected) {
+                         if (!drawing_) UserSelects(selected, deselected);
+                     });
+    QObject::connect(selection, &QItemSelectionModel::currentRowChanged, &life,
+                     [this](const QModelIndex& index) {
+                         if (!drawing_) UserMoves(index);
+                     });
+    QObject::connect(&shown_, &QTableView::doubleClicked, &life, [this](const QModelIndex& index) {
+        if (index.row() >= list_.Count()) return;
+        PostSelection();
+        Post(EventKind::DoubleClick, list_.PlaceAt(index.row()));
+    });
+    QObject::connect(shown_.horizontalHeader(), &QHeaderView::sectionClicked, &life,
+                     [this](int column) { Post(EventKind::ClickColumn, column); });
+    QObject::connect(shown_.horizontalHeader(), &QHeaderView::sectionResized, &life,
+                     [this](int column, int, int width) {
+                         const auto place = static_cast<std::size_t>(column);
+                         if (!drawing_ && place < drawnKeys_.size()) widths_[drawnKeys_[place]] = width;
+                     });
+}
+
+void ListViewBinder::DrawContent() {
+    const QScopedValueRollback<bool> drawing(drawing_, true);
+    DrawRows();
+    DrawHeader();
+    DrawSelection();
+    DrawCurrent();
+}
+
+void ListViewBinder::DrawRows() {
+    if (drawnContent_ == list_.contentRevision && drawnOrder_ == list_.orderRevision) return;
+    if (model_.SameSize() && drawnOrder_ == list_.orderRevision) {
+        model_.ContentChanged();
+    } else {
+        const int top = shown_.verticalScrollBar()->value();
+        model_.Reset();
+        shown_.verticalScrollBar()->setValue(top);
+        drawnSelection_ = -1;
+        drawnCurrent_ = -1;
+    }
+    drawnContent_ = list_.contentRevision;
+    drawnOrder_ = list_.orderRevision;
+}
+
+void ListViewBinder::DrawHeader() {
+    std::vector<std::string> keys;
+    for (const ListColumn& column : list_.columns) keys.push_back(column.key);
+    if (keys != drawnKeys_) {
+        drawnKeys_ = keys;
+        const QFontMetrics metrics(shown_.horizontalHeader()->font());
+        for (std::size_t i = 0; i < keys.size(); ++i) {
+            const int needed = metrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom;
+            const auto kept = widths_.find(keys[i]);
+            shown_.setColumnWidth(static_cast<int>(i),
+                                  kept != widths_.end() ? kept->second : std::max(needed, kLeastWidth));
+        }
+    }
+    QHeaderView& header = *shown_.horizontalHeader();
+    const Qt::SortOrder order = list_.ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
+    if (header.isSortIndicatorShown() != list_.sorted) header.setSortIndicatorShown(list_.sorted);
+    if (list_.sorted &&
+        (header.sortIndicatorSection() != list_.sortColumn || header.sortIndicatorOrder() != order)) {
+        header.setSortIndicator(list_.sortColumn, order);
+    }
+}
+
+void ListViewBinder::DrawSelection() {
+    if (drawnSelection_ == list_.selectionRevision) return;
+    drawnSelection_ = list_.selectionRevision;
+    const std::vector<PositionRange> ranges = list_.SelectedRanges();
+    inPieces_ = ranges.size() > kMostRanges;
+    QItemSelectionModel& selection = *shown_.selectionModel();
+    selection.select(inPieces_ ? QItemSelection() : SelectionOf(model_, ranges),
+                     QItemSelectionModel::ClearAndSelect);
+    shown_.viewport()->update();
+}
+
+void ListViewBinder::DrawCurrent() {
+    if (drawnCurrent_ == list_.current) return;
+    drawnCurrent_ = list_.current;
+    const int position = list_.current < 0 ? -1 : list_.PositionOf(list_.current);
+    shown_.selectionModel()->setCurrentIndex(model_.index(position, 0), QItemSelectionModel::NoUpdate);
+}
+
+void ListViewBinder::TakeRequests() {
+    if (!list_.ensureVisibleRequest) return;
+    list_.ensureVisibleRequest = false;
+    const QScopedValueRollback<bool> drawing(drawing_, true);
+    const QModelIndex current = shown_.currentIndex();
+    if (current.isValid()) shown_.scrollTo(current);
+}
+
+void ListViewBinder::UserSelects(const QItemSelection& selected, const QItemSelection& deselected) {
+    if (!Takes(EventKind::SelectRow) || !model_.SameSize()) return GoBack();
+    const auto command = static_cast<ListTable&>(shown_).LastCommand();
+    if (!inPieces_ || command.testFlag(QItemSelectionModel::Clear)) {
+        list_.SelectOnly(RangesOf(shown_.selectionModel()->selection()));
+        inPieces_ = false;
+    } else if (command.testFlag(QItemSelectionModel::Toggle)) {
+        // The toolkit doesn't know whether the rows were selected.
+        Toggle(RangesOf(selected));
+        Toggle(RangesOf(deselected));
+    } else {
+        list_.SelectRanges(RangesOf(deselected), false);
+        list_.SelectRanges(RangesOf(selected), true);
+    }
+    drawnSelection_ = list_.selectionRevision;
+    shown_.viewport()->update();
+    AnnounceSelection();
+}
+
+void ListViewBinder::Toggle(const std::vector<PositionRange>& ranges) {
+    for (const PositionRange& range : ranges) {
+        for (std::int32_t position = range.first; position <= range.last; ++position) {
+            const std::int32_t place = list_.PlaceAt(position);
+            list_.Select(place, !list_.Selected(place));
+        }
+    }
+}
+
+void ListViewBinder::UserMoves(const QModelIndex& index) {
+    if (!Takes(EventKind::SelectRow) || !model_.SameSize()) return GoBack();
+    list_.current = index.isValid() ? list_.PlaceAt(index.row()) : -1;
+    drawnCurrent_ = list_.current;
+    AnnounceSelection();
+}
+
+void ListViewBinder::AnnounceSelection() {
+    if (announced_) return;
+    announced_ = true;
+    QTimer::singleShot(0, &life, [this] { PostSelection(); });
+}
+
+void ListViewBinder::PostSelection() {
+    if (!announced_) return;
+    announced_ = false;
+    Post(EventKind::SelectRow);
+}
+
+// The toolkit is in the middle of a change of its own.
+void ListViewBinder::GoBack() {
+    drawnSelection_ = -1;
+    drawnCurrent_ = -2;
+    QTimer::singleShot(0, &life, [this] {
+        if (list_.form.frozen == 0) Draw();
+    });
+}
+
+}  // namespace orlo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/Control.h"
+
+namespace orlo {
+
+QString ToQString(std::string_view text);
+std::string FromQString(const QString& text);
+
+// Paths are the system's bytes.
+QString PathToQString(const std::string& path);
+std::string PathFromQString(const QString& path);
+
+// Nothing for the window's own text colour.
+std::optional<QColor> ScreenColour(Colour colour);
+
+}  // namespace orlo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QTabBar>
+
+#include "desktop/Binder.h"
+
+namespace orlo {
+
+// The strip alone; the panes are controls of their own.
+class TabStripBinder : public Binder {
+  public:
+    TabStripBinder(TabStrip& tabs, QWidget& parent, EventSink& sink);
+
+  protected:
+    void DrawContent() override;
+    void GoBack() override;
+
+  private:
+    TabStrip& tabs_;
+    QTabBar& shown_;
+};
+
+}  // namespace orlo

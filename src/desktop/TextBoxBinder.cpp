@@ -1,0 +1,89 @@
+#include "desktop/TextBoxBinder.h"
+
+#include <QFontDatabase>
+#include <QSignalBlocker>
+#include <QTextCursor>
+#include <algorithm>
+
+#include "core/Text.h"
+#include "desktop/ScreenText.h"
+
+namespace orlo {
+
+LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
+    : Binder(box, *new QLineEdit(&parent), sink), box_(box), shown_(static_cast<QLineEdit&>(Widget())) {
+    // Not `textChanged`, which a drawing causes too.
+    QObject::connect(&shown_, &QLineEdit::textEdited, &life, [this](const QString& text) {
+        UserActs(EventKind::Change, [&] {
+            box_.text = FromQString(text);
+            text_.Changes(box_.text);
+        });
+    });
+}
+
+void LineBinder::DrawContent() {
+    if (shown_.isReadOnly() != box_.readOnly) shown_.setReadOnly(box_.readOnly);
+    // What the user typed stands in the widget already, so that a drawing never touches it.
+    if (text_.Changes(box_.text)) ShowText();
+}
+
+void LineBinder::GoBack() {
+    ShowText();
+}
+
+// The cursor stays where it was.
+void LineBinder::ShowText() {
+    const int cursor = shown_.cursorPosition();
+    shown_.setText(ToQString(box_.text));
+    shown_.setCursorPosition(std::min(cursor, static_cast<int>(shown_.text().size())));
+}
+
+void LineBinder::TakeRequests() {
+    if (!box_.selectAllRequest) return;
+    box_.selectAllRequest = false;
+    shown_.selectAll();
+}
+
+TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
+    : Binder(box, *new QPlainTextEdit(&parent), sink),
+      box_(box),
+      shown_(static_cast<QPlainTextEdit&>(Widget())) {
+    shown_.setTabChangesFocus(true);
+    if (box.style == TextBoxStyle::FixedFont) {
+        shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        shown_.setLineWrapMode(QPlainTextEdit::NoWrap);
+    }
+    QObject::connect(&shown_, &QPlainTextEdit::textChanged, &life, [this] {
+        UserActs(EventKind::Change, [&] {
+            box_.text = ReplaceAll(FromQString(shown_.toPlainText()), "\n", "\r\n");
+            text_.Changes(box_.text);
+        });
+    });
+}
+
+void TextBinder::DrawContent() {
+    if (shown_.isReadOnly() != box_.readOnly) shown_.setReadOnly(box_.readOnly);
+    if (text_.Changes(box_.text)) ShowText();
+}
+
+void TextBinder::GoBack() {
+    ShowText();
+}
+
+// There is no signal of the user's edits alone.
+void TextBinder::ShowText() {
+    const QSignalBlocker blocker(shown_);
+    const int at = shown_.textCursor().position();
+    shown_.setPlainText(ToQString(RemoveAll(box_.text, '\r')));
+    QTextCursor cursor = shown_.textCursor();
+    cursor.setPosition(std::min(at, shown_.document()->characterCount() - 1));
+    shown_.setTextCursor(cursor);
+}
+
+void TextBinder::TakeRequests() {
+    if (!box_.selectAllRequest) return;
+    box_.selectAllRequest = false;
+    shown_.selectAll();
+}
+
+}  // namespace orlo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "desktop/Binder.h"
+
+namespace orlo {
+
+// A text box of one line.
+class LineBinder : public Binder {
+  public:
+    LineBinder(TextBox& box, QWidget& parent, EventSink& sink);
+    void TakeRequests() override;
+
+  protected:
+    void DrawContent() override;
+    void GoBack() override;
+
+  private:
+    void ShowText();
+
+    TextBox& box_;
+    QLineEdit& shown_;
+    DrawnText text_;
+};
+
+// A text box of many lines, whose ends are CR LF in the form.
+class TextBinder : public Binder {
+  public:
+    TextBinder(TextBox& box, QWidget& parent, EventSink& sink);
+    void TakeRequests() override;
+
+  protected:
+    void DrawContent() override;
+    void GoBack() override;
+
+  private:
+    void ShowText();
+
+    TextBox& box_;
+    QPlainTextEdit& shown_;
+    DrawnText text_;
+};
+
+}  // namespace orlo

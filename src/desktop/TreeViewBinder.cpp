@@ -1,0 +1,82 @@
+#include "desktop/TreeViewBinder.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace orlo {
+
+TreeViewBinder::TreeViewBinder(TreeView& tree, QWidget& parent, EventSink& sink)
+    : Binder(tree, *new QTreeView(&parent), sink),
+      tree_(tree),
+      shown_(static_cast<QTreeView&>(Widget())),
+      model_(tree, [this](std::int32_t node) {
+          UserActs(
+              EventKind::CheckNode, [&] { tree_.At(node).checked = !tree_.At(node).checked; }, node);
+      }) {
+    shown_.setModel(&model_);
+    shown_.setUniformRowHeights(true);
+    shown_.setHeaderHidden(true);
+    shown_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    shown_.setFocusPolicy(Qt::StrongFocus);
+    QObject::connect(shown_.selectionModel(), &QItemSelectionModel::currentChanged, &life,
+                     [this](const QModelIndex& index) {
+                         const std::int32_t place = TreeModel::PlaceOf(index);
+                         if (drawing_ || place >= tree_.Count()) return;
+                         tree_.current = drawnCurrent_ = place;
+                     });
+    QObject::connect(&shown_, &QTreeView::expanded, &life,
+                     [this](const QModelIndex& index) { NoteOpen(index, true); });
+    QObject::connect(&shown_, &QTreeView::collapsed, &life,
+                     [this](const QModelIndex& index) { NoteOpen(index, false); });
+}
+
+TreeViewBinder::~TreeViewBinder() {
+    drawing_ = true;
+    shown_.setModel(nullptr);
+}
+
+void TreeViewBinder::NoteOpen(const QModelIndex& index, bool open) {
+    const std::int32_t place = TreeModel::PlaceOf(index);
+    if (drawing_ || place < 0 || place >= tree_.Count()) return;
+    if (open) {
+        openKeys_.insert(tree_.At(place).key);
+    } else {
+        openKeys_.erase(tree_.At(place).key);
+    }
+}
+
+void TreeViewBinder::DrawContent() {
+    const QScopedValueRollback<bool> drawing(drawing_, true);
+    if (drawnContent_ != tree_.contentRevision) {
+        const int top = shown_.verticalScrollBar()->value();
+        model_.Reset();
+        OpenKeptNodes();
+        shown_.verticalScrollBar()->setValue(top);
+        drawnCurrent_ = -1;
+    } else if (drawnState_ != tree_.stateRevision) {
+        model_.StateChanged();
+        shown_.viewport()->update();
+    }
+    drawnContent_ = tree_.contentRevision;
+    drawnState_ = tree_.stateRevision;
+    if (drawnCurrent_ != tree_.current) {
+        drawnCurrent_ = tree_.current;
+        shown_.setCurrentIndex(model_.IndexOf(tree_.current));
+    }
+}
+
+void TreeViewBinder::OpenKeptNodes() {
+    for (const std::string& key : openKeys_) {
+        const std::int32_t place = tree_.Find(key);
+        if (place >= 0) shown_.setExpanded(model_.IndexOf(place), true);
+    }
+}
+
+std::int32_t TreeViewBinder::HoverValue(const QPoint& place) const {
+    const std::int32_t node = TreeModel::PlaceOf(shown_.indexAt(place));
+    return node < tree_.Count() ? node : -1;
+}
+
+}  // namespace orlo

@@ -1,0 +1,210 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QWindow>
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/Text.h"
+#include "desktop/DesktopHost.h"
+#include "desktop/FormWindow.h"
+#include "shell/Program.h"
+#include "support/FakeHosts.h"
+
+namespace orlo::test {
+
+// One control of each type, and what ran on them.
+struct SampleForm : Form {
+    explicit SampleForm(std::string_view nameOf = "frmSample") : Form(nameOf, "Sample") {
+        lvRows.AddColumn("A", "First");
+        lvRows.AddColumn("B", "Second");
+        for (const std::string_view text : {"Alpha", "Beta", "Gamma"}) cmZone.Add(text);
+        cmZone.index = 0;
+        opFirst.checked = true;
+        tabViews.pages = {{"ONE", "One"}, {"TWO", "Two"}};
+        tabViews.selectedKey = "ONE";
+        mnuTick.checkable = true;
+        mnuSelect.popup = true;
+        defaultButton = &cmdGo;
+        cancelButton = &cmdStop;
+        const std::int32_t group = tvNodes.Add(-1, "#G", "Group", Colour::WindowText);
+        tvNodes.Add(group, "one", "One", Colour::Blue);
+        tvNodes.Add(group, "two", "Two", Colour::Red);
+    }
+
+    MenuEntry mnuFile{*this, "mnuFile", "&File"};
+    MenuEntry mnuTick{mnuFile, "mnuTick", "&Tick"};
+    MenuEntry mnuSelect{*this, "mnuSelect", "Select"};
+    MenuEntry mnuSelectAll{mnuSelect, "mnuSelectAll", "Select &all"};
+    TabStrip tabViews{*this, "tabViews"};
+    Label lblName{*this, "lblName", "&Name"};
+    TextBox txtName{*this, "txtName"};
+    Label lblOther{*this, "lblOther", "Othe&r"};
+    TextBox txtOther{*this, "txtOther"};
+    TextBox txtNotes{*this, "txtNotes", TextBoxStyle::MultiLine};
+    Label lblZone{*this, "lblZone", "&Zone"};
+    ComboBox cmZone{*this, "cmZone"};
+    CheckBox ckSwitch{*this, "ckSwitch", "S&witch"};
+    Frame frChoice{*this, "frChoice", "Choice"};
+    OptionButton opFirst{frChoice, "opFirst", "F&irst"};
+    OptionButton opSecond{frChoice, "opSecond", "Se&cond"};
+    ListView lvRows{*this, "lvRows"};
+    TreeView tvNodes{*this, "tvNodes"};
+    Button cmdGo{*this, "cmdGo", "&Go"};
+    Button cmdStop{*this, "cmdStop", "&Stop"};
+    StatusBar sbState{*this, "sbState"};
+
+    std::vector<std::string> ran;  // "Click cmdGo" in the order of running
+    std::map<std::string, std::function<void(Context&, Event&)>> on;
+
+    // How often it ran.
+    int Ran(std::string_view what) const {
+        return static_cast<int>(std::count(ran.begin(), ran.end(), std::string(what)));
+    }
+};
+
+template <EventKind Kind>
+constexpr std::string_view kKindName = "?";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Click> = "Click";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Change> = "Change";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Leave> = "Leave";
+template <>
+inline constexpr std::string_view kKindName<EventKind::SelectTab> = "SelectTab";
+template <>
+inline constexpr std::string_view kKindName<EventKind::CheckNode> = "CheckNode";
+template <>
+inline constexpr std::string_view kKindName<EventKind::SelectRow> = "SelectRow";
+template <>
+inline constexpr std::string_view kKindName<EventKind::DoubleClick> = "DoubleClick";
+template <>
+inline constexpr std::string_view kKindName<EventKind::ClickColumn> = "ClickColumn";
+template <>
+inline constexpr std::string_view kKindName<EventKind::KeyUp> = "KeyUp";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Popup> = "Popup";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Hover> = "Hover";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Close> = "Close";
+
+// Notes the event and runs what the test wants to run.
+template <EventKind Kind>
+void Note(Context& context, Event& event) {
+    auto& form = static_cast<SampleForm&>(*event.form);
+    const std::string what =
+        Concat(kKindName<Kind>, " ", event.control != nullptr ? event.control->name : "form");
+    form.ran.push_back(what);
+    const auto found = form.on.find(what);
+    if (found != form.on.end()) found->second(context, event);
+}
+
+template <EventKind Kind>
+constexpr EventEntry Noted(std::string_view control) {
+    return {control, Kind, Note<Kind>};
+}
+
+inline EventTable SampleEvents() {
+    using enum EventKind;
+    static constexpr std::array kEvents = {
+        Noted<Close>(""),
+        Noted<Click>("mnuTick"),
+        Noted<Click>("mnuSelectAll"),
+        Noted<SelectTab>("tabViews"),
+        Noted<Change>("txtName"),
+        Noted<Leave>("txtName"),
+        Noted<KeyUp>("txtName"),
+        Noted<Change>("txtOther"),
+        Noted<Change>("txtNotes"),
+        Noted<Change>("cmZone"),
+        Noted<Click>("ckSwitch"),
+        Noted<Click>("opFirst"),
+        Noted<Click>("opSecond"),
+        Noted<SelectRow>("lvRows"),
+        Noted<DoubleClick>("lvRows"),
+        Noted<ClickColumn>("lvRows"),
+        Noted<Popup>("lvRows"),
+        Noted<KeyUp>("lvRows"),
+        Noted<CheckNode>("tvNodes"),
+        Noted<Hover>("tvNodes"),
+        Noted<Click>("cmdGo"),
+        Noted<Click>("cmdStop"),
+    };
+    return kEvents;
+}
+
+// A small program behind the desktop front end, with one form open.
+struct DesktopProgram {
+    FakeWorld world;
+    DesktopHost host;
+    Services services{world.files,  world.userSettings, world.machineSettings, host, host, host,
+                      world.random, world.clock};
+    Program program{services, "/program"};
+    Context& context = program.context;
+    SampleForm form;
+
+    DesktopProgram() {
+        host.Attach(program.pump, program.forms.frmProgress);
+        program.pump.AddTable(form, SampleEvents());
+        form.box = {0, 0, 600, 760};
+        host.ShowForm(form);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(form)));
+        Settle();
+        form.ran.clear();
+    }
+    ~DesktopProgram() { host.Detach(); }
+
+    // Lets events run until what was posted has run and is drawn.
+    static void Settle() { QTest::qWait(60); }
+
+    // Draws what the test itself has written into the form.
+    void CatchUp() { host.CatchUp(WindowOf(form)); }
+
+    static FormWindow& WindowOf(const Form& of) {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* window = dynamic_cast<FormWindow*>(widget);
+            if (window != nullptr && window->Shown() == &of) return *window;
+        }
+        throw std::runtime_error("no window of that form");
+    }
+    template <typename Widget>
+    static Widget& Find(const Control& control) {
+        auto* found = WindowOf(control.form).findChild<Widget*>(QString::fromStdString(control.name));
+        if (found == nullptr) throw std::runtime_error("no widget of that control");
+        return *found;
+    }
+
+    // By way of the system's window, as a real mouse and keyboard do.
+    static void ClickAt(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,
+                        Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        QWidget* window = widget.window();
+        QTest::mouseClick(window->windowHandle(), button, keys, widget.mapTo(window, place));
+    }
+    static void Click(const Control& control) {
+        auto& widget = Find<QWidget>(control);
+        // Left, where the marks of boxes are.
+        ClickAt(widget, QPoint(8, widget.height() / 2));
+    }
+    static void Key(const Form& of, Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        QTest::keyClick(WindowOf(of).windowHandle(), key, keys);
+    }
+    static void Type(const Form& of, std::string_view text) {
+        for (const char character : text) QTest::keyClick(WindowOf(of).windowHandle(), character);
+    }
+    void Focus(Control& control) {
+        Find<QWidget>(control).setFocus();
+        EXPECT_EQ(form.focus, &control);
+    }
+};
+
+}  // namespace orlo::test

@@ -1,0 +1,357 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTreeView>
+
+#include "qt/DesktopProgram.h"
+
+namespace orlo {
+namespace {
+
+using test::DesktopProgram;
+using test::SampleForm;
+
+constexpr std::int32_t kManyRows = 1000000;
+
+void AddRows(ListView& list, std::int32_t count) {
+    list.Reserve(count);
+    for (std::int32_t i = 0; i < count; ++i)
+        list.Add({"", "", "", Colour::WindowText, {std::to_string(i), "b"}});
+}
+
+QPoint RowPlace(const QTableView& table, int row) {
+    return table.viewport()->mapTo(&table, table.visualRect(table.model()->index(row, 0)).center());
+}
+
+TEST(Binders, AChangeByCodeIsDrawnAndFiresNoHandler) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, 3);
+    desktop.CatchUp();
+    form.caption = "Other";
+    form.lblName.caption = "&Names";
+    form.txtName.text = form.txtNotes.text = "text";
+    form.ckSwitch.checked = true;
+    form.opSecond.Check();
+    form.cmZone.index = 2;
+    form.tabViews.selectedKey = "TWO";
+    form.mnuTick.checked = true;
+    form.lvRows.SelectAll(true);
+    form.lvRows.current = form.lvRows.PlaceAt(2);
+    form.tvNodes.At(1).checked = true;
+    form.tvNodes.current = 0;
+    ++form.tvNodes.stateRevision;
+    form.cmdGo.enabled = false;
+    form.sbState.text = "state";
+    form.SetFocus(form.lvRows);
+    desktop.CatchUp();
+    EXPECT_EQ(desktop.WindowOf(form).windowTitle(), "Other");
+    EXPECT_EQ(desktop.Find<QLabel>(form.lblName).text(), "&Names");
+    EXPECT_TRUE(desktop.Find<QCheckBox>(form.ckSwitch).isChecked());
+    EXPECT_FALSE(desktop.Find<QRadioButton>(form.opFirst).isChecked());
+    EXPECT_TRUE(desktop.Find<QRadioButton>(form.opSecond).isChecked());
+    EXPECT_EQ(desktop.Find<QComboBox>(form.cmZone).currentText(), "Gamma");
+    EXPECT_EQ(desktop.Find<QTabBar>(form.tabViews).currentIndex(), 1);
+    EXPECT_TRUE(desktop.WindowOf(form).findChild<QAction*>("mnuTick")->isChecked());
+    EXPECT_EQ(desktop.Find<QTableView>(form.lvRows).currentIndex().row(), 2);
+    EXPECT_FALSE(desktop.Find<QWidget>(form.cmdGo).isEnabled());
+    EXPECT_EQ(desktop.Find<QLabel>(form.sbState).text(), "state");
+
+    form.cmZone.Clear();
+    form.cmZone.Add("Delta");
+    form.tabViews.pages.pop_back();
+    form.tabViews.selectedKey = "ONE";
+    form.lvRows.Clear();
+    form.tvNodes.Clear();
+    desktop.CatchUp();
+    DesktopProgram::Settle();
+    EXPECT_EQ(desktop.Find<QComboBox>(form.cmZone).count(), 1);
+    EXPECT_EQ(desktop.Find<QComboBox>(form.cmZone).currentIndex(), -1);
+    EXPECT_EQ(desktop.Find<QTabBar>(form.tabViews).count(), 1);
+    EXPECT_EQ(desktop.Find<QTableView>(form.lvRows).model()->rowCount(), 0);
+    EXPECT_EQ(form.ran, std::vector<std::string>{});
+}
+
+// An act of the user's, its event, and what the form says when the event runs.
+struct Act {
+    const char* event;
+    std::function<void(DesktopProgram&)> act;
+    std::function<bool(const SampleForm&)> written;
+};
+
+TEST(Binders, AnActOfTheUserWritesTheFormAndThenRunsItsHandlerOnce) {
+    const std::vector<Act> acts = {
+        {"Click cmdGo", [](DesktopProgram& d) { d.Click(d.form.cmdGo); },
+         [](const SampleForm&) { return true; }},
+        {"Click ckSwitch", [](DesktopProgram& d) { d.Click(d.form.ckSwitch); },
+         [](const SampleForm& form) { return form.ckSwitch.checked; }},
+        {"Click opSecond", [](DesktopProgram& d) { d.Click(d.form.opSecond); },
+         [](const SampleForm& form) { return form.opSecond.checked && !form.opFirst.checked; }},
+        {"Click opFirst", [](DesktopProgram& d) { d.Click(d.form.opFirst); },
+         [](const SampleForm& form) { return form.opFirst.checked && !form.opSecond.checked; }},
+        {"Change cmZone",
+         [](DesktopProgram& d) {
+             d.Focus(d.form.cmZone);
+             d.Key(d.form, Qt::Key_Down);
+         },
+         [](const SampleForm& form) { return form.cmZone.index == 1; }},
+        {"SelectTab tabViews",
+         [](DesktopProgram& d) {
+             auto& tabs = d.Find<QTabBar>(d.form.tabViews);
+             d.ClickAt(tabs, tabs.tabRect(1).center());
+         },
+         [](const SampleForm& form) { return form.tabViews.selectedKey == "TWO"; }},
+        // The check mark of a menu entry is the procedure's to turn.
+        {"Click mnuTick",
+         [](DesktopProgram& d) { d.WindowOf(d.form).findChild<QAction*>("mnuTick")->trigger(); },
+         [](const SampleForm& form) { return !form.mnuTick.checked; }},
+        {"CheckNode tvNodes",
+         [](DesktopProgram& d) {
+             auto& tree = d.Find<QTreeView>(d.form.tvNodes);
+             d.Focus(d.form.tvNodes);
+             tree.expandAll();
+             tree.setCurrentIndex(tree.model()->index(1, 0, tree.model()->index(0, 0)));
+             d.Key(d.form, Qt::Key_Space);
+         },
+         [](const SampleForm& form) {
+             return form.tvNodes.At(2).checked && !form.tvNodes.At(1).checked && form.tvNodes.current == 2;
+         }},
+        {"SelectRow lvRows",
+         [](DesktopProgram& d) {
+             auto& table = d.Find<QTableView>(d.form.lvRows);
+             d.ClickAt(table, RowPlace(table, 1));
+         },
+         [](const SampleForm& form) {
+             return form.lvRows.current == 1 && form.lvRows.SelectedPlaces() == std::vector{1};
+         }},
+        {"ClickColumn lvRows",
+         [](DesktopProgram& d) {
+             auto& table = d.Find<QTableView>(d.form.lvRows);
+             d.ClickAt(table, QPoint(table.columnWidth(0) + 20, 10));
+         },
+         [](const SampleForm& form) { return !form.lvRows.sorted; }},
+        {"KeyUp lvRows",
+         [](DesktopProgram& d) {
+             d.Focus(d.form.lvRows);
+             d.Key(d.form, Qt::Key_Delete);
+         },
+         [](const SampleForm&) { return true; }},
+    };
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, 3);
+    desktop.CatchUp();
+    for (const Act& act : acts) {
+        SCOPED_TRACE(act.event);
+        bool written = false;
+        form.ran.clear();
+        form.on[act.event] = [&](Context&, Event&) { written = act.written(form); };
+        act.act(desktop);
+        DesktopProgram::Settle();
+        EXPECT_EQ(form.ran, std::vector<std::string>{act.event});
+        EXPECT_TRUE(written);
+    }
+    EXPECT_FALSE(desktop.WindowOf(form).findChild<QAction*>("mnuTick")->isChecked());
+}
+
+TEST(Binders, ADoubleClickComesBehindItsSelection) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, 5);
+    desktop.CatchUp();
+    auto& table = desktop.Find<QTableView>(form.lvRows);
+    std::int32_t row = -1;
+    form.on["DoubleClick lvRows"] = [&](Context&, Event& event) { row = event.value; };
+    const QPoint place = table.mapTo(table.window(), RowPlace(table, 3));
+    QTest::mouseClick(table.window()->windowHandle(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(table.window()->windowHandle(), Qt::LeftButton, {}, place);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.ran, (std::vector<std::string>{"SelectRow lvRows", "DoubleClick lvRows"}));
+    EXPECT_EQ(row, form.lvRows.PlaceAt(3));
+}
+
+TEST(Binders, AMillionRowsAreSelectedAsOneRange) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, kManyRows);
+    desktop.CatchUp();
+    auto& table = desktop.Find<QTableView>(form.lvRows);
+    EXPECT_EQ(table.model()->index(kManyRows - 1, 0).data().toString(),
+              std::to_string(kManyRows - 1).c_str());
+    desktop.Focus(form.lvRows);
+    desktop.Key(form, Qt::Key_A, Qt::ControlModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("SelectRow lvRows"), 1);
+    EXPECT_EQ(form.lvRows.SelectedPlaces().size(), static_cast<std::size_t>(kManyRows));
+    EXPECT_EQ(table.selectionModel()->selection().size(), 1);
+
+    form.ran.clear();
+    form.lvRows.SelectAll(false);
+    desktop.CatchUp();
+    EXPECT_TRUE(table.selectionModel()->selection().isEmpty());
+    form.lvRows.SelectAll(true);
+    desktop.CatchUp();
+    EXPECT_EQ(table.selectionModel()->selection().size(), 1);
+
+    // Sorting keeps the selection, the current row and the place in view that is asked for.
+    form.lvRows.SelectAll(false);
+    form.lvRows.current = form.lvRows.PlaceAt(kManyRows - 1);
+    form.lvRows.Select(form.lvRows.current, true);
+    form.lvRows.SortByColumn(0);
+    form.lvRows.ensureVisibleRequest = true;
+    desktop.CatchUp();
+    EXPECT_EQ(table.currentIndex().data().toString(), std::to_string(kManyRows - 1).c_str());
+    EXPECT_TRUE(table.viewport()->rect().intersects(table.visualRect(table.currentIndex())));
+    EXPECT_EQ(table.selectionModel()->selection().front().top(), table.currentIndex().row());
+    EXPECT_FALSE(form.lvRows.ensureVisibleRequest);
+    EXPECT_TRUE(form.ran.empty());
+}
+
+// Every other row of many is half a million ranges, which the toolkit can't hold.
+TEST(Binders, ASelectionInPiecesIsKeptByTheForm) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, 100000);
+    const auto selectEveryOther = [&] {
+        for (std::int32_t i = 0; i < form.lvRows.Count(); ++i) form.lvRows.Select(i, i % 2 == 1);
+        desktop.CatchUp();
+    };
+    selectEveryOther();
+    auto& table = desktop.Find<QTableView>(form.lvRows);
+    desktop.ClickAt(table, RowPlace(table, 2), Qt::LeftButton, Qt::ControlModifier);
+    DesktopProgram::Settle();
+    EXPECT_TRUE(form.lvRows.Selected(2));
+    EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 50001u);
+    for (const bool on : {false, true}) {
+        desktop.ClickAt(table, RowPlace(table, 1), Qt::LeftButton, Qt::ControlModifier);
+        DesktopProgram::Settle();
+        EXPECT_EQ(form.lvRows.Selected(1), on);
+    }
+    desktop.ClickAt(table, RowPlace(table, 4));
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.lvRows.SelectedPlaces(), std::vector{4});
+    selectEveryOther();
+    desktop.ClickAt(table, RowPlace(table, 0));
+    desktop.ClickAt(table, RowPlace(table, 3), Qt::LeftButton, Qt::ShiftModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.lvRows.SelectedPlaces(), (std::vector{0, 1, 2, 3}));
+    selectEveryOther();
+    desktop.Key(form, Qt::Key_A, Qt::ControlModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 100000u);
+}
+
+TEST(Binders, RangesOfAListAreThoseOfItsDisplayedOrder) {
+    SampleForm form;
+    ListView& list = form.lvRows;
+    for (const char* text : {"d", "b", "a", "c"}) list.Add({"", "", "", Colour::WindowText, {text}});
+    list.SortByColumn(0);
+    const std::vector<PositionRange> ranges = {{-3, 0}, {2, 9}};
+    list.SelectOnly(ranges);
+    EXPECT_EQ(list.SelectedPlaces(), (std::vector{2, 3, 0}));
+    ASSERT_EQ(list.SelectedRanges().size(), 2u);
+    EXPECT_EQ(list.SelectedRanges()[1].first, 2);
+    EXPECT_EQ(list.SelectedRanges()[1].last, 3);
+    list.Clear();
+    EXPECT_TRUE(list.SelectedRanges().empty());
+}
+
+TEST(Binders, ATreeShowsChecksGroupsAndColours) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    TreeView& tree = form.tvNodes;
+    auto& shown = desktop.Find<QTreeView>(tree);
+    const QModelIndex group = shown.model()->index(0, 0);
+    const auto check = [&](std::int32_t) {
+        return shown.model()->index(0, 0).data(Qt::CheckStateRole).toInt();
+    };
+    EXPECT_EQ(check(0), Qt::Unchecked);
+    EXPECT_FALSE(group.data(Qt::ForegroundRole).isValid());
+    tree.At(0).colour = Colour::Gray;
+    ++tree.stateRevision;
+    desktop.CatchUp();
+    EXPECT_EQ(check(0), Qt::PartiallyChecked);
+    EXPECT_EQ(group.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0x70, 0x70, 0x70));
+    EXPECT_EQ(shown.model()->index(0, 0, group).data(Qt::ForegroundRole).value<QBrush>().color(),
+              QColor(Qt::blue));
+    EXPECT_EQ(shown.model()->index(1, 0, group).data(Qt::ForegroundRole).value<QBrush>().color(),
+              QColor(Qt::red));
+
+    // A partly checked group is unchecked: the first click checks it.
+    desktop.Focus(form.tvNodes);
+    shown.setCurrentIndex(group);
+    desktop.Key(form, Qt::Key_Space);
+    EXPECT_TRUE(tree.At(0).checked);
+
+    // Nodes that are filled anew stay open by key; the old shape is never asked of the new nodes.
+    shown.expand(group);
+    tree.Clear();
+    shown.viewport()->repaint();
+    EXPECT_FALSE(shown.model()->index(1, 0, shown.model()->index(0, 0)).data().isValid());
+    tree.Add(-1, "#A", "A", Colour::WindowText);
+    tree.Add(tree.Add(-1, "#G", "Group", Colour::WindowText), "x", "X", Colour::Blue);
+    desktop.CatchUp();
+    EXPECT_FALSE(shown.isExpanded(shown.model()->index(0, 0)));
+    EXPECT_TRUE(shown.isExpanded(shown.model()->index(1, 0)));
+    EXPECT_TRUE(form.Ran("CheckNode tvNodes") == 1);
+}
+
+TEST(Binders, TipsAndPopUpMenusAskTheirProcedures) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    AddRows(form.lvRows, 1);
+    desktop.CatchUp();
+    form.on["Popup lvRows"] = [&](Context&, Event& event) { event.menu = &form.mnuSelect; };
+    auto& table = desktop.Find<QTableView>(form.lvRows);
+    QContextMenuEvent ask(QContextMenuEvent::Mouse, QPoint(5, 5), table.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(table.viewport(), &ask);
+    auto* menu = desktop.WindowOf(form).findChild<QMenu*>("mnuSelectMenu");
+    ASSERT_TRUE(menu->isVisible());
+    QTest::keyClick(menu, Qt::Key_A);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("Click mnuSelectAll"), 1);
+
+    std::vector<std::int32_t> nodes;
+    form.on["Hover tvNodes"] = [&](Context&, Event& event) { nodes.push_back(event.value); };
+    auto& tree = desktop.Find<QTreeView>(form.tvNodes);
+    for (const QPoint place : {tree.visualRect(tree.model()->index(0, 0)).center(), QPoint(5, 90)}) {
+        QHelpEvent rest(QEvent::ToolTip, place, tree.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(tree.viewport(), &rest);
+    }
+    EXPECT_EQ(nodes, (std::vector{0, -1}));
+}
+
+TEST(Binders, EveryControlOfTheKnownFormsHasItsWidgetNameAndBuddy) {
+    DesktopProgram desktop;
+    Forms& forms = desktop.program.forms;
+    for (Form* form : {static_cast<Form*>(&forms.frmMain), static_cast<Form*>(&forms.frmAbout)}) {
+        desktop.host.ShowForm(*form);
+        FormWindow& window = desktop.WindowOf(*form);
+        for (const Control* control : form->Controls()) {
+            SCOPED_TRACE(control->name);
+            const QString name = QString::fromStdString(control->name);
+            if (control->kind == ControlKind::MenuEntry) {
+                EXPECT_NE(window.findChild<QAction*>(name), nullptr);
+                continue;
+            }
+            const auto* widget = window.findChild<QWidget*>(name);
+            ASSERT_NE(widget, nullptr);
+            EXPECT_EQ(widget->isVisibleTo(&window), control->EffectivelyVisible());
+            EXPECT_EQ(widget->isEnabled(), control->EffectivelyEnabled());
+            if (const Label* label = LabelOf(*control)) {
+                EXPECT_EQ(window.findChild<QLabel*>(QString::fromStdString(label->name))->buddy(), widget);
+            }
+        }
+        desktop.host.UnloadForm(*form);
+    }
+}
+
+}  // namespace
+}  // namespace orlo

@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableView>
+
+#include "mainwindow/BulkOperation.h"
+#include "qt/DesktopProgram.h"
+
+namespace orlo {
+namespace {
+
+using test::DesktopProgram;
+using test::SampleForm;
+
+// Runs in the loop that waits for the user, as a user's act would.
+void Later(std::function<void()> act) {
+    QTimer::singleShot(50, std::move(act));
+}
+
+TEST(Operations, WhatTheUserDoesWhileEventsRunIsDroppedTheCloseBoxIncluded) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        form.enabled = false;
+        context.services.windows.ProcessEvents();
+        desktop.Click(form.cmdStop);
+        desktop.Click(form.ckSwitch);
+        desktop.WindowOf(form).close();
+        desktop.Find<QCheckBox>(form.ckSwitch).click();
+        context.services.windows.ProcessEvents();
+        form.enabled = true;
+        // Not disabled, and yet an operation runs.
+        desktop.Click(form.cmdStop);
+        desktop.WindowOf(form).close();
+        context.services.windows.ProcessEvents();
+        // Not kept for afterwards.
+        desktop.host.Post({&form, &form.cmdStop, EventKind::Click});
+    };
+    desktop.Click(form.cmdGo);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
+    EXPECT_EQ(form.focus, &form.cmdGo);
+    EXPECT_FALSE(form.ckSwitch.checked);
+    EXPECT_FALSE(desktop.Find<QCheckBox>(form.ckSwitch).isChecked());
+    desktop.Click(form.cmdStop);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("Click cmdStop"), 1);
+}
+
+TEST(Operations, ADisabledWindowStillClosesWhereNoOperationRuns) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    form.enabled = false;
+    desktop.Click(form.cmdGo);
+    desktop.WindowOf(form).close();
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.ran, std::vector<std::string>{"Close form"});
+    // The procedure decides.
+    EXPECT_TRUE(desktop.WindowOf(form).isVisible());
+    form.on["Close form"] = [&](Context&, Event&) { form.closeRequest = true; };
+    Later([&] { desktop.WindowOf(form).close(); });
+    desktop.host.RunUntilClosed(form);
+    EXPECT_EQ(form.Ran("Close form"), 2);
+}
+
+TEST(Operations, AModalFormInsideAnOperationTakesItsEventsAlone) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    SampleForm dialog("frmDialog");
+    desktop.program.pump.AddTable(dialog, test::SampleEvents());
+    dialog.on["Click cmdGo"] = [&](Context& context, Event&) {
+        // An operation of the dialog's own: its form still takes events.
+        desktop.Click(dialog.ckSwitch);
+        desktop.Click(form.ckSwitch);
+        context.services.windows.ProcessEvents();
+    };
+    dialog.on["Click cmdStop"] = [&](Context&, Event&) { dialog.closeRequest = true; };
+    bool returned = false;
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        form.enabled = false;
+        Later([&] {
+            desktop.Click(form.ckSwitch);
+            desktop.WindowOf(form).close();
+            desktop.Type(dialog, "a");
+            desktop.Click(dialog.cmdGo);
+            DesktopProgram::Settle();
+            desktop.Key(dialog, Qt::Key_Escape);
+        });
+        context.services.windows.ShowModal(dialog, &form);
+        returned = true;
+        EXPECT_FALSE(dialog.closeRequest);
+        EXPECT_FALSE(dialog.visible);
+        form.enabled = true;
+        context.services.windows.ProcessEvents();
+        desktop.Click(form.cmdStop);
+    };
+    desktop.Click(form.cmdGo);
+    DesktopProgram::Settle();
+    EXPECT_TRUE(returned);
+    EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
+    EXPECT_EQ(dialog.ran, (std::vector<std::string>{"Click cmdGo", "Click ckSwitch", "Click cmdStop"}));
+    EXPECT_TRUE(dialog.ckSwitch.checked);
+    EXPECT_FALSE(form.ckSwitch.checked);
+}
+
+TEST(Operations, ModalFormsUnwindFromTheTop) {
+    DesktopProgram desktop;
+    SampleForm outer("frmOuter");
+    SampleForm inner("frmInner");
+    desktop.program.pump.AddTable(outer, test::SampleEvents());
+    std::vector<std::string> closed;
+    outer.on["Click cmdGo"] = [&](Context& context, Event&) {
+        Later([&] {
+            // Asked for while the other one stands above it.
+            outer.closeRequest = true;
+            desktop.WindowOf(outer).close();
+            DesktopProgram::Settle();
+            closed.push_back("asked");
+            // A form without a procedure for its close box closes by it.
+            desktop.WindowOf(inner).close();
+        });
+        context.services.windows.ShowModal(inner, &outer);
+        closed.push_back("inner");
+    };
+    Later([&] { desktop.Click(outer.cmdGo); });
+    desktop.host.ShowModal(outer, &desktop.form);
+    closed.push_back("outer");
+    EXPECT_EQ(closed, (std::vector<std::string>{"asked", "inner", "outer"}));
+    EXPECT_EQ(outer.ran, std::vector<std::string>{"Click cmdGo"});
+    desktop.Click(desktop.form.cmdGo);
+    DesktopProgram::Settle();
+    EXPECT_EQ(desktop.form.Ran("Click cmdGo"), 1);
+}
+
+TEST(Operations, AMessageAnswersAndTakesNoOtherEventsMeanwhile) {
+    struct Case {
+        const char* name;
+        int flags;
+        QMessageBox::StandardButton press;
+        MessageAnswer answer;
+        QMessageBox::StandardButton standard;
+    };
+    const std::vector<Case> cases = {
+        {"ok", kButtonsOk | kMarkCritical, QMessageBox::Ok, MessageAnswer::Ok, QMessageBox::Ok},
+        {"yes", kButtonsYesNo | kMarkQuestion, QMessageBox::Yes, MessageAnswer::Yes, QMessageBox::Yes},
+        {"no", kButtonsYesNo | kDefaultSecondButton, QMessageBox::No, MessageAnswer::No, QMessageBox::No},
+        {"cancel", kButtonsYesNoCancel, QMessageBox::Cancel, MessageAnswer::Cancel, QMessageBox::Yes},
+    };
+    for (const Case& which : cases) {
+        SCOPED_TRACE(which.name);
+        DesktopProgram desktop;
+        SampleForm& form = desktop.form;
+        MessageAnswer answer = MessageAnswer::None;
+        QMessageBox::StandardButton standard = QMessageBox::NoButton;
+        form.on["Click cmdGo"] = [&](Context& context, Event&) {
+            Later([&] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                ASSERT_NE(box, nullptr);
+                standard = box->standardButton(qobject_cast<QPushButton*>(box->focusWidget()));
+                desktop.Click(form.ckSwitch);
+                desktop.WindowOf(form).close();
+                box->button(which.press)->click();
+            });
+            answer = context.services.messages.ShowMessage("Text & more", which.flags, "Orlo", &form);
+        };
+        desktop.Click(form.cmdGo);
+        // Posted before the message stands, and dropped when it does.
+        desktop.host.Post({&form, &form.cmdStop, EventKind::Click});
+        QTest::qWait(150);
+        EXPECT_EQ(answer, which.answer);
+        EXPECT_EQ(standard, which.standard);
+        EXPECT_EQ(form.Ran("Click ckSwitch"), 0);
+        EXPECT_EQ(form.Ran("Close form"), 0);
+    }
+    DesktopProgram desktop;
+    EXPECT_EQ(desktop.host.ShowMessage("  ", kMarkCritical, "Orlo", nullptr), MessageAnswer::None);
+}
+
+TEST(Operations, ProgressIsDrawnWhileAnOperationRunsAndTimersFire) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    std::vector<std::string> seen;
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        form.pointer = PointerShape::Hourglass;
+        context.services.windows.StartTimer("tmrSplash", 1);
+        ProgressHost& progress = context.services.progress;
+        progress.SetText("Reading...");
+        progress.SetMax(4);
+        progress.SetValue(1);
+        progress.Show(&form);
+        for (const int value : {2, 3}) {
+            progress.SetValue(value);
+            QTest::qSleep(45);
+            context.services.windows.ProcessEvents();
+            FormWindow& window = desktop.WindowOf(form);
+            auto* shown = window.findChild<QWidget*>("frmProgress");
+            ASSERT_NE(shown, nullptr);
+            EXPECT_TRUE(shown->isVisible());
+            seen.push_back(Concat(shown->findChild<QLabel*>("lblProgress")->text().toStdString(),
+                                  shown->findChild<QProgressBar*>("pbProgress")->value()));
+            EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+        }
+        EXPECT_FALSE(context.services.windows.TimerArmed("tmrSplash"));
+        progress.Close();
+        form.pointer = PointerShape::Normal;
+    };
+    desktop.Click(form.cmdGo);
+    DesktopProgram::Settle();
+    EXPECT_EQ(seen, (std::vector<std::string>{"Reading...2", "Reading...3"}));
+    EXPECT_EQ(desktop.WindowOf(form).findChild<QWidget*>("frmProgress"), nullptr);
+    EXPECT_EQ(desktop.WindowOf(form).cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(Operations, WhatIsFrozenOrHiddenIsNotDrawn) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    auto& line = desktop.Find<QLineEdit>(form.txtName);
+    auto& table = desktop.Find<QTableView>(form.lvRows);
+    {
+        const FrozenForm frozen(form);
+        form.txtName.text = "new";
+        form.lvRows.Add({"", "", "", Colour::WindowText, {"row"}});
+        desktop.CatchUp();
+        desktop.host.ProcessEvents();
+        EXPECT_EQ(line.text(), "");
+        EXPECT_FALSE(table.updatesEnabled());
+    }
+    form.lvRows.visible = false;
+    desktop.CatchUp();
+    EXPECT_EQ(line.text(), "new");
+    EXPECT_TRUE(desktop.WindowOf(form).updatesEnabled());
+    EXPECT_FALSE(table.isVisible());
+    EXPECT_EQ(table.model()->rowCount(), 0);
+    form.lvRows.visible = true;
+    desktop.CatchUp();
+    EXPECT_EQ(table.model()->rowCount(), 1);
+}
+
+TEST(Operations, AWindowIsDrawnAtMost25TimesASecond) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    auto& label = desktop.Find<QLabel>(form.sbState);
+    int drawn = 0;
+    QElapsedTimer time;
+    time.start();
+    QString last = label.text();
+    while (time.elapsed() < 400) {
+        form.sbState.text = std::to_string(time.nsecsElapsed());
+        desktop.host.ProcessEvents();
+        drawn += label.text() != last ? 1 : 0;
+        last = label.text();
+    }
+    EXPECT_GE(drawn, 2);
+    EXPECT_LE(drawn, time.elapsed() / 40 + 1);
+}
+
+// The procedure of an event fails in the middle of an operation.
+TEST(Operations, AFailureLeavesTheFormUsable) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        form.enabled = false;
+        ++form.frozen;
+        context.services.progress.Show(&form);
+        throw std::bad_alloc();
+    };
+    desktop.Click(form.cmdGo);
+    DesktopProgram::Settle();
+    desktop.Click(form.ckSwitch);
+    DesktopProgram::Settle();
+    EXPECT_TRUE(form.ckSwitch.checked);
+    EXPECT_EQ(desktop.program.forms.frmMain.sbMain.text, "The operation ended early: not enough memory.");
+}
+
+}  // namespace
+}  // namespace orlo
