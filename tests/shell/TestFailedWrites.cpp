@@ -84,6 +84,27 @@ TEST(FailedWrites, LeaveTheOldFileWholeAndTheProgramRunning) {
     }
 }
 
+TEST(FailedWrites, AKillBetweenTwoFilesOfASaveLosesNoFlight) {
+    for (int written = 0; written < 4; ++written) {
+        SCOPED_TRACE(written);
+        test::FakeProgram fake;
+        AddPlan(fake);
+        Flight removed = fake.session.Flights.Unpack(0);
+        removed.TailNumber = "REMOVED";
+        removed.Removed = true;
+        fake.session.Flights.Append(removed);
+        fake.world.files.files["/plan/FlightPlans.txt"] = "old plan with REMOVED";
+        fake.world.files.files["/plan/Aircraft.txt"] = "old aircraft";
+        fake.world.files.commitsBeforeKill = written;
+        fake.Press(fake.form.mnuFileSave);
+        auto& files = fake.world.files.files;
+        const std::string plan = files["/plan/FlightPlans.txt"];
+        EXPECT_EQ(plan == "old plan with REMOVED", written < 2) << "old or new, never a part";
+        EXPECT_TRUE((plan + files["/plan/Removed Flights.txt"]).find("REMOVED") != std::string::npos);
+        EXPECT_EQ(files["/plan/Aircraft.txt"] == "old aircraft", written < 3);
+    }
+}
+
 TEST(FailedWrites, ASaveThatSucceedsTakesTheWarningAway) {
     test::FakeProgram fake;
     AddPlan(fake);

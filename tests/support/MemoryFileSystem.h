@@ -21,6 +21,8 @@ class MemoryFileSystem : public FileSystem {
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
+    int commitsBeforeKill =
+        -1;  // the process dies after this many files are complete: nothing later reaches the disk
 
     std::string Resolve(const std::string& path) override {
         for (const auto& [name, content] : files) {
@@ -63,6 +65,8 @@ class MemoryFileSystem : public FileSystem {
         const std::string content = files[Resolve(from)];
         files[Resolve(to)] = content;
         return true;
+    bool DeleteFile(const std::string& path) override {
+        return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }
     bool DeleteFile(const std::string& path) override { return files.erase(Resolve(path)) > 0; }
     bool CreateFolders(const std::string& path) override {
@@ -119,7 +123,8 @@ class MemoryFileSystem : public FileSystem {
             return true;
         }
         bool Commit() override {
-            if (failed_ || owner_.failCommit) return false;
+            if (failed_ || owner_.failCommit || owner_.commitsBeforeKill == 0) return false;
+            if (owner_.commitsBeforeKill > 0) --owner_.commitsBeforeKill;
             owner_.files[path_] = content_;
             return true;
         }
