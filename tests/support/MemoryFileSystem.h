@@ -65,10 +65,10 @@ class MemoryFileSystem : public FileSystem {
         const std::string content = files[Resolve(from)];
         files[Resolve(to)] = content;
         return true;
+    }
     bool DeleteFile(const std::string& path) override {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }
-    bool DeleteFile(const std::string& path) override { return files.erase(Resolve(path)) > 0; }
     bool CreateFolders(const std::string& path) override {
         folders.push_back(path);
         return true;
