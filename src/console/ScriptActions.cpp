@@ -287,6 +287,11 @@ void ScriptRunner::SortColumn(const Words& words) {
 }
 
 void ScriptRunner::Key(const Words& words) {
+    if (Form* form = FindForm(words[1])) {
+        Event event{form, nullptr, EventKind::KeyUp};
+        program_.pump.Deliver(event);
+        return;
+    }
     Control& control = Usable(words[1]);
     if (!TakesFocus(control)) throw ScriptEnd{Concat(control.name, " takes no focus")};
     if (!MoveFocus(control)) return;

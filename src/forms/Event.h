@@ -23,7 +23,7 @@ enum class EventKind {
             // tip
     Timer,  // `control` is null, `name` tells the timer
     SystemMenu,  // the entry "About" of a window's system menu; `control` is null
-    Resize,      // the inner size of the window changed, and the form's box with it; `control` is null
+    Resize,      // the inner size of the window changed, and the form's with it; `control` is null
     Close,       // the close box; `control` is null; may be refused
 };
 

@@ -47,6 +47,8 @@ struct Form {
     Form* owner = nullptr;
     WindowState windowState = WindowState::Normal;
     WindowBox box;
+    std::int32_t innerWidth = 0;  // of the window as it stands; written by the front end
+    std::int32_t innerHeight = 0;
     bool centreRequest = false;  // the front end moves the window to the screen's centre and clears it
     std::optional<WindowLimits> limits;
     std::int32_t opacity = 255;    // 0 to 255

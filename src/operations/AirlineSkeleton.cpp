@@ -72,6 +72,7 @@ void GenerateAirlineConfig(Context& context) {
     Session& session = context.session;
     MessageHost& messages = context.services.messages;
     bool written = false;
+    ForgetNotWritten(context);
     {
         const BusyMainWindow busy(context);
         if (session.Airports.empty()) {

@@ -41,6 +41,8 @@ bool EventPump::TakesInput(const Form& form) const {
 bool EventPump::Accepts(const Event& event) const {
     if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
     if (event.form == nullptr) return false;
+    // A window's size is a fact, whoever may type into it.
+    if (event.kind == EventKind::Resize) return windows_.IsOpen(*event.form);
     if (event.kind == EventKind::Close && running_ == 0) {
         // Also of a disabled form, so that one that was left disabled can be closed.
         const Form* top = windows_.TopModal();

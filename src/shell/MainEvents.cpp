@@ -53,8 +53,10 @@ void OnProjectKey(Context& context, Event& event) {
 }
 
 void LayOutControls(Context& context, Event&) {
-    const MainForm& form = context.forms.frmMain;
-    context.frame.layout.Resize(form.box.height, form.box.width);
+    MainForm& form = context.forms.frmMain;
+    context.frame.layout.Resize(form.innerHeight, form.innerWidth);
+    ControlBox& status = form.sbMain.box;
+    status = {0, form.innerHeight - status.height, form.innerWidth, status.height};
 }
 
 void SortByColumn(Context&, Event& event) {

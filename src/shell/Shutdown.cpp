@@ -45,6 +45,10 @@ bool Shutdown(Context& context) {
     if (session.ProjectModified) {
         const MessageAnswer answer = AskToSave(context, "Save the modified Project?");
         if (answer == MessageAnswer::Cancel) return false;
+        if (answer == MessageAnswer::Yes) {
+            context.services.windows.ShowNotBuilt(context.forms.frmMain.mnuFileSaveProject.name);
+            return false;
+        }
     }
     const BusyMainWindow busy(context);
     WriteSettings(context);

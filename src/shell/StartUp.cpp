@@ -38,6 +38,7 @@ void ShowWindows(Context& context) {
     WindowHost& windows = context.services.windows;
     windows.ShowForm(forms.frmMain);
     windows.ProcessEvents();
+    if (!windows.TimerArmed(kSplashTimer)) return;  // a slow start has used its time up
     forms.frmSplash.owner = &forms.frmMain;
     forms.frmSplash.opacity = kSplashOpacity;
     windows.ShowForm(forms.frmSplash);
@@ -64,7 +65,7 @@ bool StartUp(Context& context) {
         windows.StopTimer(kSplashTimer);
         return false;
     }
-    RegisterMainLayout(context.frame.layout, form, form.box.height, form.box.width);
+    RegisterMainLayout(context.frame.layout, form, form.innerHeight, form.innerWidth);
     ReadZones(context);
     ReadWindowPlace(context);
     ActivateTab(context);
