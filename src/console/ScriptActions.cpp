@@ -76,14 +76,6 @@ std::int32_t EntryPlace(const ComboBox& combo, const std::string& word) {
     throw ScriptEnd{Concat(combo.name, " has no entry '", word, "'")};
 }
 
-void CheckOption(OptionButton& option) {
-    for (Control* control : option.form.Controls()) {
-        if (control->kind == ControlKind::OptionButton && control->parent == option.parent) {
-            static_cast<OptionButton*>(control)->checked = control == &option;
-        }
-    }
-}
-
 void ClickRow(ListView& list, std::int32_t place) {
     list.SelectAll(false);
     list.Select(place, true);
@@ -168,7 +160,7 @@ void ScriptRunner::Press(Control& control) {
         auto& box = static_cast<CheckBox&>(control);
         box.checked = !box.checked;
     } else if (control.kind == ControlKind::OptionButton) {
-        CheckOption(static_cast<OptionButton&>(control));
+        static_cast<OptionButton&>(control).Check();
     }
     Deliver(control, EventKind::Click);
 }

@@ -61,9 +61,7 @@ void LayOutControls(Context& context, Event&) {
 
 void SortByColumn(Context&, Event& event) {
     auto& list = static_cast<ListView&>(*event.control);
-    list.ascending = list.sorted && list.sortColumn == event.value ? !list.ascending : true;
-    list.sortColumn = event.value;
-    list.Sort();
+    list.SortByColumn(event.value);
     list.ensureVisibleRequest = true;
 }
 
