@@ -89,6 +89,11 @@ void FormWindow::DrawPlace() {
     } else if (form_->box.height >= 0 && !SameBox(form_->box, drawnBox_)) {
         setGeometry(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
     }
+    if (form_->limits) {
+        setMinimumSize(form_->limits->minimumWidth, form_->limits->minimumHeight);
+        setMaximumSize(form_->limits->maximumWidth, form_->limits->maximumHeight);
+    }
+    setWindowOpacity(form_->opacity / 255.0);
     if (drawnState_ != form_->windowState) {
         const Qt::WindowStates others = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
         const Qt::WindowState state = form_->windowState == WindowState::Maximised   ? Qt::WindowMaximized
@@ -162,6 +167,10 @@ void FormWindow::moveEvent(QMoveEvent*) {
 
 void FormWindow::resizeEvent(QResizeEvent*) {
     NotePlace();
+    if (form_ == nullptr) return;
+    form_->innerWidth = width();
+    form_->innerHeight = height();
+    sink_.Post({form_, nullptr, EventKind::Resize});
 }
 
 void FormWindow::changeEvent(QEvent* event) {
