@@ -86,6 +86,12 @@ struct Session {
     FlightList SearchResults;
     std::vector<std::int32_t> SearchResultIndex;  // place in Flights, ascending
     std::vector<std::string> SearchResultText;
+
+    void ClearSearch() {
+        SearchResults.Clear();
+        SearchResultIndex.clear();
+        SearchResultText.clear();
+    }
 };
 
 }  // namespace orlo

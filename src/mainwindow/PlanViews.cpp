@@ -41,9 +41,7 @@ void ResetExportView(Context& context) {
     form.lblExPreview.caption = "Previe&w";
     // No button reaches the results of a list that is empty, and they would keep the rows of the old plan
     // alive.
-    session.SearchResults.Clear();
-    session.SearchResultIndex.clear();
-    session.SearchResultText.clear();
+    session.ClearSearch();
 
     form.cmExportAircraft.Clear();
     form.cmExportAircraft.Add("#None#", -1);

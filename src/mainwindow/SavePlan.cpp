@@ -9,6 +9,15 @@
 
 namespace orlo {
 
+MessageAnswer AskToSave(Context& context, std::string_view question) {
+    return ShowMessage(context.services.messages, question, kButtonsYesNoCancel | kMarkQuestion,
+                       &context.forms.frmMain);
+}
+
+MessageAnswer AskToSavePlan(Context& context) {
+    return AskToSave(context, "Save the modified Flightplan?");
+}
+
 void SaveFlightplan(Context& context) {
     Session& session = context.session;
     FileSystem& files = context.services.files;

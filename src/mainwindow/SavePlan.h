@@ -7,6 +7,10 @@ namespace orlo {
 // The filter of the dialogs for text files.
 inline constexpr std::string_view kTextFileFilter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
 
+// Asks a question about unsaved work, with Yes, No and Cancel.
+MessageAnswer AskToSave(Context& context, std::string_view question);
+MessageAnswer AskToSavePlan(Context& context);
+
 // Writes the plan and Aircraft.txt, clears PlanModified and says so. The message comes whatever the writers
 // did; what could not be written stands in the status bar, and the old file stays whole.
 void SaveFlightplan(Context& context);

@@ -14,9 +14,7 @@ constexpr int kUndoStages = 3;
 
 void PutBack(Context& context) {
     Session& session = context.session;
-    session.SearchResults.Clear();
-    session.SearchResultIndex.clear();
-    session.SearchResultText.clear();
+    session.ClearSearch();
     session.Flights = context.undo.Flights;
     session.PlanAircrafts = context.undo.PlanAircrafts;
 }

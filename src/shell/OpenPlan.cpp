@@ -48,9 +48,7 @@ void EraseOldPlan(Context& context) {
     session.PlanAirports.clear();
     session.PlanAirportIndex.Clear();
     session.FSAircrafts.clear();
-    session.SearchResults.Clear();
-    session.SearchResultIndex.clear();
-    session.SearchResultText.clear();
+    session.ClearSearch();
     form.lvExPreview.Clear();
 
     const FrozenForm frozen(form);
@@ -121,8 +119,7 @@ bool AllPlanAircraftInstalled(const Session& session) {
 void OpenFlightplan(Context& context, std::string path) {
     Session& session = context.session;
     if (session.PlanModified) {
-        const MessageAnswer answer = ShowMessage(context.services.messages, "Save the modified Flightplan?",
-                                                 kButtonsYesNoCancel | kMarkQuestion, &context.forms.frmMain);
+        const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return;
         if (answer == MessageAnswer::Yes) SaveFlightplan(context);
     }

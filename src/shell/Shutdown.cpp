@@ -11,11 +11,6 @@ namespace {
 
 constexpr int kCleaningStages = 2;
 
-MessageAnswer AskToSave(Context& context, std::string_view question) {
-    return ShowMessage(context.services.messages, question, kButtonsYesNoCancel | kMarkQuestion,
-                       &context.forms.frmMain);
-}
-
 // In this order: what was derived goes before what it was derived from.
 void EraseMemory(Context& context) {
     Session& session = context.session;
@@ -24,7 +19,7 @@ void EraseMemory(Context& context) {
     session.Airlines = {};
     session.RunAirlines = {};
     session.Flights.Clear();
-    session.SearchResults.Clear();
+    session.ClearSearch();
     session.PlanAircrafts = {};
     session.PlanAirports = {};
     session.PlanAirportIndex.Clear();
@@ -38,7 +33,7 @@ bool Shutdown(Context& context) {
     context.services.progress.Close();
     if (context.services.windows.TimerArmed(kSplashTimer)) CloseSplash(context);
     if (session.PlanModified) {
-        const MessageAnswer answer = AskToSave(context, "Save the modified Flightplan?");
+        const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return false;
         if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
     }
