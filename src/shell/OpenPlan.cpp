@@ -1,8 +1,9 @@
 #include "shell/OpenPlan.h"
 
+#include <algorithm>
+
 #include "core/Application.h"
 #include "core/FlightplanFile.h"
-#include "core/KeyedIndex.h"
 #include "core/PlanSideFiles.h"
 #include "core/Text.h"
 #include "mainwindow/AircraftTrees.h"
@@ -13,6 +14,7 @@
 #include "mainwindow/TreeSelection.h"
 #include "shell/Tabs.h"
 #include "simulator/AircraftScan.h"
+#include "simulator/TitleIndex.h"
 
 namespace orlo {
 namespace {
@@ -107,13 +109,8 @@ void OfferMissingAircraft(Context& context) {
 }  // namespace
 
 bool AllPlanAircraftInstalled(const Session& session) {
-    KeyedIndex<bool> titles;
-    titles.Reserve(session.FSAircrafts.size());
-    for (const FSAircraft& aircraft : session.FSAircrafts) titles.Add(aircraft.Title, true);
-    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
-        if (!titles.Contains(aircraft.Title)) return false;
-    }
-    return true;
+    const std::vector<std::int32_t> places = InstalledPlaces(session);
+    return std::find(places.begin(), places.end(), -1) == places.end();
 }
 
 void OpenFlightplan(Context& context, std::string path) {

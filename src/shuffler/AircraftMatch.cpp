@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "core/KeyedIndex.h"
+#include "simulator/TitleIndex.h"
 
 namespace orlo {
 namespace {
@@ -13,14 +14,6 @@ template <typename Value>
 using LentIndex = std::unordered_map<std::string_view, Value, NoCaseHash, NoCaseEqual>;
 
 constexpr std::int32_t kNoStatedShare = -1;
-
-LentIndex<std::int32_t> IndexTitles(const std::vector<FSAircraft>& fsAircrafts) {
-    LentIndex<std::int32_t> titles;
-    titles.reserve(fsAircrafts.size());
-    std::int32_t index = 0;
-    for (const FSAircraft& aircraft : fsAircrafts) titles.try_emplace(aircraft.Title, index++);
-    return titles;
-}
 
 LentIndex<std::vector<AirlineEntry*>> IndexEntries(const std::vector<AirlineSet*>& list) {
     LentIndex<std::vector<AirlineEntry*>> entries;
@@ -68,16 +61,16 @@ std::vector<AirlineAircraft> MatchAircraft(const std::vector<PlanAircraft>& plan
         for (AirlineEntry& entry : set->Airlines) entry.Aircraft.clear();
     }
 
-    const auto titles = IndexTitles(fsAircrafts);
+    const TitleIndex titles(fsAircrafts);
     const auto entries = IndexEntries(list);
     std::vector<AirlineAircraft> noAirlineAircraft;
     std::int32_t planIndex = -1;
     for (const PlanAircraft& planAircraft : planAircrafts) {
         ++planIndex;
-        const auto title = titles.find(planAircraft.Title);
-        if (title == titles.end()) continue;
-        const AirlineAircraft aircraft{title->second, planIndex, 0};
-        const std::string& airline = fsAircrafts[static_cast<std::size_t>(title->second)].Airline;
+        const std::int32_t place = titles.Find(planAircraft.Title);
+        if (place < 0) continue;
+        const AirlineAircraft aircraft{place, planIndex, 0};
+        const std::string& airline = fsAircrafts[static_cast<std::size_t>(place)].Airline;
         if (airline.empty()) {
             noAirlineAircraft.push_back(aircraft);
         } else if (const auto found = entries.find(airline); found != entries.end()) {
