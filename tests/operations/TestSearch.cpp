@@ -30,11 +30,11 @@ struct SampleSearch : SearchWorld {
 TEST(Search, CombinesTheFieldsOfTheTab) {
     struct Case {
         bool all = true;
-        std::string departure, leg, continent, country, airline;
-        std::string types;      // "I", "V" or both
+        std::string departure = {}, leg = {}, continent = {}, country = {}, airline = {};
+        std::string types = {};  // "I", "V" or both
         int aircraft = 0;       // entry of cmExportAircraft
         std::string className = "#None#";
-        Places found;
+        Places found = {};
     };
     const std::vector<Case> cases = {
         {.found = {0, 1, 2, 3, 4, 6, 7}},
