@@ -2,6 +2,9 @@
 
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
+#include "operations/CorrectFlightLevels.h"
+#include "operations/CorrectFlightTimes.h"
+#include "operations/RemoveMinus.h"
 #include "shell/EventTables.h"
 #include "shell/HelpMenu.h"
 #include "shell/MenuSwitches.h"
@@ -160,9 +163,9 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuReportsUnknownAirports", Click},
     EventEntry{"mnuReportsWrongFL", Click},
     EventEntry{"mnuReportsWrongTime", Click},
-    EventEntry{"mnuToolsCheckFL", Click},
-    EventEntry{"mnuToolsCheckFT", Click},
-    EventEntry{"mnuToolsRemoveMinus", Click},
+    EventEntry{"mnuToolsCheckFL", Click, Run<OnCorrectFlightLevels>},
+    EventEntry{"mnuToolsCheckFT", Click, Run<OnCorrectFlightTimes>},
+    EventEntry{"mnuToolsRemoveMinus", Click, Run<OnRemoveMinusFromTailNumbers>},
     EventEntry{"mnuToolsRandPlan", Click},
     EventEntry{"mnuToolsRandPerc", Click},
     EventEntry{"mnuToolsRandFlightNumbers", Click},
