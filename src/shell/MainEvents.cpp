@@ -5,6 +5,9 @@
 #include "operations/EditFlights.h"
 #include "operations/ExportFlights.h"
 #include "operations/PrintFlights.h"
+#include "operations/CorrectFlightLevels.h"
+#include "operations/CorrectFlightTimes.h"
+#include "operations/RemoveMinus.h"
 #include "shell/EventTables.h"
 #include "shell/ExportTab.h"
 #include "shell/HelpMenu.h"
@@ -169,9 +172,9 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuReportsUnknownAirports", Click, Report<SearchMode::UnknownAirports>},
     EventEntry{"mnuReportsWrongFL", Click, Report<SearchMode::WrongFlightLevel>},
     EventEntry{"mnuReportsWrongTime", Click, Report<SearchMode::WrongTime>},
-    EventEntry{"mnuToolsCheckFL", Click},
-    EventEntry{"mnuToolsCheckFT", Click},
-    EventEntry{"mnuToolsRemoveMinus", Click},
+    EventEntry{"mnuToolsCheckFL", Click, Run<OnCorrectFlightLevels>},
+    EventEntry{"mnuToolsCheckFT", Click, Run<OnCorrectFlightTimes>},
+    EventEntry{"mnuToolsRemoveMinus", Click, Run<OnRemoveMinusFromTailNumbers>},
     EventEntry{"mnuToolsRandPlan", Click},
     EventEntry{"mnuToolsRandPerc", Click},
     EventEntry{"mnuToolsRandFlightNumbers", Click},
