@@ -41,7 +41,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
             if (const auto colour = ScreenColour(list_.RowColour(place))) return QBrush(*colour);
             return QVariant();
         case Qt::ToolTipRole: {
-            const std::string_view tip = list_.ToolTip(place);
+            const std::string tip = list_.ToolTip(place);
             return tip.empty() ? QVariant() : QVariant(ToQString(tip));
         }
         default:

@@ -1,6 +1,11 @@
 #include "forms/ListView.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "core/Number.h"
+#include "core/Text.h"
 
 namespace orlo {
 namespace {
@@ -25,6 +30,10 @@ void ListView::RemoveColumn(std::string_view key) {
     const std::int32_t column = FindColumn(key);
     if (column < 0) return;
     columns.erase(columns.begin() + column);
+    if (sortColumn == column) sortColumn = 0;
+    if (sortColumn > column) --sortColumn;
+    ++contentRevision;
+    if (source_ != nullptr) return;
     const std::size_t dropped = kFirstText + static_cast<std::size_t>(column);
     for (const std::int32_t place : order_) {
         std::string row;
@@ -35,9 +44,6 @@ void ListView::RemoveColumn(std::string_view key) {
         }
         ReplaceRow(place, row);
     }
-    if (sortColumn == column) sortColumn = 0;
-    if (sortColumn > column) --sortColumn;
-    ++contentRevision;
 }
 
 std::int32_t ListView::FindColumn(std::string_view key) const {
@@ -52,8 +58,10 @@ void ListView::Reserve(std::int32_t rows) {
 }
 
 std::int32_t ListView::Add(const ListRow& row) {
+    if (source_ != nullptr) return -1;
     const auto place = static_cast<std::int32_t>(slots_.size());
-    if (!row.key.empty() && !keys_.Add(row.key, place, [this](std::int32_t at) { return Key(at); }))
+    if (!row.key.empty() &&
+        !keys_.Add(row.key, place, [this](std::int32_t at) { return Field(at, kKeyField); }))
         return -1;
     scratch_.clear();
     AppendField(scratch_, row.key);
@@ -61,12 +69,38 @@ std::int32_t ListView::Add(const ListRow& row) {
     AppendField(scratch_, row.toolTip);
     const std::size_t textCount = std::min(row.texts.size(), columns.size());
     for (std::size_t i = 0; i < textCount; ++i) AppendField(scratch_, row.texts[i]);
-
-    std::size_t position = order_.size();
-    if (sorted)
-        position = SortedPosition(FieldAt(scratch_, kFirstText + static_cast<std::size_t>(sortColumn)));
-    slots_.push_back({pages_.Add(scratch_), static_cast<std::uint32_t>(scratch_.size()), row.colour, false});
+    slots_.push_back(
+        {pages_.Add(scratch_), static_cast<std::uint32_t>(scratch_.size()), row.colour, false, true});
     liveBytes_ += scratch_.size();
+    Enter(place);
+    return place;
+}
+
+void ListView::ShowSource(std::shared_ptr<RowSource> source, std::int32_t rows) {
+    Clear();
+    source_ = std::move(source);
+    if (rows <= 0) return;
+    RowSlot slot;
+    slot.stands = true;
+    slots_.assign(static_cast<std::size_t>(rows), slot);
+    order_.resize(slots_.size());
+    std::iota(order_.begin(), order_.end(), 0);
+    current = 0;
+    Slot(0).selected = true;
+    if (sorted) Sort();
+}
+
+std::int32_t ListView::AddSourceRow() {
+    if (source_ == nullptr) return -1;
+    const auto place = static_cast<std::int32_t>(slots_.size());
+    slots_.emplace_back().stands = true;
+    Enter(place);
+    return place;
+}
+
+// The displayed order takes a new row.
+void ListView::Enter(std::int32_t place) {
+    const std::size_t position = sorted ? SortedPosition(place) : order_.size();
     order_.insert(order_.begin() + static_cast<std::ptrdiff_t>(position), place);
     if (order_.size() == 1) {
         current = place;
@@ -74,32 +108,32 @@ std::int32_t ListView::Add(const ListRow& row) {
     }
     ++contentRevision;
     ++orderRevision;
-    return place;
 }
 
 void ListView::Remove(std::span<const std::int32_t> places) {
     std::size_t removedCount = 0;
     for (const std::int32_t place : places) {
         RowSlot& slot = Slot(place);
-        if (slot.data == nullptr) continue;
-        keys_.Remove(Key(place), [this](std::int32_t at) { return Key(at); });
+        if (!slot.stands) continue;
+        if (source_ == nullptr)
+            keys_.Remove(Field(place, kKeyField), [this](std::int32_t at) { return Field(at, kKeyField); });
         liveBytes_ -= slot.length;
         deadBytes_ += slot.length;
         slot = RowSlot();
         ++removedCount;
     }
     if (removedCount == 0) return;
-    if (removedCount == order_.size()) {
+    if (removedCount == order_.size() && source_ == nullptr) {
         Clear();
         return;
     }
-    const auto gone = [this](std::int32_t place) { return Slot(place).data == nullptr; };
+    const auto gone = [this](std::int32_t place) { return !Slot(place).stands; };
     const bool currentGone = current >= 0 && gone(current);
     const auto at = std::find(order_.begin(), order_.end(), current);
     const auto next = currentGone ? std::find_if_not(at, order_.end(), gone) : at;
     const std::int32_t successor = next == order_.end() ? -1 : *next;
     std::erase_if(order_, gone);
-    if (currentGone) current = successor >= 0 ? successor : order_.back();
+    if (currentGone) current = successor >= 0 || order_.empty() ? successor : order_.back();
     DropDeadBytes();
     ++contentRevision;
     ++orderRevision;
@@ -107,6 +141,7 @@ void ListView::Remove(std::span<const std::int32_t> places) {
 }
 
 void ListView::Clear() {
+    source_.reset();
     pages_.Clear();
     liveBytes_ = deadBytes_ = 0;
     slots_ = {};
@@ -118,33 +153,43 @@ void ListView::Clear() {
     ++selectionRevision;
 }
 
-std::string_view ListView::Text(std::int32_t place, std::int32_t column) const {
-    return FieldAt(Row(place), kFirstText + static_cast<std::size_t>(column));
+std::string ListView::Text(std::int32_t place, std::int32_t column) const {
+    std::string text;
+    AppendText(place, column, text);
+    return text;
 }
 
-std::string_view ListView::Key(std::int32_t place) const {
-    return FieldAt(Row(place), kKeyField);
+void ListView::AppendText(std::int32_t place, std::int32_t column, std::string& out) const {
+    if (source_ == nullptr) {
+        out.append(Field(place, kFirstText + static_cast<std::size_t>(column)));
+    } else if (static_cast<std::size_t>(column) < columns.size()) {
+        source_->AppendText(place, column, out);
+    }
 }
 
-std::string_view ListView::Tag(std::int32_t place) const {
-    return FieldAt(Row(place), kTagField);
+std::string ListView::Key(std::int32_t place) const {
+    return source_ != nullptr ? Concat('#', place) : std::string(Field(place, kKeyField));
 }
 
-std::string_view ListView::ToolTip(std::int32_t place) const {
-    return FieldAt(Row(place), kToolTipField);
+std::string ListView::Tag(std::int32_t place) const {
+    return source_ != nullptr ? std::to_string(place) : std::string(Field(place, kTagField));
+}
+
+std::string ListView::ToolTip(std::int32_t place) const {
+    return std::string(Field(place, kToolTipField));
 }
 
 void ListView::SetText(std::int32_t place, std::int32_t column, std::string_view text) {
-    SetField(place, kFirstText + static_cast<std::size_t>(column), text);
+    if (source_ == nullptr) SetField(place, kFirstText + static_cast<std::size_t>(column), text);
 }
 
 bool ListView::SetKey(std::int32_t place, std::string_view key) {
     const std::int32_t holder = key.empty() ? -1 : FindKey(key);
-    if (holder >= 0 && holder != place) return false;
-    const auto keyOf = [this](std::int32_t at) { return Key(at); };
-    keys_.Remove(Key(place), keyOf);
+    if (source_ != nullptr || (holder >= 0 && holder != place)) return false;
+    const auto keyOf = [this](std::int32_t at) { return Field(at, kKeyField); };
+    keys_.Remove(keyOf(place), keyOf);
     SetField(place, kKeyField, key);
-    if (!Key(place).empty()) keys_.Add(Key(place), place, keyOf);
+    if (!keyOf(place).empty()) keys_.Add(keyOf(place), place, keyOf);
     return true;
 }
 
@@ -154,7 +199,12 @@ void ListView::SetRowColour(std::int32_t place, Colour colourOf) {
 }
 
 std::int32_t ListView::FindKey(std::string_view key) const {
-    return key.empty() ? -1 : keys_.Find(key, [this](std::int32_t at) { return Key(at); });
+    if (key.empty()) return -1;
+    if (source_ == nullptr) return keys_.Find(key, [this](std::int32_t at) { return Field(at, kKeyField); });
+    const auto row = ParseWholeNumber(key.substr(1));
+    const bool stands =
+        row && *row >= 0 && static_cast<std::size_t>(*row) < slots_.size() && Slot(*row).stands;
+    return stands && Key(*row) == key ? *row : -1;
 }
 
 std::int32_t ListView::PositionOf(std::int32_t place) const {
@@ -241,7 +291,7 @@ void ListView::DropDeadBytes() {
     if (deadBytes_ < kDeadBytesKept || deadBytes_ < liveBytes_) return;
     BytePages fresh;
     for (RowSlot& slot : slots_) {
-        if (slot.data != nullptr) slot.data = fresh.Add({slot.data, slot.length});
+        if (slot.stands) slot.data = fresh.Add({slot.data, slot.length});
     }
     pages_ = std::move(fresh);
     deadBytes_ = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 #include "forms/Control.h"
 #include "forms/PackedFields.h"
 #include "forms/PlaceIndex.h"
+#include "forms/RowSource.h"
 
 namespace orlo {
 
@@ -32,10 +34,13 @@ struct ListRow {
     std::vector<std::string> texts;  // one a column; missing ones are empty, further ones are dropped
 };
 
-// A list of rows with columns. Rows are kept packed in large pages; a row's place (0, 1, ... in the order of
-// adding) names it until it is removed, and only places of rows that stand are passed here. Sorting permutes
-// the displayed order and never moves a row. The current row and the selection are two things. Texts that are
-// lent hold until the list is changed.
+// A list of rows with columns. A row's place (0, 1, ... in the order of adding) names it until it is removed,
+// and only places of rows that stand are passed here. Sorting permutes the displayed order and never moves a
+// row. The current row and the selection are two things.
+//
+// Rows are kept packed in large pages, or they are drawn from a source, and then the list keeps no text of
+// them: a row's place is its number in the source, its key "#" and that number, its tag the number, its tool
+// tip empty. Rows of the two kinds never stand together.
 struct ListView : Control {
     ListView(Container in, std::string_view nameOf)
         : Control(ControlKind::ListView, in.form, in.parent, nameOf, "") {}
@@ -51,21 +56,34 @@ struct ListView : Control {
     void Reserve(std::int32_t rows);
 
     // Place of the new row, -1 when its key stands already. The first row added to an empty list becomes
-    // current and selected. A sorted list takes the row in its sorted position, behind equal ones.
+    // current and selected. A sorted list takes the row in its sorted position, behind equal ones. -1, with
+    // nothing changed, in a list drawn from a source.
     std::int32_t Add(const ListRow& row);
+    // Replaces all rows by rows 0 to `rows` - 1 of the source, in that order or sorted where sorting is on.
+    // Row 0 becomes current and alone selected. The source, never null, is let go by Clear.
+    void ShowSource(std::shared_ptr<RowSource> source, std::int32_t rows);
+    // Null in a list of other rows.
+    RowSource* Source() const { return source_.get(); }
+    // Adds the row behind the last one that was ever drawn from the source, which must have it by now, as Add
+    // does; -1, with nothing changed, in a list without a source.
+    std::int32_t AddSourceRow();
+    // Tells that texts of the source are others by now; does not sort anew.
+    void SourceChanged() { ++contentRevision; }
     // The current row becomes the one now displayed at its position, else the last, else none. Many rows go
-    // in one pass as they would go one by one.
+    // in one pass as they would go one by one. A source stays, also with its last row, and a place in it is
+    // never given again; other rows start at place 0 again when the last one went.
     void Remove(std::int32_t place) { Remove(std::span(&place, 1)); }
     void Remove(std::span<const std::int32_t> places);
     void Clear();
 
-    std::string_view Text(std::int32_t place, std::int32_t column) const;
-    void SetText(std::int32_t place, std::int32_t column, std::string_view text);  // does not sort anew
-    std::string_view Key(std::int32_t place) const;
-    // False, with nothing changed, when another row has the key.
+    std::string Text(std::int32_t place, std::int32_t column) const;
+    // Does not sort anew. Nothing happens to a row of a source.
+    void SetText(std::int32_t place, std::int32_t column, std::string_view text);
+    std::string Key(std::int32_t place) const;
+    // False, with nothing changed, when another row has the key, and for a row of a source.
     bool SetKey(std::int32_t place, std::string_view key);
-    std::string_view Tag(std::int32_t place) const;
-    std::string_view ToolTip(std::int32_t place) const;
+    std::string Tag(std::int32_t place) const;
+    std::string ToolTip(std::int32_t place) const;
     Colour RowColour(std::int32_t place) const { return Slot(place).colour; }
     void SetRowColour(std::int32_t place, Colour colourOf);
     std::int32_t FindKey(std::string_view key) const;  // -1 when missing
@@ -99,24 +117,29 @@ struct ListView : Control {
     std::int64_t orderRevision = 0;
     std::int64_t selectionRevision = 0;
 
-    // What the rows take, dead bytes and spare room included.
+    // What the rows take, dead bytes and spare room included, their source not.
     std::size_t MemoryBytes() const;
 
   private:
     struct RowSlot {
-        char* data = nullptr;  // key, tag, tool tip and texts, packed; null once the row is removed
+        char* data = nullptr;  // key, tag, tool tip and texts, packed; null for a row of a source
         std::uint32_t length = 0;
         Colour colour = Colour::WindowText;
         bool selected = false;
+        bool stands = false;
     };
     RowSlot& Slot(std::int32_t place) { return slots_[static_cast<std::size_t>(place)]; }
     const RowSlot& Slot(std::int32_t place) const { return slots_[static_cast<std::size_t>(place)]; }
     std::string_view Row(std::int32_t place) const { return {Slot(place).data, Slot(place).length}; }
-    std::size_t SortedPosition(std::string_view text) const;
+    std::string_view Field(std::int32_t place, std::size_t field) const { return FieldAt(Row(place), field); }
+    void AppendText(std::int32_t place, std::int32_t column, std::string& out) const;
+    void Enter(std::int32_t place);
+    std::size_t SortedPosition(std::int32_t place) const;
     void SetField(std::int32_t place, std::size_t field, std::string_view text);
     void ReplaceRow(std::int32_t place, std::string_view row);
     void DropDeadBytes();
 
+    std::shared_ptr<RowSource> source_;
     BytePages pages_;
     std::size_t liveBytes_ = 0;
     std::size_t deadBytes_ = 0;

@@ -1,19 +1,77 @@
 #include <algorithm>
+#include <array>
+#include <bit>
 
+#include "core/Text.h"
 #include "forms/ListView.h"
 
 namespace orlo {
 namespace {
 
-// Texts are compared seven folded characters at a time, so that each text is read once a chunk and not once a
+// Numbers texts, case folded. Equal ones mostly share a number, so that columns of few texts sort fast; once
+// too many differ, or too many of them meet in one spot of the table, each further text gets a number of its
+// own. Nothing but time depends on it.
+class TextNumbers {
+  public:
+    explicit TextNumbers(std::size_t rows)
+        : sharedLimit_(rows / 4), table_(std::bit_ceil(rows / 2 + 2 * kLongestWalk)) {
+        for (std::size_t i = 0; i < fold_.size(); ++i) fold_[i] = UpperChar(static_cast<char>(i));
+    }
+
+    // Folds the text in place.
+    std::uint32_t NumberOf(std::string& text) {
+        for (char& character : text) character = fold_[static_cast<unsigned char>(character)];
+        return shares_ && texts_.size() < sharedLimit_ ? SharedNumberOf(text) : Add(text);
+    }
+    // By number.
+    const std::vector<std::string_view>& Texts() const { return texts_; }
+
+  private:
+    static constexpr std::size_t kLongestWalk = 64;
+    static constexpr std::uint32_t kFree = UINT32_MAX;
+
+    struct Entry {
+        std::uint32_t number = kFree;
+        std::uint32_t hash = 0;
+    };
+
+    std::uint32_t SharedNumberOf(std::string_view text) {
+        const std::size_t wide = std::hash<std::string_view>()(text);
+        const auto hash = static_cast<std::uint32_t>(wide ^ (static_cast<std::uint64_t>(wide) >> 32));
+        for (std::size_t walked = 0; walked < kLongestWalk; ++walked) {
+            Entry& entry = table_[(hash + walked) & (table_.size() - 1)];
+            if (entry.number == kFree) {
+                entry = {Add(text), hash};
+                return entry.number;
+            }
+            if (entry.hash == hash && texts_[entry.number] == text) return entry.number;
+        }
+        shares_ = false;
+        return Add(text);
+    }
+
+    std::uint32_t Add(std::string_view text) {
+        texts_.emplace_back(pages_.Add(text), text.size());
+        return static_cast<std::uint32_t>(texts_.size() - 1);
+    }
+
+    std::array<char, 256> fold_;
+    std::size_t sharedLimit_;
+    bool shares_ = true;
+    std::vector<Entry> table_;  // a power of two, at most half full
+    std::vector<std::string_view> texts_;
+    BytePages pages_;
+};
+
+// Texts are compared seven characters at a time, so that each text is read once a chunk and not once a
 // comparison.
 constexpr std::size_t kChunkCharacters = 7;
 constexpr std::uint64_t kGoesOn = kChunkCharacters + 1;
 
 struct SortEntry {
-    std::uint64_t chunk;    // characters from the high byte down; in the low byte their count, or kGoesOn
-    std::int32_t position;  // before sorting
-    std::int32_t place;
+    std::uint64_t chunk;   // characters from the high byte down; in the low byte their count, or kGoesOn
+    std::uint32_t number;  // of the text
+    bool differs;          // from the one in front
 };
 
 struct SortRange {
@@ -26,7 +84,7 @@ std::uint64_t ChunkOf(std::string_view text) {
     const std::size_t count = std::min(text.size(), kChunkCharacters);
     std::uint64_t chunk = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        chunk |= static_cast<std::uint64_t>(static_cast<unsigned char>(UpperChar(text[i]))) << (56 - 8 * i);
+        chunk |= static_cast<std::uint64_t>(static_cast<unsigned char>(text[i])) << (56 - 8 * i);
     }
     return chunk | (text.size() > kChunkCharacters ? kGoesOn : count);
 }
@@ -35,40 +93,81 @@ bool GoesOn(std::uint64_t chunk) {
     return (chunk & 0xFF) == kGoesOn;
 }
 
-void SortByChunk(SortEntry* begin, SortEntry* end, bool ascending) {
-    std::sort(begin, end, [ascending](const SortEntry& a, const SortEntry& b) {
-        if (a.chunk != b.chunk) return (a.chunk < b.chunk) == ascending;
-        return a.position < b.position;
-    });
+// A range without order to make, as one of texts that begin alike, takes one look.
+void SortByChunk(SortEntry* begin, SortEntry* end) {
+    const auto before = [](const SortEntry& a, const SortEntry& b) { return a.chunk < b.chunk; };
+    if (!std::is_sorted(begin, end, before)) std::sort(begin, end, before);
 }
 
-}  // namespace
-
-void ListView::Sort() {
-    sorted = true;
-    std::vector<SortEntry> entries;
-    entries.reserve(order_.size());
-    for (const std::int32_t place : order_) {
-        entries.push_back({0, static_cast<std::int32_t>(entries.size()), place});
-    }
+std::vector<SortEntry> SortedTexts(const std::vector<std::string_view>& texts) {
+    std::vector<SortEntry> entries(texts.size());
+    for (std::size_t i = 0; i < entries.size(); ++i) entries[i].number = static_cast<std::uint32_t>(i);
     std::vector<SortRange> ranges = {{0, entries.size(), 0}};
     while (!ranges.empty()) {
         const SortRange range = ranges.back();
         ranges.pop_back();
-        for (std::size_t i = range.begin; i < range.end; ++i) {
-            entries[i].chunk = ChunkOf(Text(entries[i].place, sortColumn).substr(range.skip));
-        }
-        SortByChunk(entries.data() + range.begin, entries.data() + range.end, ascending);
+        for (std::size_t i = range.begin; i < range.end; ++i)
+            entries[i].chunk = ChunkOf(texts[entries[i].number].substr(range.skip));
+        SortByChunk(entries.data() + range.begin, entries.data() + range.end);
         for (std::size_t first = range.begin, next = 0; first < range.end; first = next) {
             const std::uint64_t chunk = entries[first].chunk;
-            next = first + 1;
-            while (next < range.end && entries[next].chunk == chunk) ++next;
-            if (next - first > 1 && GoesOn(chunk)) {
+            entries[first].differs = true;
+            for (next = first + 1; next < range.end && entries[next].chunk == chunk; ++next)
+                entries[next].differs = false;
+            if (next - first > 1 && GoesOn(chunk))
                 ranges.push_back({first, next, range.skip + kChunkCharacters});
-            }
         }
     }
-    for (std::size_t i = 0; i < entries.size(); ++i) order_[i] = entries[i].place;
+    return entries;
+}
+
+// What each text counts in the sorted order, by its number; equal texts count the same.
+struct TextRanks {
+    std::vector<std::uint32_t> rankOf;
+    std::uint32_t count = 0;
+};
+
+TextRanks RanksOf(const std::vector<std::string_view>& texts, bool ascending) {
+    TextRanks ranks;
+    ranks.rankOf.resize(texts.size());
+    const std::vector<SortEntry> entries = SortedTexts(texts);
+    for (const SortEntry& entry : entries) {
+        if (entry.differs) ++ranks.count;
+        ranks.rankOf[entry.number] = ranks.count - 1;
+    }
+    if (!ascending) {
+        for (std::uint32_t& rank : ranks.rankOf) rank = ranks.count - 1 - rank;
+    }
+    return ranks;
+}
+
+}  // namespace
+
+// The texts are made by place, as their source has them side by side; the rows then go by the ranks of their
+// texts, in one pass that keeps the order of equal ones.
+void ListView::Sort() {
+    sorted = true;
+    TextNumbers numbers(order_.size());
+    std::vector<std::uint32_t> rowRanks(slots_.size());
+    std::string text;
+    for (std::size_t i = 0; i < slots_.size(); ++i) {
+        if (!slots_[i].stands) continue;
+        text.clear();
+        AppendText(static_cast<std::int32_t>(i), sortColumn, text);
+        rowRanks[i] = numbers.NumberOf(text);
+    }
+    const TextRanks ranks = RanksOf(numbers.Texts(), ascending);
+    std::vector<std::uint32_t> starts(ranks.count + 1u);
+    for (std::size_t i = 0; i < slots_.size(); ++i) {
+        if (!slots_[i].stands) continue;
+        rowRanks[i] = ranks.rankOf[rowRanks[i]];
+        ++starts[rowRanks[i] + 1];
+    }
+    for (std::size_t i = 1; i < starts.size(); ++i) starts[i] += starts[i - 1];
+    std::vector<std::int32_t> order(order_.size());
+    for (const std::int32_t place : order_)
+        order[starts[rowRanks[static_cast<std::size_t>(place)]]++] = place;
+    order_.swap(order);
     ++orderRevision;
 }
 
@@ -83,13 +182,18 @@ void ListView::SwitchSorting(bool on) {
     if (on) Sort();
 }
 
-std::size_t ListView::SortedPosition(std::string_view text) const {
-    const auto goesBefore = [this](std::string_view added, std::int32_t place) {
-        const int order = CompareNoCase(added, Text(place, sortColumn));
+// Behind equal ones; `place` itself isn't displayed yet.
+std::size_t ListView::SortedPosition(std::int32_t place) const {
+    const std::string text = Text(place, sortColumn);
+    std::string other;
+    const auto goesBefore = [&](std::string_view added, std::int32_t displayed) {
+        other.clear();
+        AppendText(displayed, sortColumn, other);
+        const int order = CompareNoCase(added, other);
         return ascending ? order < 0 : order > 0;
     };
-    return static_cast<std::size_t>(std::upper_bound(order_.begin(), order_.end(), text, goesBefore) -
-                                    order_.begin());
+    return static_cast<std::size_t>(
+        std::upper_bound(order_.begin(), order_.end(), std::string_view(text), goesBefore) - order_.begin());
 }
 
 }  // namespace orlo

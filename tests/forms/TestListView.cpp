@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
 #include <random>
 
 #include "core/Text.h"
@@ -274,6 +276,124 @@ TEST(ListView, TheSortColumnMovesWithRemovedColumns) {
     list.RemoveColumn("AIRCRAFT FILE");
     EXPECT_EQ(list.sortColumn, 0);
     EXPECT_EQ(list.Text(1, 1), "");
+}
+
+// Rows of texts in memory, as a source of a list.
+struct TableSource : RowSource {
+    std::vector<std::vector<std::string>> rows;
+
+    void AppendText(std::int32_t row, std::int32_t column, std::string& out) const override {
+        out.append(rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+    }
+};
+
+std::vector<std::int32_t> DisplayedPlaces(const ListView& list) {
+    std::vector<std::int32_t> places;
+    for (std::int32_t position = 0; position < list.Count(); ++position)
+        places.push_back(list.PlaceAt(position));
+    return places;
+}
+
+TEST(ListView, PackedRowsAndThoseOfASourceSortAlikeInBothDirections) {
+    std::mt19937 random(1);
+    const auto draw = [&](std::size_t below) { return static_cast<std::size_t>(random() % below); };
+    const auto shout = [&](std::string text) { return draw(2) == 0 ? UpperText(text) : text; };
+    const struct {
+        const char* name;
+        std::function<std::string()> text;
+    } kinds[] = {
+        {"few texts", [&] { return shout(Concat("airline ", draw(20))); }},
+        {"texts that come twice or thrice", [&] { return shout(Concat("d-a", draw(1000))); }},
+        {"all one text", [&] { return shout("week"); }},
+        {"long beginnings that are equal",
+         [&] { return std::string(500, 'x') + shout(Concat("e", draw(900))); }},
+        {"prefixes of each other", [&] { return shout(std::string(draw(40), 'a')); }},
+        {"any bytes", [&] { return std::string(draw(12), static_cast<char>(draw(256))); }},
+    };
+    for (const auto& kind : kinds) {
+        for (const std::size_t rows : {0u, 1u, 3u, 2000u}) {
+            SCOPED_TRACE(Concat(kind.name, ", rows: ", rows));
+            MainForm form;
+            ListView& packed = form.lvProject;
+            ListView& drawn = form.lvExPreview;
+            auto source = std::make_shared<TableSource>();
+            for (std::size_t i = 0; i < rows; ++i) {
+                source->rows.push_back({kind.text(), std::to_string(draw(3))});
+                packed.Add({"", "", "", Colour::WindowText, source->rows.back()});
+            }
+            drawn.ShowSource(source, static_cast<std::int32_t>(rows));
+            std::vector<std::int32_t> expected = DisplayedPlaces(drawn);
+            for (const std::int32_t column : {1, 0, 0, 1, 0}) {
+                packed.SortByColumn(column);
+                drawn.SortByColumn(column);
+                std::stable_sort(expected.begin(), expected.end(), [&](std::int32_t a, std::int32_t b) {
+                    const int order = CompareNoCase(drawn.Text(a, column), drawn.Text(b, column));
+                    return drawn.ascending ? order < 0 : order > 0;
+                });
+                ASSERT_EQ(DisplayedPlaces(packed), expected);
+                ASSERT_EQ(DisplayedPlaces(drawn), expected);
+            }
+        }
+    }
+}
+
+TEST(ListView, RowsOfASourceAreAddedFoundSelectedAndRemoved) {
+    MainForm form;
+    ListView& list = form.lvExPreview;
+    auto source = std::make_shared<TableSource>();
+    for (const char* text : {"c", "B", "d", "a", "b"}) source->rows.push_back({text});
+    list.Add({"#old", "", "", Colour::Red, {"old"}});
+    list.sorted = true;
+    list.ShowSource(source, 4);
+    EXPECT_EQ(DisplayedPlaces(list), (std::vector<std::int32_t>{3, 1, 0, 2}));
+    EXPECT_EQ(list.current, 0);
+    EXPECT_EQ(list.SelectedPlaces(), std::vector<std::int32_t>{0});
+    EXPECT_EQ(list.AddSourceRow(), 4);
+    EXPECT_EQ(DisplayedPlaces(list), (std::vector<std::int32_t>{3, 1, 4, 0, 2}));
+    EXPECT_EQ(list.Key(4), "#4");
+    EXPECT_EQ(list.Tag(4), "4");
+    EXPECT_EQ(list.ToolTip(4), "");
+    EXPECT_EQ(list.RowColour(0), Colour::WindowText);
+    EXPECT_EQ(list.Text(4, 0), "b");
+
+    EXPECT_FALSE(list.SetKey(4, "#new"));
+    EXPECT_EQ(list.Add({"#x", "", "", Colour::Red, {"x"}}), -1);
+    list.SetText(4, 0, "z");
+    EXPECT_EQ(list.Text(4, 0), "b");
+    const std::int64_t revision = list.contentRevision;
+    source->rows[4][0] = "z";
+    list.SourceChanged();
+    EXPECT_GT(list.contentRevision, revision);
+    EXPECT_EQ(list.Text(4, 0), "z");
+    EXPECT_EQ(list.PositionOf(4), 2);
+
+    const PositionRange middle = {1, 3};
+    list.SelectOnly(std::span(&middle, 1));
+    EXPECT_EQ(list.SelectedPlaces(), (std::vector<std::int32_t>{1, 4, 0}));
+    list.Remove(list.SelectedPlaces());
+    EXPECT_EQ(DisplayedPlaces(list), (std::vector<std::int32_t>{3, 2}));
+    EXPECT_EQ(list.current, 2);
+    for (const char* key :
+         {"", "#", "#0", "#02", "#2 ", "# 2", "#+2", "#2.0", "#-1", "#5", "2", "#99999999999"})
+        EXPECT_EQ(list.FindKey(key), -1) << key;
+    EXPECT_EQ(list.FindKey("#2"), 2);
+
+    const std::int32_t rest[] = {2, 3};
+    list.Remove(rest);
+    EXPECT_EQ(list.Count(), 0);
+    EXPECT_EQ(list.current, -1);
+    source->rows.push_back({"e"});
+    EXPECT_EQ(list.AddSourceRow(), 5);
+    EXPECT_EQ(list.current, 5);
+    EXPECT_TRUE(list.Selected(5));
+    list.Sort();
+    EXPECT_EQ(DisplayedPlaces(list), std::vector<std::int32_t>{5});
+
+    list.Clear();
+    EXPECT_EQ(source.use_count(), 1);
+    EXPECT_EQ(list.AddSourceRow(), -1);
+    EXPECT_EQ(list.Add({"#x", "", "", Colour::Red, {"x"}}), 0);
+    EXPECT_EQ(list.FindKey("#X"), 0);
 }
 
 }  // namespace
