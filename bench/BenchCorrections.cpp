@@ -12,7 +12,7 @@
 #include "operations/CorrectFlightLevels.h"
 #include "operations/CorrectFlightTimes.h"
 #include "operations/RemoveMinus.h"
-#include "support/FakeHosts.h"
+#include "shuffler/ShuffleWorld.h"
 
 namespace orlo {
 namespace {

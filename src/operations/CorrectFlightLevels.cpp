@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/TextMemo.h"
 #include "operations/PlanCorrection.h"
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/PlanPositions.h"
@@ -11,16 +12,44 @@
 namespace orlo {
 namespace {
 
+// What the installed aircraft of the plan can fly.
+class InstalledLimits {
+  public:
+    explicit InstalledLimits(const Session& session)
+        : index_(InstalledPlacesByNumber(session)), places_(session.PlanAircrafts.size()) {
+        limits_.reserve(session.FSAircrafts.size());
+        for (const FSAircraft& aircraft : session.FSAircrafts) {
+            limits_.push_back({aircraft.MinFL, aircraft.MaxFL});
+        }
+    }
+
+    // Null when no aircraft of that number is installed.
+    const LevelLimits* Find(std::string_view acNumber) {
+        const std::int32_t place = places_.Get(acNumber, [this](std::string_view number) {
+            const std::int32_t* found = index_.Find(number);
+            return found == nullptr ? -1 : *found;
+        });
+        return place < 0 ? nullptr : &limits_[static_cast<std::size_t>(place)];
+    }
+
+  private:
+    KeyedIndex<std::int32_t> index_;
+    TextMemo places_;
+    std::vector<LevelLimits> limits_;  // one an installed aircraft
+};
+
 // Draws the levels of one flight after the other.
 class LevelDrawer {
   public:
     LevelDrawer(const Session& session, RandomSource& random)
-        : rules_(session.FlightLevelRules), positions_(session), random_(random) {}
+        : rules_(session.FlightLevelRules),
+          positions_(session),
+          places_(session.PlanAirports.size()),
+          random_(random) {}
 
     // One level a leg, in the order of the legs; they hold until the next draw.
     const std::vector<std::string>& Draw(const FlightView& flight, LevelLimits limits) {
         levels_.resize(static_cast<std::size_t>(flight.LegCount));
-        const End start = Find(flight.StartAirport());
         End first;
         End from;
         std::size_t number = 0;
@@ -34,7 +63,8 @@ class LevelDrawer {
             from = to;
             ++number;
         }
-        if (number > 0) levels_[0] = DrawLevel(flight.FlightType, start, first, limits);
+        // The first leg starts where the last one ended.
+        if (number > 0) levels_[0] = DrawLevel(flight.FlightType, from, first, limits);
         return levels_;
     }
 
@@ -44,7 +74,9 @@ class LevelDrawer {
         std::int32_t place = -1;
     };
 
-    End Find(std::string_view code) const { return {code, positions_.Place(code)}; }
+    End Find(std::string_view code) {
+        return {code, places_.Get(code, [this](std::string_view text) { return positions_.Place(text); })};
+    }
 
     // A distance or course of -1 takes part like any other.
     std::string DrawLevel(std::string_view flightRules, const End& from, const End& to, LevelLimits limits) {
@@ -56,6 +88,7 @@ class LevelDrawer {
 
     const std::vector<FlightLevelRule>& rules_;
     PlanPositions positions_;
+    TextMemo places_;
     RandomSource& random_;
     std::vector<std::string> levels_;
 };
@@ -83,20 +116,19 @@ void CorrectLevelsOfPlan(Context& context) {
 }  // namespace
 
 void CorrectFlightLevels(Session& session, RandomSource& random) {
-    const KeyedIndex<std::int32_t> places = InstalledPlacesByNumber(session);
+    InstalledLimits installed(session);
     LevelDrawer drawer(session, random);
     const FlightList& plan = session.Flights;
     FlightList flights;
     flights.Reserve(plan.Count());
     for (std::int32_t i = 0; i < plan.Count(); ++i) {
         const FlightView flight = plan.At(i);
-        const std::int32_t* place = places.Find(flight.ACNumber);
-        if (place == nullptr) {
+        const LevelLimits* limits = installed.Find(flight.ACNumber);
+        if (limits == nullptr) {
             flights.AppendFrom(plan, i);
-            continue;
+        } else {
+            StoreLevels(plan, i, drawer.Draw(flight, *limits), flights);
         }
-        const FSAircraft& aircraft = session.FSAircrafts[static_cast<std::size_t>(*place)];
-        StoreLevels(plan, i, drawer.Draw(flight, {aircraft.MinFL, aircraft.MaxFL}), flights);
     }
     session.Flights = std::move(flights);
 }
