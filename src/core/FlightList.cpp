@@ -271,7 +271,7 @@ void FlightList::CommitRow(std::size_t length, std::int32_t legCount) {
 }
 
 std::size_t FlightList::MemoryBytes() const {
-    return arena_->Bytes() + handles_.capacity() * sizeof(Handle);
+    return arena_->Bytes() + HandleBytes();
 }
 
 }  // namespace orlo

@@ -135,6 +135,8 @@ class FlightList {
 
     // Bytes that the rows of this list's arena take, dead ones included, and its handles.
     std::size_t MemoryBytes() const;
+    // Of the handles alone: what a further list on the same arena costs.
+    std::size_t HandleBytes() const { return handles_.capacity() * sizeof(Handle); }
 
   private:
     class Arena;

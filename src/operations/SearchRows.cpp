@@ -64,6 +64,11 @@ SearchRows::SearchRows(FlightList flights, std::vector<std::string> errors, cons
     }
 }
 
+std::size_t SearchRows::MemoryBytes() const {
+    return flights_.HandleBytes() + errors_.capacity() * sizeof(std::string) +
+           aircraftOfRow_.capacity() * sizeof(std::int32_t);
+}
+
 void SearchRows::SetFlight(std::int32_t row, const Flight& flight, const MatchedAircraft& matched) {
     const FSAircraft* entry = matched.Find(flight.ACNumber);
     std::int32_t shown = 0;

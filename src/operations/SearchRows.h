@@ -39,6 +39,8 @@ class SearchRows : public RowSource {
     void AppendText(std::int32_t row, std::int32_t column, std::string& out) const override;
 
     std::int32_t Count() const { return flights_.Count(); }
+    // What it holds a row beside the flights and the errors' texts.
+    std::size_t MemoryBytes() const;
     void SetZone(std::string_view zone) { zone_ = zone; }
     // The flight of a row that stands, or a further row, joined to its aircraft anew.
     void SetFlight(std::int32_t row, const Flight& flight, const MatchedAircraft& matched);
