@@ -305,7 +305,7 @@ TEST(ListView, PackedRowsAndThoseOfASourceSortAlikeInBothDirections) {
     } kinds[] = {
         {"few texts", [&] { return shout(Concat("airline ", draw(20))); }},
         {"texts that come twice or thrice", [&] { return shout(Concat("d-a", draw(1000))); }},
-        {"more texts than are worth sharing", [&] { return shout(Concat("n", draw(30000))); }, 40000},
+        {"more texts than are worth sharing", [&] { return shout(Concat("n", draw(80000))); }, 40000},
         {"all one text", [&] { return shout("week"); }},
         {"long beginnings that are equal",
          [&] { return std::string(500, 'x') + shout(Concat("e", draw(900))); }},
