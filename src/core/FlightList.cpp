@@ -115,6 +115,15 @@ std::string_view FlightView::StartAirport() const {
     return last == std::string_view::npos ? LegText : LegText.substr(last + 1);
 }
 
+LegView FlightView::LastLeg() const {
+    if (LegCount == 0) return {};
+    std::size_t start = LegText.size();
+    for (int field = 0; field < kLegFields && start != std::string_view::npos; ++field) {
+        start = start == 0 ? std::string_view::npos : LegText.rfind(kFieldSeparator, start - 1);
+    }
+    return FieldReader(start == std::string_view::npos ? LegText : LegText.substr(start + 1)).NextLeg();
+}
+
 FlightList::FlightList() : arena_(std::make_shared<Arena>()) {}
 
 FlightList FlightList::SharingRowsOf(const FlightList& other) {

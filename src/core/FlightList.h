@@ -87,6 +87,8 @@ struct FlightView {
 
     // Where the round starts: the Destination of the last leg. Empty without legs.
     std::string_view StartAirport() const;
+    // All texts empty without legs.
+    LegView LastLeg() const;
 };
 
 // The flights of a plan, packed. Each flight is one immutable row in an arena that copies of the list share,

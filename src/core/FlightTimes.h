@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,8 +10,9 @@
 
 namespace orlo {
 
-// The times of one flight as numbers: what check, correction and acceptance measure on. All are whole seconds.
-// A time that can't be read gives no measure, and nothing else suffers from it. Legs are counted from 0.
+// The times of one flight as numbers: what check, correction and acceptance measure on. All are whole
+// seconds. A time that can't be read gives no measure, and nothing else suffers from it. Legs are counted
+// from 0.
 class FlightTimes {
   public:
     explicit FlightTimes(const FlightView& flight);
@@ -31,15 +33,48 @@ class FlightTimes {
     // starts `hours` later.
     std::optional<std::int64_t> ClosingTurnAround(std::int64_t hours) const;
 
+    // Moves departure and arrival of a leg, which is 1 or more, by the same seconds in either direction; a
+    // daily flight wraps at midnight, a weekly one at the end of the week. False, with nothing changed, when
+    // either time can't be read. Moving legs in their order takes linear time.
+    bool Move(std::int32_t leg, std::int64_t seconds);
+
+    // Whether Move has moved the leg, and how its times are written then.
+    bool Moved(std::int32_t leg) const { return LegAt(leg).moved; }
+    std::string DepartText(std::int32_t leg) const;
+    std::string ArriveText(std::int32_t leg) const;
+
   private:
-    struct LegTimes {
-        std::optional<std::int32_t> departDay;  // 0 to 6, weekly flights only
-        std::optional<std::int32_t> arriveDay;
-        std::optional<std::int32_t> depart;  // since midnight
-        std::optional<std::int32_t> arrive;
+    struct Time {
+        std::optional<std::int32_t> day;    // 0 to 6, weekly flights only
+        std::optional<std::int32_t> clock;  // since midnight
     };
+    struct LegTimes {
+        Time depart;
+        Time arrive;
+        bool moved = false;
+    };
+
+    static Time ReadTime(std::string_view text, bool weekly);
+    const LegTimes& LegAt(std::int32_t leg) const { return legs_[static_cast<std::size_t>(leg)]; }
+
+    std::optional<std::int64_t> SecondsOf(const Time& time) const;
+    Time TimeAt(std::int64_t seconds) const;
+    std::string TextOf(const Time& time) const;
+
+    void FindTurnOfWeek();
+    void SettleFirstOff();
+    void SettleLastBeyond();
+    bool Off(std::int32_t leg) const;
+    bool Beyond(std::int32_t leg) const;
+    bool ArrivesNextWeek(std::int32_t nextLeg) const;
+    bool DepartsNextWeek(std::int32_t leg) const;
+
     bool weekly_ = false;
     std::vector<LegTimes> legs_;
+
+    // What the placing of week times asks of all legs in front of a leg, and of all legs behind it.
+    std::int32_t firstOff_ = 0;     // first leg for which Off holds; LegCount() without one
+    std::int32_t lastBeyond_ = -1;  // last leg for which Beyond holds; -1 without one
 };
 
 enum class TurnAroundTest { Passes, TooShort, TooLong };

@@ -82,12 +82,15 @@ struct Session {
     bool RemoveMinus = false;
     bool CheckFL = true;
 
-    // Search state.
+    // Search state. After a flight that was to be added was given up, the lists hold it as one more element
+    // past the count.
     FlightList SearchResults;
     std::vector<std::int32_t> SearchResultIndex;  // place in Flights, ascending
-    std::vector<std::string> SearchResultText;
+    std::vector<std::string> SearchResultText;    // errors, after a search that tells them
+    std::int32_t SearchResultCount = 0;
 
     void ClearSearch() {
+        SearchResultCount = 0;
         SearchResults.Clear();
         SearchResultIndex.clear();
         SearchResultText.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/AboutForm.h"
+#include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
 #include "forms/SplashForm.h"
@@ -13,6 +14,7 @@ struct Forms {
     ProgressForm frmProgress;
     SplashForm frmSplash;
     AboutForm frmAbout;
+    FlightEditForm frmFlightEdit;
 };
 
 }  // namespace orlo

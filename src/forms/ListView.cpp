@@ -76,7 +76,7 @@ std::int32_t ListView::Add(const ListRow& row) {
     return place;
 }
 
-void ListView::ShowSource(std::shared_ptr<const RowSource> source, std::int32_t rows) {
+void ListView::ShowSource(std::shared_ptr<RowSource> source, std::int32_t rows) {
     Clear();
     source_ = std::move(source);
     if (rows <= 0) return;

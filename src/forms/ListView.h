@@ -61,7 +61,9 @@ struct ListView : Control {
     std::int32_t Add(const ListRow& row);
     // Replaces all rows by rows 0 to `rows` - 1 of the source, in that order or sorted where sorting is on.
     // Row 0 becomes current and alone selected. The source, never null, is let go by Clear.
-    void ShowSource(std::shared_ptr<const RowSource> source, std::int32_t rows);
+    void ShowSource(std::shared_ptr<RowSource> source, std::int32_t rows);
+    // Null in a list of other rows.
+    RowSource* Source() const { return source_.get(); }
     // Adds the row behind the last one that was ever drawn from the source, which must have it by now, as Add
     // does; -1, with nothing changed, in a list without a source.
     std::int32_t AddSourceRow();
@@ -137,7 +139,7 @@ struct ListView : Control {
     void ReplaceRow(std::int32_t place, std::string_view row);
     void DropDeadBytes();
 
-    std::shared_ptr<const RowSource> source_;
+    std::shared_ptr<RowSource> source_;
     BytePages pages_;
     std::size_t liveBytes_ = 0;
     std::size_t deadBytes_ = 0;

@@ -16,6 +16,7 @@ BusyMainWindow::BusyMainWindow(Context& context) : form_(context.forms.frmMain) 
 }
 
 BusyMainWindow::~BusyMainWindow() {
+    if (staysBusy_) return;
     form_.enabled = true;
     form_.pointer = PointerShape::Normal;
 }

@@ -11,11 +11,14 @@ class BusyMainWindow {
   public:
     explicit BusyMainWindow(Context& context);
     ~BusyMainWindow();
+    // The window stays disabled when the operation ends.
+    void StayBusy() { staysBusy_ = true; }
     BusyMainWindow(const BusyMainWindow&) = delete;
     BusyMainWindow& operator=(const BusyMainWindow&) = delete;
 
   private:
     MainForm& form_;
+    bool staysBusy_ = false;
 };
 
 // While it lives the drawing of a form stands still.

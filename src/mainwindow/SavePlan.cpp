@@ -1,7 +1,6 @@
 #include "mainwindow/SavePlan.h"
 
 #include "core/Application.h"
-#include "core/FlightplanFile.h"
 #include "core/Path.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/BulkOperation.h"
@@ -18,6 +17,14 @@ MessageAnswer AskToSavePlan(Context& context) {
     return AskToSave(context, "Save the modified Flightplan?");
 }
 
+void ReportPlanNotWritten(Context& context, const std::string& path, const PlanWriteResult& written) {
+    if (!written.PlanWritten) {
+        ReportNotWritten(context, path);
+    } else if (!written.RemovedWritten) {
+        ReportNotWritten(context, JoinPath(ParentFolder(path), kRemovedFlightsName));
+    }
+}
+
 void SaveFlightplan(Context& context) {
     Session& session = context.session;
     FileSystem& files = context.services.files;
@@ -25,13 +32,8 @@ void SaveFlightplan(Context& context) {
     const PlanWriteResult plan =
         WriteFlightplan(files, session.FlightplanPath, session.Flights, session.BackupPlan);
     const bool aircraftWritten = WritePlanAircraft(session, files);
-    if (!plan.PlanWritten) {
-        ReportNotWritten(context, session.FlightplanPath);
-    } else if (!plan.RemovedWritten) {
-        ReportNotWritten(context, JoinPath(ParentFolder(session.FlightplanPath), kRemovedFlightsName));
-    } else if (!aircraftWritten) {
-        ReportNotWritten(context, PlanAircraftPath(session));
-    }
+    if (plan.Complete() && !aircraftWritten) ReportNotWritten(context, PlanAircraftPath(session));
+    ReportPlanNotWritten(context, session.FlightplanPath, plan);
     session.PlanModified = false;
     context.forms.frmMain.mnuFileSave.enabled = false;
     ShowMessage(context.services.messages, "Successfully saved modified Flightplan.", kMarkInformation,

@@ -8,6 +8,7 @@ EventTable EventsOf(const Forms& forms, const Form& form) {
     if (&form == &forms.frmMain) return MainEvents();
     if (&form == &forms.frmSplash) return SplashEvents();
     if (&form == &forms.frmAbout) return AboutEvents();
+    if (&form == &forms.frmFlightEdit) return FlightEditEvents();
     return {};
 }
 

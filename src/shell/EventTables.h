@@ -8,6 +8,7 @@ namespace orlo {
 EventTable MainEvents();
 EventTable SplashEvents();
 EventTable AboutEvents();
+EventTable FlightEditEvents();
 
 // The table of a form; empty for a form without events.
 EventTable EventsOf(const Forms& forms, const Form& form);

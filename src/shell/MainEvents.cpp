@@ -2,7 +2,14 @@
 
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
+#include "operations/EditFlights.h"
+#include "operations/ExportFlights.h"
+#include "operations/PrintFlights.h"
+#include "operations/CorrectFlightLevels.h"
+#include "operations/CorrectFlightTimes.h"
+#include "operations/RemoveMinus.h"
 #include "shell/EventTables.h"
+#include "shell/ExportTab.h"
 #include "shell/HelpMenu.h"
 #include "shell/MenuSwitches.h"
 #include "shell/OpenPlan.h"
@@ -39,13 +46,17 @@ void CloseMainWindow(Context& context, Event& event) {
     }
 }
 
-// Delete and Insert on a list stand for its buttons.
-void OnExportKey(Context& context, Event& event) {
-    MainForm& form = context.forms.frmMain;
-    if (event.value == kKeyDelete) RunButton(context, form.cmdDeleteFlight);
-    if (event.value == kKeyInsert) RunButton(context, form.cmdAddFlight);
+// The name is shared with the editor's entry.
+void EditCurrentFlight(Context& context, Event&) {
+    EditFlight(context);
 }
 
+template <SearchMode Mode>
+void Report(Context& context, Event&) {
+    ShowReport(context, Mode);
+}
+
+// Delete and Insert on the list stand for its buttons.
 void OnProjectKey(Context& context, Event& event) {
     MainForm& form = context.forms.frmMain;
     if (event.value == kKeyDelete) RunButton(context, form.cmdProjectDelete);
@@ -98,14 +109,15 @@ constexpr std::array kMainEvents = {
     EventEntry{"cmdMoveLoad", Click},
     EventEntry{"cmdMoveExecute", Click},
 
-    EventEntry{"cmExZone", Change},
-    EventEntry{"cmdPreview", Click},
-    EventEntry{"cmdExport", Click},
-    EventEntry{"cmdExportRemainder", Click},
-    EventEntry{"cmdExportPrint", Click},
-    EventEntry{"cmdEditFlight", Click},
-    EventEntry{"cmdAddFlight", Click},
-    EventEntry{"cmdDeleteFlight", Click},
+    EventEntry{"cmExZone", Change, Run<OnExportZone>},
+    EventEntry{"cmdPreview", Click, Run<OnPreview>},
+    EventEntry{"cmdExport", Click, Run<ExportFlights>},
+    EventEntry{"cmdExportRemainder", Click, Run<ExportRemainder>},
+    EventEntry{"cmdExportPrint", Click, Run<PrintFlights>},
+    EventEntry{"cmdEditFlight", Click, EditCurrentFlight},
+    EventEntry{"cmdAddFlight", Click, Run<AddFlight>},
+    EventEntry{"cmdDeleteFlight", Click, Run<DeleteFlights>},
+    EventEntry{"lvExPreview", DoubleClick, EditCurrentFlight},
     EventEntry{"lvExPreview", ClickColumn, SortByColumn},
     EventEntry{"lvExPreview", KeyUp, OnExportKey},
 
@@ -155,14 +167,14 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuToolsAirportDistance", Click},
     EventEntry{"mnuToolsAirportSearch", Click},
     EventEntry{"mnuToolsResizeGates", Click},
-    EventEntry{"mnuReportsNotFound", Click},
-    EventEntry{"mnuReportsDuplicateFlights", Click},
-    EventEntry{"mnuReportsUnknownAirports", Click},
-    EventEntry{"mnuReportsWrongFL", Click},
-    EventEntry{"mnuReportsWrongTime", Click},
-    EventEntry{"mnuToolsCheckFL", Click},
-    EventEntry{"mnuToolsCheckFT", Click},
-    EventEntry{"mnuToolsRemoveMinus", Click},
+    EventEntry{"mnuReportsNotFound", Click, Report<SearchMode::AircraftNotFound>},
+    EventEntry{"mnuReportsDuplicateFlights", Click, Report<SearchMode::DuplicateFlights>},
+    EventEntry{"mnuReportsUnknownAirports", Click, Report<SearchMode::UnknownAirports>},
+    EventEntry{"mnuReportsWrongFL", Click, Report<SearchMode::WrongFlightLevel>},
+    EventEntry{"mnuReportsWrongTime", Click, Report<SearchMode::WrongTime>},
+    EventEntry{"mnuToolsCheckFL", Click, Run<OnCorrectFlightLevels>},
+    EventEntry{"mnuToolsCheckFT", Click, Run<OnCorrectFlightTimes>},
+    EventEntry{"mnuToolsRemoveMinus", Click, Run<OnRemoveMinusFromTailNumbers>},
     EventEntry{"mnuToolsRandPlan", Click},
     EventEntry{"mnuToolsRandPerc", Click},
     EventEntry{"mnuToolsRandFlightNumbers", Click},

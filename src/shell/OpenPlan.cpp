@@ -12,6 +12,7 @@
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/TreeSelection.h"
+#include "shell/ExportTab.h"
 #include "shell/Tabs.h"
 #include "simulator/AircraftScan.h"
 #include "simulator/TitleIndex.h"
@@ -103,7 +104,7 @@ void OfferMissingAircraft(Context& context) {
         context.services.messages,
         "Some aircraft could not been found on your system. Would you like to see all related flights?",
         kButtonsYesNo | kMarkExclamation, &context.forms.frmMain);
-    if (answer == MessageAnswer::Yes) context.forms.frmMain.tabMain.selectedKey = "EXPORT";
+    if (answer == MessageAnswer::Yes) ShowReport(context, SearchMode::AircraftNotFound);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -47,7 +48,10 @@ class FakeWindows : public WindowHost {
     int eventsProcessed = 0;
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
-    void ShowModal(Form&, Form*) override {}
+    std::function<void(Form&)> onModal;  // what the user does in a modal form
+    void ShowModal(Form& form, Form*) override {
+        if (onModal) onModal(form);
+    }
     void UnloadForm(Form&) override {}
     bool KeepsWindowPlace() const override { return keepsWindowPlace; }
     void ShowNotBuilt(std::string_view controlName) override { notBuilt.emplace_back(controlName); }

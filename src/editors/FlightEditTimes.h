@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/Session.h"
+#include "forms/FlightEditForm.h"
+#include "simulator/PlanPositions.h"
+
+namespace orlo {
+
+// Whether the flight repeats every week: the period "WEEK", case aside.
+bool IsWeekly(const Flight& flight);
+
+// A stored time moved from GMT to the zone, with `invert` back. Its day prefix, where it has one, rolls over
+// with it. A time that can't be read comes back as it was.
+std::string ShiftTimeText(std::string_view time, std::string_view zone, bool invert);
+
+// A time as the fields show it.
+struct FieldTime {
+    std::int32_t Day = -1;  // 0 to 6 in a weekly flight; -1 in a daily one, and where the prefix is no day
+    std::string Clock;
+};
+// A weekly time without a prefix is one of Sunday.
+FieldTime TimeForFields(std::string_view time, bool weekly, std::string_view zone);
+
+// The stored form of a time of the zone; `day` (0 to 6) counts in a weekly flight alone.
+std::string TimeForStorage(std::int32_t day, std::int32_t seconds, bool weekly, std::string_view zone);
+
+// Where leg `leg` starts. All places of legs are those of legs that stand.
+std::int32_t LegBefore(const Flight& flight, std::int32_t leg);
+const std::string& LegStart(const Flight& flight, std::int32_t leg);
+
+// The place in PlanAircrafts of the aircraft chosen in cmAircraft; -1 without one.
+std::int32_t ChosenAircraft(const FlightEditForm& form, const Session& session);
+// What is installed for it; null without one, and where it isn't installed.
+const FSAircraft* InstalledAircraft(const FlightEditForm& form, const Session& session);
+
+// When the chosen aircraft arrives that leaves at `departure`, in its form. `aircraft` is a place in
+// PlanAircrafts.
+std::string ArrivalOfLeg(const Session& session, const PlanPositions& positions, const Flight& flight,
+                         std::int32_t leg, std::string_view departure, std::int32_t aircraft);
+
+}  // namespace orlo

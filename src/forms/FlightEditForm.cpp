@@ -1,0 +1,39 @@
+#include "forms/FlightEditForm.h"
+
+#include <array>
+
+#include "core/Text.h"
+#include "core/TimeZoneNames.h"
+
+namespace orlo {
+namespace {
+
+struct PeriodEntry {
+    std::string_view text;
+    std::int32_t hours;
+};
+
+constexpr std::array kPeriods = {PeriodEntry{"1Hr", 1},   PeriodEntry{"2Hr", 2}, PeriodEntry{"4Hr", 4},
+                                 PeriodEntry{"6Hr", 6},   PeriodEntry{"8Hr", 8}, PeriodEntry{"12Hr", 12},
+                                 PeriodEntry{"24Hr", 24}, PeriodEntry{"WEEK", 0}};
+
+constexpr std::array<std::string_view, 7> kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                   "Thursday", "Friday", "Saturday"};
+
+constexpr std::array<std::string_view, 6> kColumns = {"From",          "To",          "Depart", "Arrive",
+                                                      "Flight Number", "Flight Level"};
+
+}  // namespace
+
+FlightEditForm::FlightEditForm() : Form("frmFlightEdit", "Flight Editor") {
+    for (const PeriodEntry& period : kPeriods) cmPeriod.Add(period.text, period.hours);
+    for (const std::string_view zone : kTimeZoneNames) cmZone.Add(zone);
+    cmZone.SelectText("GMT");
+    for (const std::string_view day : kDays) cmDay.Add(day);
+    for (const std::string_view column : kColumns) lvLegs.AddColumn(UpperText(column), column);
+    lvLegs.accessibleName = "Legs";
+    defaultButton = &cmdOK;
+    cancelButton = &cmdCancel;
+}
+
+}  // namespace orlo

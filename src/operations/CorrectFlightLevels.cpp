@@ -1,0 +1,108 @@
+#include "operations/CorrectFlightLevels.h"
+
+#include <string>
+#include <vector>
+
+#include "operations/PlanCorrection.h"
+#include "simulator/FlightLevelMaths.h"
+#include "simulator/PlanPositions.h"
+#include "simulator/TitleIndex.h"
+
+namespace orlo {
+namespace {
+
+// Draws the levels of one flight after the other.
+class LevelDrawer {
+  public:
+    LevelDrawer(const Session& session, RandomSource& random)
+        : rules_(session.FlightLevelRules), positions_(session), random_(random) {}
+
+    // One level a leg, in the order of the legs; they hold until the next draw.
+    const std::vector<std::string>& Draw(const FlightView& flight, LevelLimits limits) {
+        levels_.resize(static_cast<std::size_t>(flight.LegCount));
+        const End start = Find(flight.StartAirport());
+        End first;
+        End from;
+        std::size_t number = 0;
+        for (const LegView& leg : flight) {
+            const End to = Find(leg.Destination);
+            if (number == 0) {
+                first = to;
+            } else {
+                levels_[number] = DrawLevel(flight.FlightType, from, to, limits);
+            }
+            from = to;
+            ++number;
+        }
+        if (number > 0) levels_[0] = DrawLevel(flight.FlightType, start, first, limits);
+        return levels_;
+    }
+
+  private:
+    struct End {
+        std::string_view code;
+        std::int32_t place = -1;
+    };
+
+    End Find(std::string_view code) const { return {code, positions_.Place(code)}; }
+
+    // A distance or course of -1 takes part like any other.
+    std::string DrawLevel(std::string_view flightRules, const End& from, const End& to, LevelLimits limits) {
+        const bool sameCode = from.code == to.code;
+        const std::int32_t distance = sameCode ? 0 : positions_.Distance(from.place, to.place);
+        const std::int32_t course = sameCode ? -1 : positions_.Course(from.place, to.place);
+        return SuggestFlightLevel(rules_, flightRules, distance, course, limits, false, random_);
+    }
+
+    const std::vector<FlightLevelRule>& rules_;
+    PlanPositions positions_;
+    RandomSource& random_;
+    std::vector<std::string> levels_;
+};
+
+// The flight at `index` of the plan with other levels.
+void StoreLevels(const FlightList& plan, std::int32_t index, const std::vector<std::string>& levels,
+                 FlightList& flights) {
+    const FlightView flight = plan.At(index);
+    std::size_t size = plan.Row(index).size() + 1;
+    for (const std::string& level : levels) size += level.size();
+    flights.BeginRow(size);
+    AddFlightFields(flight, flights);
+    std::size_t number = 0;
+    for (LegView leg : flight) {
+        leg.FlightLevel = levels[number++];
+        AddLegFields(leg, flights);
+    }
+    flights.EndRow(flight.LegCount, flight.Removed);
+}
+
+void CorrectLevelsOfPlan(Context& context) {
+    CorrectFlightLevels(context.session, context.services.random);
+}
+
+}  // namespace
+
+void CorrectFlightLevels(Session& session, RandomSource& random) {
+    const KeyedIndex<std::int32_t> places = InstalledPlacesByNumber(session);
+    LevelDrawer drawer(session, random);
+    const FlightList& plan = session.Flights;
+    FlightList flights;
+    flights.Reserve(plan.Count());
+    for (std::int32_t i = 0; i < plan.Count(); ++i) {
+        const FlightView flight = plan.At(i);
+        const std::int32_t* place = places.Find(flight.ACNumber);
+        if (place == nullptr) {
+            flights.AppendFrom(plan, i);
+            continue;
+        }
+        const FSAircraft& aircraft = session.FSAircrafts[static_cast<std::size_t>(*place)];
+        StoreLevels(plan, i, drawer.Draw(flight, {aircraft.MinFL, aircraft.MaxFL}), flights);
+    }
+    session.Flights = std::move(flights);
+}
+
+void OnCorrectFlightLevels(Context& context) {
+    RunPlanCorrection(context, CorrectLevelsOfPlan, "Successfully checked Flight Levels for all flights.");
+}
+
+}  // namespace orlo

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "mainwindow/Context.h"
+
+namespace orlo {
+
+// Gives every leg of every flight, removed ones too, a level drawn from those that suit its route and
+// aircraft: legs from the second to the last, then the first. A flight whose aircraft isn't installed keeps
+// its levels.
+void CorrectFlightLevels(Session& session, RandomSource& random);
+
+// The tool "Correct Flight Levels".
+void OnCorrectFlightLevels(Context& context);
+
+}  // namespace orlo

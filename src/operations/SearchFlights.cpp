@@ -1,0 +1,257 @@
+#include "operations/SearchFlights.h"
+
+#include <memory>
+#include <optional>
+
+#include "core/Number.h"
+#include "core/Text.h"
+#include "mainwindow/BulkOperation.h"
+#include "operations/CheckFlightTimes.h"
+#include "operations/DuplicateFlights.h"
+#include "operations/MatchedAircraft.h"
+#include "operations/SearchFields.h"
+#include "operations/SearchRows.h"
+#include "simulator/FlightLevelMaths.h"
+#include "simulator/PlanPositions.h"
+#include "simulator/Scenery.h"
+#include "simulator/TitleIndex.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kSearchStages = 4;
+constexpr std::string_view kErrorColumn = "ERROR";
+constexpr std::string_view kMatchingAircraft = "Matching Aircraft...";
+constexpr std::string_view kSearching = "Searching in Flights...";
+
+// Stages of a search on the progress window, which the first of them opens.
+class SearchProgress {
+  public:
+    explicit SearchProgress(Context& context) : context_(context) {}
+    void Stage(std::string_view text, int value) {
+        if (open_) return NextProgress(context_, text, value);
+        OpenProgress(context_, text, kSearchStages, value);
+        open_ = true;
+    }
+
+  private:
+    Context& context_;
+    bool open_ = false;
+};
+
+SearchFields ReadFields(const Context& context, std::string_view departure, std::string_view leg) {
+    const MainForm& form = context.forms.frmMain;
+    const Session& session = context.session;
+    SearchFields fields;
+    fields.MatchAll = form.opANDSearch.checked;
+    fields.Departure = departure;
+    fields.Leg = leg;
+    fields.Continent = form.txtExContinent.text;
+    fields.Country = form.txtExCountry.text;
+    fields.Airline = form.txtExAirline.text;
+    fields.IFR = form.ckExportIFR.checked;
+    fields.VFR = form.ckExportVFR.checked;
+    const auto itemData = [](const ComboBox& combo) {
+        return combo.index < 0 ? -1 : combo.entries[static_cast<std::size_t>(combo.index)].itemData;
+    };
+    const std::int32_t aircraft = itemData(form.cmExportAircraft);
+    if (form.cmExportAircraft.index != 0 && aircraft >= 0 && aircraft < session.PlanAircraftCount()) {
+        fields.ACNumber = session.PlanAircrafts[static_cast<std::size_t>(aircraft)].ACNumber;
+    }
+    fields.Class = itemData(form.cmExClass);
+    return fields;
+}
+
+// Whether a leg's level suits. A level that is no number never does; a leg whose length or course isn't known
+// counts as right.
+class LevelSearch {
+  public:
+    explicit LevelSearch(const Session& session)
+        : session_(session), positions_(session), installed_(InstalledPlacesByNumber(session)) {}
+
+    bool HasWrongLevel(const FlightView& flight) const {
+        const std::int32_t* place = installed_.Find(flight.ACNumber);
+        if (place == nullptr || flight.LegCount == 0) return false;
+        const FSAircraft& aircraft = session_.FSAircrafts[static_cast<std::size_t>(*place)];
+        const LevelLimits limits{aircraft.MinFL, aircraft.MaxFL};
+        std::string_view from = flight.StartAirport();
+        std::int32_t fromPlace = positions_.Place(from);
+        for (const LegView& leg : flight) {
+            const std::int32_t toPlace = positions_.Place(leg.Destination);
+            if (from != leg.Destination && IsWrong(flight, leg, fromPlace, toPlace, limits)) return true;
+            from = leg.Destination;
+            fromPlace = toPlace;
+        }
+        return false;
+    }
+
+  private:
+    bool IsWrong(const FlightView& flight, const LegView& leg, std::int32_t fromPlace, std::int32_t toPlace,
+                 LevelLimits limits) const {
+        const std::int32_t distance = positions_.Distance(fromPlace, toPlace);
+        const std::int32_t course = positions_.Course(fromPlace, toPlace);
+        if (distance == -1 || course == -1) return false;
+        const auto level = ParseWholeNumber(leg.FlightLevel);
+        return !level || !CheckFlightLevel(session_.FlightLevelRules, flight.FlightType, distance, course,
+                                           limits, *level)
+                              .Right;
+    }
+
+    const Session& session_;
+    PlanPositions positions_;
+    KeyedIndex<std::int32_t> installed_;
+};
+
+// The codes of the legs that the plan's airports lack, joined; nothing without one.
+std::optional<std::string> UnknownAirports(const Session& session, const FlightView& flight) {
+    std::optional<std::string> codes;
+    for (const LegView& leg : flight) {
+        if (session.PlanAirportIndex.Contains(leg.Destination)) continue;
+        codes = codes ? Concat(*codes, " | ", leg.Destination) : std::string(leg.Destination);
+    }
+    return codes;
+}
+
+// Walks the flights that are not removed and takes those that match.
+template <typename Matches>
+void CollectResults(Session& session, Matches matches) {
+    session.SearchResults = FlightList::SharingRowsOf(session.Flights);
+    for (std::int32_t place = 0; place < session.FlightCount(); ++place) {
+        if (session.Flights.Removed(place) || !matches(place, session.Flights.At(place))) continue;
+        session.SearchResults.AppendFrom(session.Flights, place);
+        session.SearchResultIndex.push_back(place);
+    }
+    session.SearchResultCount = session.SearchResults.Count();
+}
+
+void FillList(Context& context, const MatchedAircraft& matched, bool withErrors) {
+    MainForm& form = context.forms.frmMain;
+    const Session& session = context.session;
+    ListView& list = form.lvExPreview;
+    list.SwitchSorting(false);
+    list.Clear();
+    if (withErrors) {
+        list.AddColumn(kErrorColumn, "Errors");
+    } else {
+        list.RemoveColumn(kErrorColumn);
+    }
+    const auto rows = std::make_shared<SearchRows>(session.SearchResults, session.SearchResultText, matched,
+                                                   form.cmExZone.Text());
+    list.ShowSource(rows, rows->Count());
+    list.SwitchSorting(true);
+}
+
+// False where the scenery is needed and can't be had.
+bool SearchByFields(Context& context, SearchProgress& progress, std::string_view departure,
+                    std::string_view leg, const MatchedAircraft& matched) {
+    const SearchFields fields = ReadFields(context, departure, leg);
+    if (fields.AskForScenery()) {
+        progress.Stage("Getting FS2002 Scenery...", 1);
+        if (!ReadScenery(context.session, context.services)) return false;
+    }
+    if (!fields.Airline.empty()) progress.Stage(kMatchingAircraft, 1);
+    const FieldSearch search(fields, context.session, matched);
+    progress.Stage(kSearching, 2);
+    CollectResults(context.session, [&](std::int32_t, const FlightView& flight) { return search.Matches(flight); });
+    return true;
+}
+
+void SearchWrongLevels(Session& session, SearchProgress& progress) {
+    progress.Stage(kMatchingAircraft, 1);
+    const LevelSearch levels(session);
+    progress.Stage(kSearching, 2);
+    CollectResults(session,
+                   [&](std::int32_t, const FlightView& flight) { return levels.HasWrongLevel(flight); });
+}
+
+void SearchDuplicates(Session& session, SearchProgress& progress) {
+    progress.Stage("Preparing Flights...", 1);
+    const std::vector<std::int32_t> first = FirstOfEqualFlights(session.Flights);
+    progress.Stage(kSearching, 2);
+    CollectResults(session, [&](std::int32_t place, const FlightView&) {
+        return first[static_cast<std::size_t>(place)] != place;
+    });
+}
+
+void SearchWrongTimes(Session& session) {
+    CollectResults(session, [&](std::int32_t, const FlightView& flight) {
+        FlightTimesCheck check = CheckFlightTimes(flight, session.TATime, session.MaxTATime);
+        if (!check.Right) session.SearchResultText.push_back(std::move(check.Text));
+        return !check.Right;
+    });
+}
+
+void SearchUnknownAirports(Session& session) {
+    CollectResults(session, [&](std::int32_t, const FlightView& flight) {
+        std::optional<std::string> codes = UnknownAirports(session, flight);
+        if (codes) session.SearchResultText.push_back(std::move(*codes));
+        return codes.has_value();
+    });
+}
+
+// Fills the search state; false where the search can't be done.
+bool Search(Context& context, SearchProgress& progress, std::string_view departure, std::string_view leg,
+            SearchMode mode, const MatchedAircraft& matched) {
+    Session& session = context.session;
+    switch (mode) {
+        case SearchMode::Fields:
+            return SearchByFields(context, progress, departure, leg, matched);
+        case SearchMode::AircraftNotFound:
+            progress.Stage(kSearching, 2);
+            CollectResults(session, [&](std::int32_t, const FlightView& flight) {
+                return matched.Find(flight.ACNumber) == nullptr;
+            });
+            break;
+        case SearchMode::WrongFlightLevel:
+            SearchWrongLevels(session, progress);
+            break;
+        case SearchMode::WrongTime:
+            progress.Stage(kSearching, 2);
+            SearchWrongTimes(session);
+            break;
+        case SearchMode::DuplicateFlights:
+            SearchDuplicates(session, progress);
+            break;
+        case SearchMode::UnknownAirports:
+            progress.Stage(kSearching, 2);
+            SearchUnknownAirports(session);
+            break;
+    }
+    return true;
+}
+
+}  // namespace
+
+void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode) {
+    BusyMainWindow busy(context);
+    context.session.ClearSearch();
+    SearchProgress progress(context);
+    const MatchedAircraft matched(context.session);
+    if (!Search(context, progress, departure, leg, mode, matched)) return busy.StayBusy();
+
+    progress.Stage("Filling View...", 3);
+    MainForm& form = context.forms.frmMain;
+    FillList(context, matched, mode == SearchMode::WrongTime || mode == SearchMode::UnknownAirports);
+    ShowResultCount(form);
+    SelectCurrentOnly(form.lvExPreview);
+    context.services.progress.Close();
+}
+
+void EnableResultCommands(MainForm& form) {
+    const bool hasResults = form.lvExPreview.Count() > 0;
+    for (Button* button : {&form.cmdExport, &form.cmdExportRemainder, &form.cmdExportPrint,
+                           &form.cmdEditFlight, &form.cmdDeleteFlight}) {
+        button->enabled = hasResults;
+    }
+}
+
+void ShowResultCount(MainForm& form) {
+    form.lblExPreview.caption = Concat("Previe&w (", form.lvExPreview.Count(), " flights found)");
+}
+
+void SelectCurrentOnly(ListView& list) {
+    list.SelectAll(false);
+    if (list.current >= 0) list.Select(list.current, true);
+}
+
+}  // namespace orlo

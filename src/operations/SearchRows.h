@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/FlightList.h"
+#include "forms/RowSource.h"
+#include "operations/MatchedAircraft.h"
+
+namespace orlo {
+
+// The columns of lvExPreview. The last one stands only after a search that tells errors.
+enum SearchColumn : std::int32_t {
+    kColumnAirline,
+    kColumnAircraft,
+    kColumnNumber,
+    kColumnRegistration,
+    kColumnDeparture,
+    kColumnLegs,
+    kColumnPeriod,
+    kColumnDepart,
+    kColumnArrive,
+    kColumnFlightType,
+    kColumnFlightLevel,
+    kColumnPercent,
+    kColumnErrors,
+};
+
+// The rows of lvExPreview, one a result, their texts made when they are asked for. It holds what it shows, so
+// that the list stands whatever becomes of the session. `zone` is that of the columns Depart and Arrive.
+class SearchRows : public RowSource {
+  public:
+    SearchRows(FlightList flights, std::vector<std::string> errors, const MatchedAircraft& matched,
+               std::string_view zone);
+
+    void AppendText(std::int32_t row, std::int32_t column, std::string& out) const override;
+
+    std::int32_t Count() const { return flights_.Count(); }
+    void SetZone(std::string_view zone) { zone_ = zone; }
+    // The flight of a row that stands, or a further row, joined to its aircraft anew.
+    void SetFlight(std::int32_t row, const Flight& flight, const MatchedAircraft& matched);
+
+  private:
+    struct ShownAircraft {
+        std::string airline;
+        std::string title;
+    };
+    std::int32_t ShownPlace(std::string_view acNumber, const MatchedAircraft& matched) const;
+
+    FlightList flights_;
+    std::vector<std::string> errors_;          // may be shorter than the list
+    std::vector<ShownAircraft> shown_;         // "not found" first
+    std::vector<std::int32_t> aircraftOfRow_;  // places in shown_
+    std::string zone_;
+};
+
+// The column's form of a period, aircraft number and percent: "08Hr" for "8Hr", "WEEK" as it stands; "0012"
+// for "AC#12"; "05%" for "5%". Where there is no number the text stands.
+std::string PeriodColumn(std::string_view period);
+std::string NumberColumn(std::string_view acNumber);
+std::string PercentColumn(std::string_view percent);
+
+// A time of a flight in the zone, with its day prefix, where it has one, rolled over.
+std::string TimeInZone(std::string_view time, std::string_view zone);
+
+}  // namespace orlo

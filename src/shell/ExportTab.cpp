@@ -1,0 +1,39 @@
+#include "shell/ExportTab.h"
+
+#include "operations/SearchRows.h"
+#include "shell/EventTables.h"
+#include "shell/Tabs.h"
+
+namespace orlo {
+
+void OnPreview(Context& context) {
+    MainForm& form = context.forms.frmMain;
+    SearchFlights(context, form.txtExDeparture.text, form.txtExLeg.text, SearchMode::Fields);
+    EnableResultCommands(form);
+}
+
+void ShowReport(Context& context, SearchMode mode) {
+    MainForm& form = context.forms.frmMain;
+    SearchFlights(context, "", "", mode);
+    EnableResultCommands(form);
+    form.tabMain.selectedKey = "EXPORT";
+    ActivateTab(context);
+}
+
+void OnExportZone(Context& context) {
+    MainForm& form = context.forms.frmMain;
+    const std::string& zone = form.cmExZone.Text();
+    if (RowSource* rows = form.lvExPreview.Source()) {
+        static_cast<SearchRows*>(rows)->SetZone(zone);
+        form.lvExPreview.SourceChanged();
+    }
+    context.session.EXZone = zone;
+}
+
+void OnExportKey(Context& context, Event& event) {
+    MainForm& form = context.forms.frmMain;
+    if (event.value == kKeyDelete) RunButton(context, form.cmdDeleteFlight);
+    if (event.value == kKeyInsert) RunButton(context, form.cmdAddFlight);
+}
+
+}  // namespace orlo

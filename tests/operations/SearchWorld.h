@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "operations/SearchFlights.h"
+#include "support/FakeProgram.h"
+
+namespace orlo::test {
+
+// A program with a small plan open. Flights start at the last of their codes.
+struct SearchWorld : FakeProgram {
+    SearchWorld() {
+        AddInstalled("Jet One", "Lufthansa", kClassLargeJet);
+        AddInstalled("Prop Two", "", kClassMidProp);
+        AddInstalled("Jet Tre", "KLM Cityhopper", kClassHugeJet);
+        session.PlanAircrafts = {
+            {"AC#1", "JET ONE", "450", 0}, {"AC#2", "Prop Two", "200", 0}, {"AC#3", "Gone", "400", 0},
+            {"AC#4", "jet tre", "480", 0}};
+        AddAirport("EDDF", "Europe", "Germany", "N50* 2.0'", "E8* 34.0'");
+        AddAirport("KEDW", "North America", "United States", "N34* 54.0'", "W117* 53.0'");
+        AddAirport("EHAM", "Europe", "Netherlands", "N52* 18.0'", "E4* 45.0'");
+        session.FlightLevelRules = {{0, 9999, 0, 359, 250, 390, 20}};
+        session.PlanLoaded = true;
+    }
+
+    void AddInstalled(std::string title, std::string airline, std::int32_t aircraftClass) {
+        FSAircraft aircraft;
+        aircraft.Title = std::move(title);
+        aircraft.Airline = std::move(airline);
+        aircraft.Class = aircraftClass;
+        aircraft.MinFL = 100;
+        aircraft.MaxFL = 410;
+        session.FSAircrafts.push_back(aircraft);
+    }
+
+    void AddAirport(std::string code, std::string region, std::string country, std::string latitude,
+                    std::string longitude) {
+        PlanAirport planAirport;
+        planAirport.ICAO = code;
+        planAirport.Latitude = latitude;
+        planAirport.Longitude = longitude;
+        session.PlanAirportIndex.Add(code, session.PlanAirportCount());
+        session.PlanAirports.push_back(planAirport);
+        AirportRecord record;
+        record.ICAO = std::move(code);
+        record.Region = std::move(region);
+        record.Country = std::move(country);
+        session.Airports.push_back(record);
+    }
+
+    void Add(const std::string& line, bool removed = false) {
+        if (!AppendFlightplanLine(line, session.Flights)) throw std::runtime_error(line);
+        session.Flights.SetRemoved(session.FlightCount() - 1, removed);
+    }
+
+    // Places of the results.
+    const std::vector<std::int32_t>& Found() const { return session.SearchResultIndex; }
+
+    // A row of the list as displayed, texts joined by "|".
+    std::string Row(std::int32_t position) const {
+        const ListView& list = form.lvExPreview;
+        std::string row;
+        for (std::size_t i = 0; i < list.columns.size(); ++i) {
+            row.append(i == 0 ? "" : "|");
+            row.append(list.Text(list.PlaceAt(position), static_cast<std::int32_t>(i)));
+        }
+        return row;
+    }
+};
+
+}  // namespace orlo::test

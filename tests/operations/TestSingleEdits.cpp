@@ -1,0 +1,198 @@
+#include <gtest/gtest.h>
+
+#include "core/FlightplanFile.h"
+#include "mainwindow/PlanViews.h"
+#include "operations/EditFlights.h"
+#include "operations/ExportFlights.h"
+#include "operations/PrintFlights.h"
+#include "operations/SearchWorld.h"
+
+namespace orlo {
+namespace {
+
+// Seven flights between EDDF and EHAM whose tail numbers are N0 to N6, all found.
+struct EditWorld : test::SearchWorld {
+    EditWorld() {
+        for (int i = 0; i < 7; ++i) {
+            Add(Concat("AC#1,N", i,
+                       ",5%,24Hr,IFR,10:00:00,11:00:00,350,F,1,EHAM,12:00:00,13:00:00,330,F,2,EDDF"));
+        }
+        session.FlightplanPath = "/plan/FlightPlans.txt";
+        ResetExportView(context);
+        SearchFlights(context, "", "", SearchMode::Fields);
+        EnableResultCommands(form);
+    }
+    // The user's work in the editor: changes the tail number and accepts, or cancels.
+    void EditorSays(std::string tail) {
+        world.windows.onModal = [this, tail](Form&) {
+            FlightEditForm& editor = program.forms.frmFlightEdit;
+            editor.txtReg.text = tail;
+            Event change{&editor, &editor.txtReg, EventKind::Leave};
+            program.pump.Deliver(change);
+            Press(tail.empty() ? editor.cmdCancel : editor.cmdOK);
+        };
+    }
+    void SelectPlaces(const std::vector<std::int32_t>& places) {
+        form.lvExPreview.SelectAll(false);
+        for (const std::int32_t place : places) form.lvExPreview.Select(place, true);
+    }
+    // Registrations of the plan, "-" behind removed ones.
+    std::string Tails(const FlightList& flights) const {
+        std::string tails;
+        for (std::int32_t i = 0; i < flights.Count(); ++i)
+            tails.append(flights.At(i).TailNumber).append(flights.Removed(i) ? "- " : " ");
+        return tails;
+    }
+    std::string LinesOf(const std::string& path) const {
+        std::string tails;
+        const auto found = world.files.files.find(path);
+        if (found == world.files.files.end()) return "(missing)";
+        for (const std::string_view line : SplitText(found->second, '\n')) {
+            if (line.size() > 1) tails.append(SplitText(line, ',')[1]).append(" ");
+        }
+        return tails;
+    }
+    std::string Said() const { return world.messages.shown.back().second; }
+};
+
+TEST(SingleEdits, DeletedFlightsLeaveTheListAndStayInThePlan) {
+    EditWorld world;
+    world.SelectPlaces({1, 3});
+    ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
+    EXPECT_EQ(world.form.lvExPreview.Count(), 7) << "answered No";
+    world.world.messages.answers = {MessageAnswer::Yes};
+    ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1- N2 N3- N4 N5 N6 ");
+    EXPECT_EQ(world.form.lblExPreview.caption, "Previe&w (5 flights found)");
+    EXPECT_EQ(world.session.SearchResultCount, 7);
+    EXPECT_TRUE(world.session.PlanModified);
+    EXPECT_TRUE(world.form.mnuToolsUndo.enabled);
+
+    world.world.windows.paths = {"/plan/Out.txt", "/plan/Rest.txt"};
+    ExportFlights(world.context);
+    EXPECT_EQ(world.Said(), "Successfully exported 5 flights.");
+    EXPECT_EQ(world.LinesOf("/plan/Out.txt"), "N0 N2 N4 N5 N6 ");
+    EXPECT_EQ(world.LinesOf("/plan/Removed Flights.txt"), "N1 N3 ");
+    ExportRemainder(world.context);
+    EXPECT_EQ(world.Said(), "Successfully exported 0 flights.");
+
+    world.form.lvExPreview.SelectAll(true);
+    world.world.messages.answers = {MessageAnswer::Yes};
+    ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
+    EXPECT_EQ(world.form.lblExPreview.caption, "Previe&w");
+    EXPECT_FALSE(world.form.cmdExport.enabled);
+    SearchFlights(world.context, "", "", SearchMode::Fields);
+    EXPECT_EQ(world.form.lvExPreview.Count(), 0);
+    ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 ") << "all deletions are one step";
+}
+
+TEST(SingleEdits, TheRemainderIsWhatWasNotFound) {
+    EditWorld world;
+    world.session.Flights.SetRemoved(6, true);
+    for (const std::int32_t place : {1, 4}) {
+        Flight moved = world.session.Flights.Unpack(place);
+        moved.Legs.back().Destination = "KEDW";
+        world.session.Flights.Replace(place, moved);
+    }
+    SearchFlights(world.context, "KED", "", SearchMode::Fields);
+    world.world.windows.paths = {"/plan/Rest.txt"};
+    ExportRemainder(world.context);
+    EXPECT_EQ(world.Said(), "Successfully exported 5 flights.");
+    EXPECT_EQ(world.LinesOf("/plan/Rest.txt"), "N0 N2 N3 N5 ");
+    EXPECT_EQ(world.LinesOf("/plan/Removed Flights.txt"), "N6 ");
+    EXPECT_FALSE(world.session.PlanModified);
+}
+
+TEST(SingleEdits, AnEditedFlightGoesBackToItsPlace) {
+    EditWorld world;
+    world.form.lvExPreview.current = 2;
+    world.EditorSays("");
+    ASSERT_TRUE(world.Press(world.form.cmdEditFlight));
+    EXPECT_FALSE(world.session.PlanModified);
+    world.EditorSays("D-NEW");
+    Event doubleClick{&world.form, &world.form.lvExPreview, EventKind::DoubleClick, 2};
+    ASSERT_TRUE(world.program.pump.Deliver(doubleClick));
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 D-NEW N3 N4 N5 N6 ");
+    EXPECT_EQ(world.form.lvExPreview.Text(2, 3), "D-NEW");
+    EXPECT_TRUE(world.session.PlanModified);
+    EXPECT_TRUE(world.form.enabled);
+}
+
+TEST(SingleEdits, AnAddedFlightStandsAtTheEnd) {
+    EditWorld world;
+    world.EditorSays("D-ADD");
+    ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
+    EXPECT_EQ(world.form.lblExPreview.caption, "Previe&w (8 flights found)");
+    EXPECT_EQ(world.form.lvExPreview.Text(7, 3), "D-ADD");
+    EXPECT_EQ(world.form.lvExPreview.Key(7), "#7");
+    EXPECT_EQ(world.session.SearchResultIndex.back(), 7);
+
+    world.SelectPlaces({7});
+    world.world.messages.answers = {MessageAnswer::Yes};
+    ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ADD- ");
+}
+
+// A user may add flights before any search, and delete all that are shown in between.
+TEST(SingleEdits, FlightsAreAddedToAnEmptyList) {
+    EditWorld world;
+    ResetExportView(world.context);
+    for (const char* tail : {"D-ONE", "D-TWO"}) {
+        world.EditorSays(tail);
+        ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
+        EXPECT_EQ(world.form.lvExPreview.Count(), 1);
+        const std::int32_t place = world.form.lvExPreview.PlaceAt(0);
+        EXPECT_EQ(world.form.lvExPreview.Text(place, 3), tail);
+        EXPECT_EQ(world.form.lvExPreview.current, place);
+        EXPECT_TRUE(world.form.cmdExportPrint.enabled);
+        world.form.lvExPreview.SelectAll(true);
+        world.world.messages.answers = {MessageAnswer::Yes};
+        ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
+    }
+    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ONE- D-TWO- ");
+}
+
+// A flight that was given up is exported, uncounted, until the next search.
+TEST(SingleEdits, AFlightThatWasGivenUpStaysBehindTheResults) {
+    EditWorld world;
+    world.EditorSays("");
+    ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
+    ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
+    world.world.windows.paths = {"/plan/Out.txt", "/plan/Rest.txt", "/plan/Next.txt"};
+    ExportFlights(world.context);
+    EXPECT_EQ(world.Said(), "Successfully exported 7 flights.");
+    EXPECT_EQ(world.LinesOf("/plan/Out.txt"), "N0 N1 N2 N3 N4 N5 N6 N700MS ");
+    ExportRemainder(world.context);
+    EXPECT_EQ(world.LinesOf("/plan/Rest.txt"), "");
+    EXPECT_EQ(world.session.FlightCount(), 7);
+    world.EditorSays("D-ADD");
+    ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
+    EXPECT_EQ(world.Tails(world.session.SearchResults), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
+    SearchFlights(world.context, "", "", SearchMode::Fields);
+    ExportFlights(world.context);
+    EXPECT_EQ(world.LinesOf("/plan/Next.txt"), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
+}
+
+TEST(SingleEdits, PrintsTheListInItsDisplayedOrder) {
+    EditWorld world;
+    world.session.Flights.Truncate(2);
+    Flight unknown = world.session.Flights.Unpack(1);
+    unknown.ACNumber = "AC#3";
+    world.session.Flights.Replace(1, unknown);
+    SearchFlights(world.context, "", "", SearchMode::Fields);
+    world.form.lvExPreview.SortByColumn(3);
+    world.form.lvExPreview.SortByColumn(3);
+    world.form.cmExZone.SelectText("GMT +05:00");
+    PrintFlights(world.context);
+    const std::string legs = "\t\tEDDF - EHAM No. 1 FL350 197nm 10:00:00 11:00:00\r\n"
+                             "\t\tEHAM - EDDF No. 2 FL330 197nm 12:00:00 13:00:00\r\n\r\n";
+    EXPECT_EQ(world.world.windows.printed.back(),
+              Concat("AC#3 # NOT FOUND # - N1/5%/24Hr/IFR\r\n", legs,
+                     "AC#1 Jet One (Lufthansa) - N0/5%/24Hr/IFR\r\n", legs));
+    EXPECT_EQ(world.Said(), "Successfully printed 2 flights.");
+}
+
+}  // namespace
+}  // namespace orlo
