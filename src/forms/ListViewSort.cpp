@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <functional>
+#include <memory_resource>
 
 #include "core/Text.h"
 #include "forms/ListView.h"
@@ -14,19 +16,23 @@ namespace {
 class TextNumbers {
   public:
     explicit TextNumbers(std::size_t rows)
-        : sharedLimit_(rows / 4), table_(std::bit_ceil(rows / 2 + 2 * kLongestWalk)) {
+        : table_(std::bit_ceil(2 * std::min(rows, kFewTexts + rows / kRowsPerText))) {
+        texts_.reserve(rows);
         for (std::size_t i = 0; i < fold_.size(); ++i) fold_[i] = UpperChar(static_cast<char>(i));
     }
 
-    // Folds the text in place.
+    // Folds the text in place. At most once a row.
     std::uint32_t NumberOf(std::string& text) {
         for (char& character : text) character = fold_[static_cast<unsigned char>(character)];
-        return shares_ && texts_.size() < sharedLimit_ ? SharedNumberOf(text) : Add(text);
+        shares_ = shares_ && texts_.size() < kFewTexts + rowsSeen_++ / kRowsPerText;
+        return shares_ ? SharedNumberOf(text) : Add(text);
     }
     // By number.
-    const std::vector<std::string_view>& Texts() const { return texts_; }
+    const std::pmr::vector<std::string_view>& Texts() const { return texts_; }
 
   private:
+    static constexpr std::size_t kFewTexts = 16 * 1024;
+    static constexpr std::size_t kRowsPerText = 4;
     static constexpr std::size_t kLongestWalk = 64;
     static constexpr std::uint32_t kFree = UINT32_MAX;
 
@@ -51,16 +57,18 @@ class TextNumbers {
     }
 
     std::uint32_t Add(std::string_view text) {
-        texts_.emplace_back(pages_.Add(text), text.size());
+        auto* const bytes = static_cast<char*>(memory_.allocate(text.size(), 1));
+        text.copy(bytes, text.size());
+        texts_.emplace_back(bytes, text.size());
         return static_cast<std::uint32_t>(texts_.size() - 1);
     }
 
     std::array<char, 256> fold_;
-    std::size_t sharedLimit_;
     bool shares_ = true;
-    std::vector<Entry> table_;  // a power of two, at most half full
-    std::vector<std::string_view> texts_;
-    BytePages pages_;
+    std::size_t rowsSeen_ = 0;
+    std::pmr::vector<Entry> table_;  // a power of two, at most half full
+    std::pmr::monotonic_buffer_resource memory_;
+    std::pmr::vector<std::string_view> texts_;
 };
 
 // Texts are compared seven characters at a time, so that each text is read once a chunk and not once a
@@ -74,10 +82,10 @@ struct SortEntry {
     bool differs;          // from the one in front
 };
 
+// Entries of texts that are equal up to the present depth.
 struct SortRange {
     std::size_t begin;
     std::size_t end;
-    std::size_t skip;  // characters in front that are all equal
 };
 
 std::uint64_t ChunkOf(std::string_view text) {
@@ -99,38 +107,47 @@ void SortByChunk(SortEntry* begin, SortEntry* end) {
     if (!std::is_sorted(begin, end, before)) std::sort(begin, end, before);
 }
 
-std::vector<SortEntry> SortedTexts(const std::vector<std::string_view>& texts) {
-    std::vector<SortEntry> entries(texts.size());
+// Sorts a range by its chunks, marks which texts differ from the one in front, and adds what is still open.
+void SortRangeByChunk(SortEntry* entries, const SortRange& range, std::pmr::vector<SortRange>& open) {
+    SortByChunk(entries + range.begin, entries + range.end);
+    for (std::size_t first = range.begin, next = 0; first < range.end; first = next) {
+        const std::uint64_t chunk = entries[first].chunk;
+        entries[first].differs = true;
+        for (next = first + 1; next < range.end && entries[next].chunk == chunk; ++next)
+            entries[next].differs = false;
+        if (next - first > 1 && GoesOn(chunk)) open.push_back({first, next});
+    }
+}
+
+// All chunks at one depth are read before any is sorted: the texts lie scattered, and so many of them are on
+// their way from memory at a time.
+std::pmr::vector<SortEntry> SortedTexts(const std::pmr::vector<std::string_view>& texts) {
+    std::pmr::vector<SortEntry> entries(texts.size());
     for (std::size_t i = 0; i < entries.size(); ++i) entries[i].number = static_cast<std::uint32_t>(i);
-    std::vector<SortRange> ranges = {{0, entries.size(), 0}};
-    while (!ranges.empty()) {
-        const SortRange range = ranges.back();
-        ranges.pop_back();
-        for (std::size_t i = range.begin; i < range.end; ++i)
-            entries[i].chunk = ChunkOf(texts[entries[i].number].substr(range.skip));
-        SortByChunk(entries.data() + range.begin, entries.data() + range.end);
-        for (std::size_t first = range.begin, next = 0; first < range.end; first = next) {
-            const std::uint64_t chunk = entries[first].chunk;
-            entries[first].differs = true;
-            for (next = first + 1; next < range.end && entries[next].chunk == chunk; ++next)
-                entries[next].differs = false;
-            if (next - first > 1 && GoesOn(chunk))
-                ranges.push_back({first, next, range.skip + kChunkCharacters});
+    std::pmr::vector<SortRange> ranges = {{0, entries.size()}};
+    std::pmr::vector<SortRange> open;
+    for (std::size_t skip = 0; !ranges.empty(); skip += kChunkCharacters) {
+        for (const SortRange& range : ranges) {
+            for (std::size_t i = range.begin; i < range.end; ++i)
+                entries[i].chunk = ChunkOf(texts[entries[i].number].substr(skip));
         }
+        open.clear();
+        for (const SortRange& range : ranges) SortRangeByChunk(entries.data(), range, open);
+        ranges.swap(open);
     }
     return entries;
 }
 
 // What each text counts in the sorted order, by its number; equal texts count the same.
 struct TextRanks {
-    std::vector<std::uint32_t> rankOf;
+    std::pmr::vector<std::uint32_t> rankOf;
     std::uint32_t count = 0;
 };
 
-TextRanks RanksOf(const std::vector<std::string_view>& texts, bool ascending) {
+TextRanks RanksOf(const std::pmr::vector<std::string_view>& texts, bool ascending) {
     TextRanks ranks;
     ranks.rankOf.resize(texts.size());
-    const std::vector<SortEntry> entries = SortedTexts(texts);
+    const std::pmr::vector<SortEntry> entries = SortedTexts(texts);
     for (const SortEntry& entry : entries) {
         if (entry.differs) ++ranks.count;
         ranks.rankOf[entry.number] = ranks.count - 1;
@@ -148,7 +165,7 @@ TextRanks RanksOf(const std::vector<std::string_view>& texts, bool ascending) {
 void ListView::Sort() {
     sorted = true;
     TextNumbers numbers(order_.size());
-    std::vector<std::uint32_t> rowRanks(slots_.size());
+    std::pmr::vector<std::uint32_t> rowRanks(slots_.size());
     std::string text;
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         if (!slots_[i].stands) continue;
@@ -157,7 +174,7 @@ void ListView::Sort() {
         rowRanks[i] = numbers.NumberOf(text);
     }
     const TextRanks ranks = RanksOf(numbers.Texts(), ascending);
-    std::vector<std::uint32_t> starts(ranks.count + 1u);
+    std::pmr::vector<std::uint32_t> starts(ranks.count + 1u);
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         if (!slots_[i].stands) continue;
         rowRanks[i] = ranks.rankOf[rowRanks[i]];
