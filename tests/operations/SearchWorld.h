@@ -31,6 +31,8 @@ struct SearchWorld : FakeProgram {
         aircraft.Class = aircraftClass;
         aircraft.MinFL = 100;
         aircraft.MaxFL = 410;
+        aircraft.MinRange = 0;
+        aircraft.MaxRange = 9999;
         session.FSAircrafts.push_back(aircraft);
     }
 

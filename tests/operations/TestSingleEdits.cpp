@@ -24,11 +24,10 @@ struct EditWorld : test::SearchWorld {
     }
     // The user's work in the editor: changes the tail number and accepts, or cancels.
     void EditorSays(std::string tail) {
-        world.windows.onModal = [this, tail](Form&) {
+        inModal = [this, tail] {
             FlightEditForm& editor = program.forms.frmFlightEdit;
-            editor.txtReg.text = tail;
-            Event change{&editor, &editor.txtReg, EventKind::Leave};
-            program.pump.Deliver(change);
+            Type(editor.txtReg, tail);
+            Leave(editor.txtReg);
             Press(tail.empty() ? editor.cmdCancel : editor.cmdOK);
         };
     }
@@ -186,8 +185,8 @@ TEST(SingleEdits, PrintsTheListInItsDisplayedOrder) {
     world.form.lvExPreview.SortByColumn(3);
     world.form.cmExZone.SelectText("GMT +05:00");
     PrintFlights(world.context);
-    const std::string legs = "\t\tEDDF - EHAM No. 1 FL350 197nm 10:00:00 11:00:00\r\n"
-                             "\t\tEHAM - EDDF No. 2 FL330 197nm 12:00:00 13:00:00\r\n\r\n";
+    const std::string legs = "\t\tEDDF - EHAM No. 1 FL350 198nm 10:00:00 11:00:00\r\n"
+                             "\t\tEHAM - EDDF No. 2 FL330 198nm 12:00:00 13:00:00\r\n\r\n";
     EXPECT_EQ(world.world.windows.printed.back(),
               Concat("AC#3 # NOT FOUND # - N1/5%/24Hr/IFR\r\n", legs,
                      "AC#1 Jet One (Lufthansa) - N0/5%/24Hr/IFR\r\n", legs));

@@ -46,9 +46,10 @@ class FakeWindows : public WindowHost {
     std::vector<std::string> notBuilt;
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
+    bool printDialogAnswer = true;
+    std::function<void(Form&)> onModal;  // what happens while a modal form is shown
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
-    std::function<void(Form&)> onModal;  // what the user does in a modal form
     void ShowModal(Form& form, Form*) override {
         if (onModal) onModal(form);
     }
@@ -69,7 +70,7 @@ class FakeWindows : public WindowHost {
         if (inputs.empty()) return std::nullopt;
         return Take(inputs);
     }
-    bool ShowPrintDialog(std::string_view) override { return true; }
+    bool ShowPrintDialog(std::string_view) override { return printDialogAnswer; }
     void Print(std::string_view text) override { printed.emplace_back(text); }
     bool OpenDocument(const std::string&, const std::string&) override { return true; }
 
