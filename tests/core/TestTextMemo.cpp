@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -14,9 +15,9 @@ TEST(TextMemo, EachTextGetsItsOwnAnswerAndKeepsItWhileThereIsRoom) {
     TextMemo memo(10);
     std::map<std::string, int> asked;
     const auto answer = [](const std::string& text) {
-        std::int32_t value = -static_cast<std::int32_t>(text.size());
-        for (char character : text) value = value * 31 + character;
-        return value;
+        auto value = static_cast<std::uint32_t>(text.size());
+        for (char character : text) value = value * 31 + static_cast<unsigned char>(character);
+        return static_cast<std::int32_t>(value);
     };
     const auto find = [&](std::string_view text) {
         ++asked[std::string(text)];
