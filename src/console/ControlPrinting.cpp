@@ -84,7 +84,9 @@ std::string Joined(const std::vector<std::int32_t>& numbers) {
 void PrintListProperties(std::ostream& out, const ListView& list) {
     out << "index=" << (list.current < 0 ? -1 : list.PositionOf(list.current)) << '\n';
     std::vector<std::int32_t> positions;
-    for (const std::int32_t place : list.SelectedPlaces()) positions.push_back(list.PositionOf(place));
+    for (const PositionRange& range : list.SelectedRanges()) {
+        for (std::int32_t at = range.first; at <= range.last; ++at) positions.push_back(at);
+    }
     out << "selection=" << Joined(positions) << '\n';
 }
 
