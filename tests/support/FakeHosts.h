@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -45,9 +46,13 @@ class FakeWindows : public WindowHost {
     std::vector<std::string> notBuilt;
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
+    bool printDialogAnswer = true;
+    std::function<void(Form&)> onModal;  // what happens while a modal form is shown
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
-    void ShowModal(Form&, Form*) override {}
+    void ShowModal(Form& form, Form*) override {
+        if (onModal) onModal(form);
+    }
     void UnloadForm(Form&) override {}
     bool KeepsWindowPlace() const override { return keepsWindowPlace; }
     void ShowNotBuilt(std::string_view controlName) override { notBuilt.emplace_back(controlName); }
@@ -65,7 +70,7 @@ class FakeWindows : public WindowHost {
         if (inputs.empty()) return std::nullopt;
         return Take(inputs);
     }
-    bool ShowPrintDialog(std::string_view) override { return true; }
+    bool ShowPrintDialog(std::string_view) override { return printDialogAnswer; }
     void Print(std::string_view text) override { printed.emplace_back(text); }
     bool OpenDocument(const std::string&, const std::string&) override { return true; }
 
