@@ -30,6 +30,12 @@ struct LegView {
     std::string_view Destination;
 };
 
+// The leg's own texts; they hold as long as it stands unchanged.
+inline LegView ViewOf(const Leg& leg) {
+    return {leg.DepartTime, leg.ETA,          leg.FixedETA,   leg.FlightLevel,
+            leg.NumberMode, leg.FlightNumber, leg.Destination};
+}
+
 // Reads the fields of a packed row from the front.
 class FieldReader {
   public:

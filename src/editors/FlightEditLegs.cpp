@@ -9,6 +9,7 @@
 #include "editors/FlightEditTimes.h"
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/Navigation.h"
+#include "simulator/TimeZones.h"
 
 namespace orlo {
 namespace {
@@ -67,8 +68,8 @@ std::array<std::string, 6> RowTexts(const FlightEditForm& form, const Session& s
     const Leg& leg = form.WorkingFlight.Legs[static_cast<std::size_t>(place)];
     return {LegStart(form.WorkingFlight, place),
             leg.Destination,
-            ShiftTimeText(leg.DepartTime, session.FEditZone, false),
-            ShiftTimeText(leg.ETA, session.FEditZone, false),
+            ConvertTimeText(leg.DepartTime, session.FEditZone, false),
+            ConvertTimeText(leg.ETA, session.FEditZone, false),
             leg.FlightNumber,
             Concat("FL", leg.FlightLevel)};
 }

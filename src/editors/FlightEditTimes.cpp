@@ -20,13 +20,6 @@ bool IsWeekly(const Flight& flight) {
     return EqualNoCase(flight.Period, "WEEK");
 }
 
-std::string ShiftTimeText(std::string_view time, std::string_view zone, bool invert) {
-    const SplitTime split = SplitDayPrefix(time);
-    std::string prefix(split.Prefix);
-    const std::string clock = ConvertZoneWeek(split.Clock, zone, prefix, invert);
-    return prefix.append(clock);
-}
-
 FieldTime TimeForFields(std::string_view time, bool weekly, std::string_view zone) {
     if (!weekly) return {-1, ConvertZone(time, zone, false)};
     const SplitTime split = SplitDayPrefix(time);
@@ -37,7 +30,7 @@ FieldTime TimeForFields(std::string_view time, bool weekly, std::string_view zon
 
 std::string TimeForStorage(std::int32_t day, std::int32_t seconds, bool weekly, std::string_view zone) {
     const std::string local = weekly ? FormatWeekTime({day, seconds}) : FormatClockTime(seconds);
-    return ShiftTimeText(local, zone, true);
+    return ConvertTimeText(local, zone, true);
 }
 
 std::int32_t LegBefore(const Flight& flight, std::int32_t leg) {

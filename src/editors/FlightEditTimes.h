@@ -13,10 +13,6 @@ namespace orlo {
 // Whether the flight repeats every week: the period "WEEK", case aside.
 bool IsWeekly(const Flight& flight);
 
-// A stored time moved from GMT to the zone, with `invert` back. Its day prefix, where it has one, rolls over
-// with it. A time that can't be read comes back as it was.
-std::string ShiftTimeText(std::string_view time, std::string_view zone, bool invert);
-
 // A time as the fields show it.
 struct FieldTime {
     std::int32_t Day = -1;  // 0 to 6 in a weekly flight; -1 in a daily one, and where the prefix is no day

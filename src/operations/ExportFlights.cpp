@@ -58,8 +58,7 @@ FlightList Remainder(const Session& session) {
 }  // namespace
 
 void ExportFlights(Context& context) {
-    const std::string path =
-        AskForExportPath(context, "Export - Save Flightplan", "Export FlightPlans.txt");
+    const std::string path = AskForExportPath(context, "Export - Save Flightplan", "Export FlightPlans.txt");
     if (path.empty()) return;
     {
         const BusyMainWindow busy(context);
@@ -69,8 +68,8 @@ void ExportFlights(Context& context) {
 }
 
 void ExportRemainder(Context& context) {
-    const std::string path = AskForExportPath(context, "Export remaining flights - Save Flightplan",
-                                              "Remaining FlightPlans.txt");
+    const std::string path =
+        AskForExportPath(context, "Export remaining flights - Save Flightplan", "Remaining FlightPlans.txt");
     if (path.empty()) return;
     {
         const BusyMainWindow busy(context);

@@ -5,7 +5,8 @@
 namespace orlo {
 
 // Writes the search results to a plan of their own, whose path is asked for. A flight that was given up while
-// it was added, and stands behind the results, is written too but not counted. The plan itself stays as it is.
+// it was added, and stands behind the results, is written too but not counted. The plan itself stays as it
+// is.
 void ExportFlights(Context& context);
 
 // Writes all flights of the plan that are no search result, removed ones as removed.

@@ -17,12 +17,12 @@ inline constexpr std::int32_t kAnyClass = -1;
 
 // What a search by fields asks for. An empty text, no number and kAnyClass are no conditions.
 struct SearchFields {
-    bool MatchAll = true;    // AND; otherwise one condition is enough
-    std::string Departure;   // part of the code where the flight starts
-    std::string Leg;         // part of any other code of the round
-    std::string Continent;   // part of the start airport's Region
-    std::string Country;     // part of its Country
-    std::string Airline;     // part of the aircraft's airline
+    bool MatchAll = true;   // AND; otherwise one condition is enough
+    std::string Departure;  // part of the code where the flight starts
+    std::string Leg;        // part of any other code of the round
+    std::string Continent;  // part of the start airport's Region
+    std::string Country;    // part of its Country
+    std::string Airline;    // part of the aircraft's airline
     bool IFR = false;
     bool VFR = false;
     std::optional<std::string> ACNumber;

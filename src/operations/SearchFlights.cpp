@@ -152,7 +152,8 @@ bool SearchByFields(Context& context, SearchProgress& progress, std::string_view
     if (!fields.Airline.empty()) progress.Stage(kMatchingAircraft, 1);
     const FieldSearch search(fields, context.session, matched);
     progress.Stage(kSearching, 2);
-    CollectResults(context.session, [&](std::int32_t, const FlightView& flight) { return search.Matches(flight); });
+    CollectResults(context.session,
+                   [&](std::int32_t, const FlightView& flight) { return search.Matches(flight); });
     return true;
 }
 

@@ -16,11 +16,11 @@ enum class SearchMode {
     UnknownAirports = 6,   // a leg leads to an airport that the plan's list lacks; the codes are the error
 };
 
-// Walks the plan for the flights that match, fills the search state and lvExPreview with them and writes their
-// number into lblExPreview. Removed flights never match. `departure` and `leg` are parts of codes, of account
-// in the mode Fields only. Where a region is asked for and no scenery can be had, the search ends there: the
-// search state is empty, the list shows what it showed, the main window stays disabled and the progress window
-// up.
+// Walks the plan for the flights that match, fills the search state and lvExPreview with them and writes
+// their number into lblExPreview. Removed flights never match. `departure` and `leg` are parts of codes, of
+// account in the mode Fields only. Where a region is asked for and no scenery can be had, the search ends
+// there: the search state is empty, the list shows what it showed, the main window stays disabled and the
+// progress window up.
 void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode);
 
 // Enables export, print, edit and delete exactly while the list holds a result.

@@ -1,6 +1,5 @@
 #include "operations/SearchRows.h"
 
-#include "core/ClockTime.h"
 #include "core/Number.h"
 #include "core/Text.h"
 #include "simulator/TimeZones.h"
@@ -43,13 +42,6 @@ std::string NumberColumn(std::string_view acNumber) {
 std::string PercentColumn(std::string_view percent) {
     if (percent.ends_with('%')) percent.remove_suffix(1);
     return Concat(Filled(percent, 2), "%");
-}
-
-std::string TimeInZone(std::string_view time, std::string_view zone) {
-    const SplitTime split = SplitDayPrefix(time);
-    std::string prefix(split.Prefix);
-    const std::string clock = ConvertZoneWeek(split.Clock, zone, prefix, false);
-    return prefix.append(clock);
 }
 
 SearchRows::SearchRows(FlightList flights, std::vector<std::string> errors, const MatchedAircraft& matched,
@@ -118,10 +110,10 @@ void SearchRows::AppendText(std::int32_t row, std::int32_t column, std::string& 
             out.append(PeriodColumn(flight.Period));
             break;
         case kColumnDepart:
-            if (flight.LegCount > 0) out.append(TimeInZone((*flight.begin()).DepartTime, zone_));
+            if (flight.LegCount > 0) out.append(ConvertTimeText((*flight.begin()).DepartTime, zone_, false));
             break;
         case kColumnArrive:
-            out.append(TimeInZone(flight.LastLeg().ETA, zone_));
+            out.append(ConvertTimeText(flight.LastLeg().ETA, zone_, false));
             break;
         case kColumnFlightType:
             out.append(flight.FlightType);

@@ -65,7 +65,4 @@ std::string PeriodColumn(std::string_view period);
 std::string NumberColumn(std::string_view acNumber);
 std::string PercentColumn(std::string_view percent);
 
-// A time of a flight in the zone, with its day prefix, where it has one, rolled over.
-std::string TimeInZone(std::string_view time, std::string_view zone);
-
 }  // namespace orlo

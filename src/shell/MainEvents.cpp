@@ -2,11 +2,11 @@
 
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
+#include "operations/CorrectFlightLevels.h"
+#include "operations/CorrectFlightTimes.h"
 #include "operations/EditFlights.h"
 #include "operations/ExportFlights.h"
 #include "operations/PrintFlights.h"
-#include "operations/CorrectFlightLevels.h"
-#include "operations/CorrectFlightTimes.h"
 #include "operations/RemoveMinus.h"
 #include "shell/EventTables.h"
 #include "shell/ExportTab.h"

@@ -96,4 +96,11 @@ std::string ConvertZoneWeek(std::string_view time, std::string_view zone, std::s
     return std::move(shifted.text);
 }
 
+std::string ConvertTimeText(std::string_view time, std::string_view zone, bool invert) {
+    const SplitTime split = SplitDayPrefix(time);
+    std::string prefix(split.Prefix);
+    const std::string clock = ConvertZoneWeek(split.Clock, zone, prefix, invert);
+    return prefix.append(clock);
+}
+
 }  // namespace orlo

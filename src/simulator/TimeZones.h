@@ -20,4 +20,7 @@ std::string ConvertZoneWeekday(std::string_view time, std::string_view zone, std
 std::string ConvertZoneWeek(std::string_view time, std::string_view zone, std::string& dayPrefix,
                             bool invert);
 
+// The same of a flight's stored time, with its day prefix, where it has one, in front and rolled over.
+std::string ConvertTimeText(std::string_view time, std::string_view zone, bool invert);
+
 }  // namespace orlo

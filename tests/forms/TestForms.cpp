@@ -14,7 +14,7 @@ namespace {
 using Names = std::set<std::string>;
 
 std::vector<const Form*> AllForms(const Forms& forms) {
-    return {&forms.frmMain, &forms.frmProgress, &forms.frmSplash, &forms.frmAbout};
+    return {&forms.frmMain, &forms.frmProgress, &forms.frmSplash, &forms.frmAbout, &forms.frmFlightEdit};
 }
 
 char Mnemonic(std::string_view caption) {
@@ -89,10 +89,14 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
                           "cmdProjectMerge", "cmdProjectCompile",
                           "mnuFile",         "mnuTools",
                           "mnuView",         "mnuHelp",
-                          "cmdSysInfo"};
+                          "cmdSysInfo",      "cmdAdd",
+                          "cmdDelete",       "cmdUndo",
+                          "cmdPrint"};
     for (const std::string& name : chosen) {
-        const Control* mine = forms.frmMain.Find(name);
-        if (mine == nullptr) mine = forms.frmAbout.Find(name);
+        const Control* mine = nullptr;
+        for (const Form* form : AllForms(forms)) {
+            if (mine == nullptr) mine = form->Find(name);
+        }
         ASSERT_NE(mine, nullptr) << name;
         ASSERT_NE(Mnemonic(mine->caption), '\0') << name;
         for (const Control* other : mine->form.Controls()) {

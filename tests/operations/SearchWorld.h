@@ -14,9 +14,10 @@ struct SearchWorld : FakeProgram {
         AddInstalled("Jet One", "Lufthansa", kClassLargeJet);
         AddInstalled("Prop Two", "", kClassMidProp);
         AddInstalled("Jet Tre", "KLM Cityhopper", kClassHugeJet);
-        session.PlanAircrafts = {
-            {"AC#1", "JET ONE", "450", 0}, {"AC#2", "Prop Two", "200", 0}, {"AC#3", "Gone", "400", 0},
-            {"AC#4", "jet tre", "480", 0}};
+        session.PlanAircrafts = {{"AC#1", "JET ONE", "450", 0},
+                                 {"AC#2", "Prop Two", "200", 0},
+                                 {"AC#3", "Gone", "400", 0},
+                                 {"AC#4", "jet tre", "480", 0}};
         AddAirport("EDDF", "Europe", "Germany", "N50* 2.0'", "E8* 34.0'");
         AddAirport("KEDW", "North America", "United States", "N34* 54.0'", "W117* 53.0'");
         AddAirport("EHAM", "Europe", "Netherlands", "N52* 18.0'", "E4* 45.0'");

@@ -4,6 +4,7 @@
 #include "mainwindow/PlanViews.h"
 #include "operations/SearchRows.h"
 #include "operations/SearchWorld.h"
+#include "simulator/TimeZones.h"
 
 namespace orlo {
 namespace {
@@ -32,7 +33,7 @@ TEST(Search, CombinesTheFieldsOfTheTab) {
         bool all = true;
         std::string departure = {}, leg = {}, continent = {}, country = {}, airline = {};
         std::string types = {};  // "I", "V" or both
-        int aircraft = 0;       // entry of cmExportAircraft
+        int aircraft = 0;        // entry of cmExportAircraft
         std::string className = "#None#";
         Places found = {};
     };
@@ -54,8 +55,8 @@ TEST(Search, CombinesTheFieldsOfTheTab) {
         {.types = "IV", .found = {}},
         {.all = false, .types = "IV", .found = {0, 1, 2, 3, 4, 6, 7}},
         {.aircraft = 1, .found = {0, 6, 7}},
-        // An unknown aircraft leaves the test of the class undecided. "ac#1" is unknown: the join has regard to
-        // case.
+        // An unknown aircraft leaves the test of the class undecided. "ac#1" is unknown: the join has regard
+        // to case.
         {.className = "Large Jet", .found = {0, 2, 4, 6, 7}},
         {.all = false, .className = "Large Jet", .found = {0, 7}},
         {.all = false, .types = "V", .className = "Huge Jet", .found = {1, 3, 4}},
@@ -124,8 +125,7 @@ TEST(Search, ShowsTheFlightsInTheZone) {
     ASSERT_TRUE(world.form.cmExZone.SelectText("GMT +01:00"));
     SearchFlights(world.context, "", "", SearchMode::Fields);
     world.form.lvExPreview.SortByColumn(kColumnRegistration);
-    EXPECT_EQ(world.Row(1),
-              "Lufthansa|Jet One|0001|D-ONE|EDDF|EHAM|24Hr|11:00:00|14:00:00|IFR|330|05%");
+    EXPECT_EQ(world.Row(1), "Lufthansa|Jet One|0001|D-ONE|EDDF|EHAM|24Hr|11:00:00|14:00:00|IFR|330|05%");
     EXPECT_EQ(world.Row(0), "# NOT FOUND #||0001|d-one|EDDF|EHAM|24Hr|11:00:00|14:00:00|IFR|330|05%");
     EXPECT_EQ(world.Row(5),
               "# NOT FOUND #||0003|N-TRE|EHAM|KEDW - EDDF|WEEK|4/00:30:00|0/01:30:00|IFR|330|12%");
@@ -151,8 +151,8 @@ TEST(Search, ColumnsTakeOddTexts) {
     EXPECT_EQ(NumberColumn("AC"), "");
     EXPECT_EQ(NumberColumn("AC#x"), "x");
     EXPECT_EQ(PercentColumn("x%"), "x%");
-    EXPECT_EQ(TimeInZone("noon", "GMT +01:00"), "noon");
-    EXPECT_EQ(TimeInZone("9/23:30:00", "GMT +01:00"), "9/00:30:00");
+    EXPECT_EQ(ConvertTimeText("noon", "GMT +01:00", false), "noon");
+    EXPECT_EQ(ConvertTimeText("9/23:30:00", "GMT +01:00", false), "9/00:30:00");
 }
 
 TEST(Search, WithoutSceneryItEndsAndLeavesTheListAsItWas) {

@@ -185,8 +185,9 @@ TEST(SingleEdits, PrintsTheListInItsDisplayedOrder) {
     world.form.lvExPreview.SortByColumn(3);
     world.form.cmExZone.SelectText("GMT +05:00");
     PrintFlights(world.context);
-    const std::string legs = "\t\tEDDF - EHAM No. 1 FL350 198nm 10:00:00 11:00:00\r\n"
-                             "\t\tEHAM - EDDF No. 2 FL330 198nm 12:00:00 13:00:00\r\n\r\n";
+    const std::string legs =
+        "\t\tEDDF - EHAM No. 1 FL350 198nm 10:00:00 11:00:00\r\n"
+        "\t\tEHAM - EDDF No. 2 FL330 198nm 12:00:00 13:00:00\r\n\r\n";
     EXPECT_EQ(world.world.windows.printed.back(),
               Concat("AC#3 # NOT FOUND # - N1/5%/24Hr/IFR\r\n", legs,
                      "AC#1 Jet One (Lufthansa) - N0/5%/24Hr/IFR\r\n", legs));

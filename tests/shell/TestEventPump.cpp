@@ -47,18 +47,23 @@ TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {
 
 TEST(EventTables, EveryEntryNamesAControlOnceAndEveryActingControlIsWired) {
     test::FakeProgram fake;
-    std::set<std::pair<std::string, EventKind>> wired;
-    for (const EventEntry& entry : MainEvents()) {
-        EXPECT_TRUE(wired.emplace(entry.control, entry.kind).second) << entry.control << " is wired twice";
-        if (entry.control.empty() || entry.kind == EventKind::Timer) continue;
-        EXPECT_NE(fake.form.Find(entry.control), nullptr) << entry.control;
-    }
-    for (const Control* control : fake.form.Controls()) {
-        const bool acts = control->kind == ControlKind::Button || control->kind == ControlKind::MenuEntry;
-        const auto isChild = [&](const Control* other) { return other->parent == control; };
-        const bool opens = std::any_of(fake.form.Controls().begin(), fake.form.Controls().end(), isChild);
-        if (acts && !opens) {
-            EXPECT_TRUE(wired.contains({control->name, EventKind::Click})) << control->name;
+    Forms& forms = fake.program.forms;
+    for (const Form* form : std::initializer_list<const Form*>{
+             &forms.frmMain, &forms.frmProgress, &forms.frmSplash, &forms.frmAbout, &forms.frmFlightEdit}) {
+        std::set<std::pair<std::string, EventKind>> wired;
+        for (const EventEntry& entry : EventsOf(forms, *form)) {
+            EXPECT_TRUE(wired.emplace(entry.control, entry.kind).second)
+                << entry.control << " is wired twice";
+            if (entry.control.empty() || entry.kind == EventKind::Timer) continue;
+            EXPECT_NE(form->Find(entry.control), nullptr) << entry.control;
+        }
+        for (const Control* control : form->Controls()) {
+            const bool acts = control->kind == ControlKind::Button || control->kind == ControlKind::MenuEntry;
+            const auto isChild = [&](const Control* other) { return other->parent == control; };
+            const bool opens = std::any_of(form->Controls().begin(), form->Controls().end(), isChild);
+            if (acts && !opens) {
+                EXPECT_TRUE(wired.contains({control->name, EventKind::Click})) << control->name;
+            }
         }
     }
 }
