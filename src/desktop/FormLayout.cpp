@@ -18,14 +18,15 @@ struct Hint {
     std::string_view form;
     std::string_view container;  // empty: the form itself
     int columns = 1;             // of fields with their labels
+    std::string_view wideField;  // takes a whole row, with its label
     std::string_view title;      // a label in large letters
     bool fixedSize = false;
 };
 
 constexpr std::array kHints = {
-    Hint{"frmFlightEdit", "", 2, "", false},
-    Hint{"frmFlightEdit", "frLeg", 3, "", false},
-    Hint{"frmAbout", "", 1, "lblTitle", true},
+    Hint{"frmFlightEdit", "", 3, "cmAircraft", "", false},
+    Hint{"frmFlightEdit", "frLeg", 3, "", "", false},
+    Hint{"frmAbout", "", 1, "", "lblTitle", true},
 };
 
 constexpr double kTitleScale = 1.8;
@@ -104,6 +105,11 @@ class ContainerLayout {
             grid_.addWidget(&field, row_, at, 1, 2);
         }
     }
+    void AddWideField(QWidget& label, QWidget& field) {
+        EndRow();
+        grid_.addWidget(&label, row_, 0);
+        grid_.addWidget(&field, row_++, 1, 1, -1);
+    }
     void AddRow(QWidget& widget, bool fills) {
         EndRow();
         grid_.addWidget(&widget, row_, 0, 1, -1);
@@ -142,7 +148,7 @@ std::size_t RunOf(const Children& children, std::size_t from, Condition conditio
 }
 
 // Lays out what begins at this place; how many controls that were.
-std::size_t AddNext(ContainerLayout& layout, const Children& children, std::size_t at,
+std::size_t AddNext(ContainerLayout& layout, const Children& children, std::size_t at, const Hint& hint,
                     const WidgetOf& widgetOf) {
     const Control& control = *children[at];
     QWidget& shown = *widgetOf(control);
@@ -161,7 +167,11 @@ std::size_t AddNext(ContainerLayout& layout, const Children& children, std::size
     if (control.kind == ControlKind::Label && at + 1 < children.size()) {
         const Control& next = *children[at + 1];
         if (LabelOf(next) == &control && StandsBesideItsLabel(next)) {
-            layout.AddField(&shown, *widgetOf(next));
+            if (next.name == hint.wideField) {
+                layout.AddWideField(shown, *widgetOf(next));
+            } else {
+                layout.AddField(&shown, *widgetOf(next));
+            }
             return 2;
         }
     }
@@ -191,7 +201,7 @@ void Fill(const Form& form, const Control* container, QWidget& widget, QWidget* 
     const Hint hint = HintOf(form, container);
     ContainerLayout layout(widget, hint.columns);
     if (menuBar != nullptr) layout.Grid().setMenuBar(menuBar);
-    for (std::size_t at = 0; at < children.size();) at += AddNext(layout, children, at, widgetOf);
+    for (std::size_t at = 0; at < children.size();) at += AddNext(layout, children, at, hint, widgetOf);
     for (const Control* child : children) {
         if (HoldsOthers(*child)) Fill(form, child, *widgetOf(*child), nullptr, widgetOf);
         if (child->name == hint.title) MakeTitle(*widgetOf(*child));

@@ -73,6 +73,9 @@ void FormWindow::PlaceControls() {
         // The panes stand on the rest of the strip.
         if (control.kind == ControlKind::TabStrip)
             place.setHeight(std::min(place.height(), binder->Widget().sizeHint().height()));
+        // A label takes what its text needs, so that one that grows with the window covers no field.
+        if (control.kind == ControlKind::Label)
+            place.setWidth(std::min(place.width(), binder->Widget().sizeHint().width()));
         if (binder->Widget().geometry() != place) binder->Widget().setGeometry(place);
     }
 }
@@ -97,8 +100,8 @@ void FormWindow::Draw() {
     if (updatesEnabled() == frozen) setUpdatesEnabled(!frozen);
     if (frozen) return;
     DrawFrame();
-    if (PlacedByForm()) PlaceControls();
     for (const auto& binder : binders_) binder->Draw();
+    if (PlacedByForm()) PlaceControls();
     menus_->Draw();
 }
 

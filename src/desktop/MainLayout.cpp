@@ -33,6 +33,7 @@ std::vector<RowItem> Buttons(std::initializer_list<Button*> buttons) {
 
 std::vector<RowItem> Centred(std::initializer_list<Button*> buttons) {
     std::vector<RowItem> row = Buttons(buttons);
+    for (RowItem& item : row) ++item.width;  // the middle of the window may round one away
     row.insert(row.begin(), Space());
     row.push_back(Space());
     return row;
@@ -127,6 +128,8 @@ QSize DesignExport(MainForm& form, const PaneSize& size) {
     fields(form.lblExContinent, form.txtExContinent, form.lblExCountry, form.txtExCountry);
     fields(form.lblExAirline, form.txtExAirline, form.lblExportAircraft, form.cmExportAircraft);
     pane.FromTop({Fixed(form.lblExClass, first), Wide(form.cmExClass, field)}, inset);
+    // Its right edge follows the window, and even in the smallest one the text is whole.
+    form.lblExClass.box.width += std::max(0, size.now.width() - size.leastWidth);
     const int below = pane.Top();
 
     pane.SetTop(top);
