@@ -21,6 +21,15 @@ bool SameBox(const WindowBox& a, const WindowBox& b) {
     return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height;
 }
 
+// Whether the user could take hold of a window there: a screen of another day may be gone.
+bool OnAScreen(const WindowBox& box) {
+    constexpr int kTitleHeight = 24;
+    const QRect top(box.left, box.top, box.width, kTitleHeight);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(),
+                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(top); });
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags)
@@ -120,14 +129,16 @@ void FormWindow::DrawFrame() {
 
 void FormWindow::DrawPlace() {
     const QScopedValueRollback<bool> placing(placing_, true);
-    if (form_->centreRequest) {
+    const bool hasBox = form_->box.height >= 0;
+    if (form_->centreRequest || (hasBox && !isVisible() && !OnAScreen(form_->box))) {
         form_->centreRequest = false;
         const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-        QRect place(QPoint(), size().expandedTo(minimumSizeHint()));
+        const QSize asked = hasBox ? QSize(form_->box.width, form_->box.height) : size();
+        QRect place(QPoint(), asked.expandedTo(minimumSizeHint()));
         place.moveCenter(room.center());
         setGeometry(place);
         form_->box = {place.x(), place.y(), place.width(), place.height()};
-    } else if (form_->box.height >= 0 && !SameBox(form_->box, drawnBox_)) {
+    } else if (hasBox && !SameBox(form_->box, drawnBox_)) {
         setGeometry(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
     }
     const QSize least(form_->leastWidth, form_->leastHeight);

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QScreen>
 #include <cmath>
 
 #include "desktop/ControlSizes.h"
+#include "desktop/EdgeStyle.h"
 #include "desktop/MainLayout.h"
 #include "desktop/ScreenText.h"
 #include "mainwindow/Resize.h"
@@ -144,7 +147,7 @@ TEST(MainLayout, NothingOverlapsIsCutOrLeavesItsPaneAtAnySizeAndFont) {
     }
 }
 
-TEST(MainLayout, AStoredPlaceIsTakenButNeverBelowTheLeastSize) {
+TEST(MainLayout, AStoredPlaceIsTakenIfItCanBeSeenButNeverBelowTheLeastSize) {
     MainWindow large({30, 40, 1400, 1000});
     EXPECT_EQ(large.Window().geometry(), QRect(30, 40, 1400, 1000));
     EXPECT_EQ(large.form.sbMain.box.top + large.form.sbMain.box.height, 1000);
@@ -154,6 +157,10 @@ TEST(MainLayout, AStoredPlaceIsTakenButNeverBelowTheLeastSize) {
     EXPECT_EQ(small.Window().size(), QSize(small.form.leastWidth, small.form.leastHeight));
     small.ShowTab("EXPORT");
     ExpectApartAndWhole(small.form, "a place that was too small");
+
+    MainWindow lost({-9000, 40, 900, 700});
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(lost.Window().geometry().center()));
+    EXPECT_EQ(lost.Window().size(), QSize(900, 700));
 }
 
 // Each control stands below the one before, or right of it.
@@ -225,6 +232,20 @@ TEST(MainLayout, ColouredTextsCanBeReadOnDarkAndLightGround) {
         }
     }
     QGuiApplication::setPalette(before);
+}
+
+TEST(MainLayout, AnEmptyCheckBoxIsSeenOnDarkGround) {
+    UseVisibleEdges();
+    QPalette palette(QColor(0x3A, 0x3A, 0x3A), QColor(0x2B, 0x2B, 0x2B));
+    palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+    QCheckBox box;
+    box.setPalette(palette);
+    box.resize(box.sizeHint());
+    const QImage image = box.grab().toImage();
+    double most = 0;
+    for (int x = 0; x < image.width(); ++x)
+        most = std::max(most, Contrast(image.pixelColor(x, image.height() / 2), QColor(0x2B, 0x2B, 0x2B)));
+    EXPECT_GE(most, 3);
 }
 
 }  // namespace

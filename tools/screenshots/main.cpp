@@ -18,6 +18,7 @@
 #include <iostream>
 
 #include "desktop/DesktopHost.h"
+#include "desktop/EdgeStyle.h"
 #include "desktop/FormWindow.h"
 #include "desktop/MainLayout.h"
 #include "platform/Platform.h"
@@ -118,6 +119,7 @@ class Photographer {
              WindowOf(form_)->findChildren<QTreeView*>(QRegularExpression("^tv(Shuffle|Move)Aircrafts?$"))) {
             tree->expand(tree->model()->index(0, 0));
             tree->expand(tree->model()->index(1, 0));
+            tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
         }
         for (const auto& [key, name] :
              {std::pair{"SHUFFLE", "shuffle"}, std::pair{"MOVE", "move"}, std::pair{"EXPORT", "export"},
@@ -142,7 +144,7 @@ class Photographer {
         for (const Control* control : form_.Controls()) {
             if (control->kind != ControlKind::MenuEntry) continue;
             auto* menu = WindowOf(form_)->findChild<QMenu*>(QString::fromStdString(control->name) + "Menu");
-            if (menu == nullptr) continue;
+            if (menu == nullptr || menu->sizeHint().isEmpty() || !control->enabled) continue;
             menu->popup(QPoint(0, 0));
             Settle();
             Save(menu, QString::fromStdString(control->name));
@@ -216,6 +218,7 @@ int main(int count, char** words) {
         return 2;
     }
     QApplication::setStyle(QStyleFactory::create("Fusion"));
+    orlo::UseVisibleEdges();
     if (arguments.mid(3).contains("dark")) QApplication::setPalette(orlo::DarkPalette());
     return orlo::Run(arguments);
 }
