@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QMenu>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QStyleFactory>
 #include <QTest>
 #include <QTimer>
@@ -114,18 +113,22 @@ class Photographer {
         Settle();
     }
 
+    // Some groups open, down to their aircraft.
+    void OpenTree(const TreeView& of) {
+        auto* tree = WindowOf(form_)->findChild<QTreeView*>(QString::fromStdString(of.name));
+        tree->expand(tree->model()->index(0, 0));
+        tree->expand(tree->model()->index(1, 0));
+        tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
+    }
+
     void TakePanes() {
-        for (auto* tree :
-             WindowOf(form_)->findChildren<QTreeView*>(QRegularExpression("^tv(Shuffle|Move)Aircrafts?$"))) {
-            tree->expand(tree->model()->index(0, 0));
-            tree->expand(tree->model()->index(1, 0));
-            tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
-        }
         for (const auto& [key, name] :
              {std::pair{"SHUFFLE", "shuffle"}, std::pair{"MOVE", "move"}, std::pair{"EXPORT", "export"},
               std::pair{"TIMETABLE", "timetable"}, std::pair{"PROJECT", "project"}}) {
             ShowTab(key);
-            if (std::string_view(key) == "EXPORT") SearchAll();
+            if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
+            if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
+            if (form_.picExport.visible) SearchAll();
             Take(form_, name);
         }
     }
