@@ -1,5 +1,6 @@
 #include "operations/SearchRows.h"
 
+#include "core/FlightTimes.h"
 #include "core/Number.h"
 #include "core/Text.h"
 #include "simulator/TimeZones.h"
@@ -30,7 +31,7 @@ void AppendVia(const FlightView& flight, std::string& out) {
 }  // namespace
 
 std::string PeriodColumn(std::string_view period) {
-    if (EqualNoCase(period, "WEEK") || period.size() < 2) return std::string(period);
+    if (IsWeekPeriod(period) || period.size() < 2) return std::string(period);
     return Concat(Filled(period.substr(0, period.size() - 2), 2), "Hr");
 }
 

@@ -89,11 +89,13 @@ TEST(FlightEditor, AnUnknownAircraftHasToBeReplacedAndLeavesTheArrivalsAlone) {
         EXPECT_FALSE(fake.editor.closeRequest);
         EXPECT_EQ(fake.Row(0), "AAAA BBBB 10:00:00 12:34:56 0001 FL100");
         fake.Choose(fake.editor.cmAircraft, "Jet (fast) (AC#1)");
+        fake.Press(fake.editor.ckFlightTimes);
         fake.Accept();
     });
     EXPECT_EQ(result, "Jet (fast)");
     EXPECT_EQ(fake.said, Texts{"You need to select an aircraft to save the flight."});
     EXPECT_EQ(fake.world.messages.shown.front().first, kMarkExclamation);
+    EXPECT_TRUE(fake.session.CheckFlightTimes && !fake.session.CheckFlightLevels) << "as the boxes were";
     EXPECT_EQ(fake.edited.Legs[0].ETA, "11:00:00");
 }
 
