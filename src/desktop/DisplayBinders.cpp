@@ -1,10 +1,58 @@
 #include "desktop/DisplayBinders.h"
 
+#include <QFontMetrics>
+#include <QIcon>
+#include <QPainter>
 #include <algorithm>
 
 #include "desktop/ScreenText.h"
 
 namespace orlo {
+namespace {
+
+constexpr int kEmblemLines = 12;  // heights of a line of text
+constexpr double kNameScale = 3;
+
+// The icon of the program over its name.
+class Emblem : public QWidget {
+  public:
+    Emblem(const QString& name, QWidget* parent) : QWidget(parent), name_(name) {}
+
+    QSize sizeHint() const override {
+        const int line = fontMetrics().lineSpacing();
+        return {2 * kEmblemLines * line, kEmblemLines * line};
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QFont large = font();
+        large.setPointSizeF(large.pointSizeF() * kNameScale);
+        painter.setFont(large);
+        const int nameHeight = painter.fontMetrics().height();
+        const QIcon icon = window()->windowIcon();
+        if (icon.isNull()) {
+            painter.drawText(rect(), Qt::AlignCenter, name_);
+            return;
+        }
+        const QRect above = rect().adjusted(0, 0, 0, -nameHeight);
+        icon.paint(&painter, above);
+        painter.drawText(QRect(0, above.bottom(), width(), nameHeight), Qt::AlignCenter, name_);
+    }
+
+  private:
+    QString name_;
+};
+
+QWidget* NewPicture(const Picture& picture, QWidget& parent) {
+    if (picture.accessibleName.empty()) return new QWidget(&parent);
+    return new Emblem(ToQString(picture.accessibleName), &parent);
+}
+
+}  // namespace
+
+PictureBinder::PictureBinder(Picture& picture, QWidget& parent, EventSink& sink)
+    : Binder(picture, *NewPicture(picture, parent), sink) {}
 
 void FrameBinder::DrawContent() {
     if (caption_.Changes(Of().caption)) shown_.setTitle(ToQString(Of().caption));

@@ -23,11 +23,10 @@ class FrameBinder : public Binder {
     DrawnText caption_;
 };
 
-// A pane, or the ground of a picture.
+// A pane; one with a name of its own is the emblem of the program.
 class PictureBinder : public Binder {
   public:
-    PictureBinder(Picture& picture, QWidget& parent, EventSink& sink)
-        : Binder(picture, *new QWidget(&parent), sink) {}
+    PictureBinder(Picture& picture, QWidget& parent, EventSink& sink);
 
   protected:
     void DrawContent() override {}

@@ -29,6 +29,7 @@ class ListViewBinder : public Binder {
     void Connect();
     void DrawRows();
     void DrawHeader();
+    void FitColumns();
     void DrawSelection();
     void DrawCurrent();
     void UserSelects(const QItemSelection& selected, const QItemSelection& deselected);
@@ -43,6 +44,7 @@ class ListViewBinder : public Binder {
     ListModel model_;
     std::map<std::string, int> widths_;  // by column key
     std::vector<std::string> drawnKeys_;
+    bool fittedToRows_ = false;
     std::int64_t drawnContent_ = -1;
     std::int64_t drawnOrder_ = -1;
     std::int64_t drawnSelection_ = -1;

@@ -1,0 +1,80 @@
+// The desktop program: makes the services of this system and shows the main window until it is closed.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <exception>
+#include <memory_resource>
+
+#include "core/Application.h"
+#include "core/Version.h"
+#include "desktop/AppIcon.h"
+#include "desktop/DesktopHost.h"
+#include "desktop/EdgeStyle.h"
+#include "desktop/MainLayout.h"
+#include "desktop/ScreenText.h"
+#include "platform/Platform.h"
+#include "platform/common/SystemRandom.h"
+#include "shell/Program.h"
+#include "shell/StartUp.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kStartUpFailed = 1;
+
+// The windows go before the forms that they show.
+class AttachedHost {
+  public:
+    AttachedHost(DesktopHost& host, Program& program) : host_(host) {
+        host_.Attach(program.pump, program.forms.frmProgress);
+    }
+    AttachedHost(const AttachedHost&) = delete;
+    AttachedHost& operator=(const AttachedHost&) = delete;
+    ~AttachedHost() { host_.Detach(); }
+
+  private:
+    DesktopHost& host_;
+};
+
+void NameApplication() {
+    QCoreApplication::setApplicationName(ToQString(kApplicationTitle));
+    QCoreApplication::setApplicationVersion(kVersionText);
+    QGuiApplication::setApplicationDisplayName(ToQString(kApplicationTitle));
+    QGuiApplication::setDesktopFileName("orlo");
+    QApplication::setWindowIcon(ApplicationIcon());
+}
+
+int RunDesktop() {
+    const auto files = MakeFileSystem();
+    const auto userSettings = MakeUserSettings(*files, std::nullopt);
+    const auto machineSettings = MakeMachineSettings(*files, std::string());
+    SystemRandom random;
+    const auto clock = MakeClock();
+    DesktopHost host;
+    Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
+
+    Program program(services, FindProgramFolder(*files));
+    const AttachedHost attached(host, program);
+    DesignMainForm(program.forms.frmMain);
+    if (!StartUp(program.context)) return kStartUpFailed;
+    host.RunUntilClosed(program.forms.frmMain);
+    return 0;
+}
+
+}  // namespace
+}  // namespace orlo
+
+int main(int count, char** words) {
+    std::pmr::set_default_resource(&orlo::ListMemory());
+    // Texts keep their size on screens that are scaled by a fraction.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(count, words);
+    orlo::NameApplication();
+    orlo::UseVisibleEdges();
+    try {
+        return orlo::RunDesktop();
+    } catch (const std::exception& failure) {
+        QMessageBox::critical(nullptr, orlo::ToQString(orlo::kApplicationTitle), failure.what());
+        return orlo::kStartUpFailed;
+    }
+}
