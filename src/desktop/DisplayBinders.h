@@ -26,8 +26,7 @@ class FrameBinder : public Binder {
 // A pane, or the ground of a picture.
 class PictureBinder : public Binder {
   public:
-    PictureBinder(Picture& picture, QWidget& parent, EventSink& sink)
-        : Binder(picture, *new QWidget(&parent), sink) {}
+    PictureBinder(Picture& picture, QWidget& parent, EventSink& sink);
 
   protected:
     void DrawContent() override {}

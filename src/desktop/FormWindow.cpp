@@ -22,6 +22,7 @@ bool SameBox(const WindowBox& a, const WindowBox& b) {
 FormWindow::FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), form_(&form), sink_(sink) {
     setObjectName(QString::fromStdString(form.name));
+    setAcceptDrops(form.takesFiles);
     Build();
 }
 

@@ -1,8 +1,11 @@
 #include "desktop/ListViewBinder.h"
 
+#include <QClipboard>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -38,7 +41,7 @@ class RowDelegate : public QStyledItemDelegate {
 // Remembers what the user's last act does to the selection.
 class ListTable : public QTableView {
   public:
-    using QTableView::QTableView;
+    ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
 
     // The toolkit's own toggles with the key held that calls it.
@@ -51,6 +54,13 @@ class ListTable : public QTableView {
     }
 
   protected:
+    // The toolkit's own copy takes one cell.
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->matches(QKeySequence::Copy)) return QTableView::keyPressEvent(event);
+        const std::string text = list_.SelectedText();
+        if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    }
+
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override {
         command_ = QTableView::selectionCommand(index, event);
@@ -58,6 +68,7 @@ class ListTable : public QTableView {
     }
 
   private:
+    const ListView& list_;
     mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
 
@@ -81,7 +92,7 @@ QItemSelection SelectionOf(const QAbstractItemModel& model, const std::vector<Po
 }  // namespace
 
 ListViewBinder::ListViewBinder(ListView& list, QWidget& parent, EventSink& sink)
-    : Binder(list, *new ListTable(&parent), sink),
+    : Binder(list, *new ListTable(&parent, list), sink),
       list_(list),
       shown_(static_cast<QTableView&>(Widget())),
       model_(list) {
@@ -130,7 +141,8 @@ void ListViewBinder::Connect() {
     QObject::connect(shown_.horizontalHeader(), &QHeaderView::sectionResized, &life,
                      [this](int column, int, int width) {
                          const auto place = static_cast<std::size_t>(column);
-                         if (!drawing_ && place < drawnKeys_.size()) widths_[drawnKeys_[place]] = width;
+                         if (!drawing_ && place < drawnKeys_.size())
+                             list_.columnWidths[drawnKeys_[place]] = width;
                      });
 }
 
@@ -165,9 +177,10 @@ void ListViewBinder::DrawHeader() {
         const QFontMetrics metrics(shown_.horizontalHeader()->font());
         for (std::size_t i = 0; i < keys.size(); ++i) {
             const int needed = metrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom;
-            const auto kept = widths_.find(keys[i]);
-            shown_.setColumnWidth(static_cast<int>(i),
-                                  kept != widths_.end() ? kept->second : std::max(needed, kLeastWidth));
+            const auto kept = list_.columnWidths.find(keys[i]);
+            shown_.setColumnWidth(static_cast<int>(i), kept != list_.columnWidths.end()
+                                                           ? kept->second
+                                                           : std::max(needed, kLeastWidth));
         }
     }
     QHeaderView& header = *shown_.horizontalHeader();
