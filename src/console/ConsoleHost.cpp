@@ -181,26 +181,41 @@ bool ConsoleHost::TimerArmed(std::string_view name) const {
     return timers_.contains(UpperText(name));
 }
 
+bool ConsoleHost::IsThere(const std::string& path, Wanted wanted) const {
+    switch (wanted) {
+        case Wanted::File:
+            return files_.FileExists(path);
+        case Wanted::Folder:
+            return files_.FolderExists(path);
+        default:
+            return true;
+    }
+}
+
 std::optional<std::string> ConsoleHost::TakePath(std::string_view what, std::string_view title,
-                                                 bool mustExist) {
+                                                 Wanted wanted) {
     const bool answered = !answers.paths.empty();
     std::optional<std::string> path;
     if (answered) {
         path = answers.paths.front();
         answers.paths.pop_front();
     }
-    if (path && (path->empty() || (mustExist && !files_.FileExists(*path)))) path.reset();
+    if (path && (path->empty() || !IsThere(*path, wanted))) path.reset();
     out_ << ArrowLine(Concat("dialog ", what, " \"", PrintedMessage(title), "\""), path) << '\n';
     if (strict_ && !answered) throw ScriptEnd{"a dialog has no queued answer"};
     return path;
 }
 
 std::string ConsoleHost::ShowOpenDialog(const FileDialog& dialog) {
-    return TakePath("open", dialog.title, true).value_or("");
+    return TakePath("open", dialog.title, Wanted::File).value_or("");
 }
 
 std::string ConsoleHost::ShowSaveDialog(const FileDialog& dialog) {
-    return TakePath("save", dialog.title, false).value_or("");
+    return TakePath("save", dialog.title, Wanted::AnyPath).value_or("");
+}
+
+std::string ConsoleHost::ShowFolderDialog(std::string_view title, const std::string&) {
+    return TakePath("open", title, Wanted::Folder).value_or("");
 }
 
 std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::string_view title,
@@ -218,15 +233,15 @@ std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::s
 }
 
 bool ConsoleHost::ShowPrintDialog(std::string_view title) {
-    const auto path = TakePath("print", title, false);
+    const auto path = TakePath("print", title, Wanted::AnyPath);
     printPath_ = path.value_or("");
     return path.has_value();
 }
 
-void ConsoleHost::Print(std::string_view text) {
-    if (printPath_.empty()) return;
+bool ConsoleHost::Print(std::string_view text) {
     const auto file = files_.CreateReplacing(printPath_);
     if (file && file->Write(text)) file->Commit();
+    return true;
 }
 
 bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {

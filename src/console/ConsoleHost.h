@@ -67,14 +67,17 @@ class ConsoleHost : public ProgressHost, public MessageHost, public WindowHost {
     bool TimerArmed(std::string_view name) const override;
     std::string ShowOpenDialog(const FileDialog& dialog) override;
     std::string ShowSaveDialog(const FileDialog& dialog) override;
+    std::string ShowFolderDialog(std::string_view title, const std::string& startFolder) override;
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                         std::string_view defaultText) override;
     bool ShowPrintDialog(std::string_view title) override;
-    void Print(std::string_view text) override;
+    bool Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   private:
-    std::optional<std::string> TakePath(std::string_view what, std::string_view title, bool mustExist);
+    enum class Wanted { AnyPath, File, Folder };
+    bool IsThere(const std::string& path, Wanted wanted) const;
+    std::optional<std::string> TakePath(std::string_view what, std::string_view title, Wanted wanted);
     void DrawBar();
 
     FileSystem& files_;

@@ -77,7 +77,8 @@ lines that start with # are skipped. A word with blanks stands in double quotes,
   select LIST all|none|ROW[,...]  selects rows, counted from 0
   current LIST ROW                clicks a row        dblclick LIST ROW  double-clicks it
   sort LIST COLUMN                clicks a column header, by number or caption
-  key NAME Delete|Insert|Enter|Escape
+  key NAME Delete|Insert|Enter|Escape|F1
+  drop PATH                       drops a file on the main window
   focus NAME                      close [FORM]        timer NAME
   reply ok|yes|no|cancel          queues the answer to the next question
   choose [PATH]                   queues the answer to the next file or print dialog; without PATH a cancel

@@ -61,7 +61,7 @@ std::int32_t NodePlace(const TreeView& tree, std::string_view text) {
     throw ScriptEnd{Concat(tree.name, " has no node '", text, "'")};
 }
 
-std::int32_t EntryPlace(const ComboBox& combo, const std::string& word) {
+std::optional<std::int32_t> FindEntry(const ComboBox& combo, const std::string& word) {
     if (word.starts_with('#')) {
         const auto index = ParseWholeNumber(std::string_view(word).substr(1));
         if (index && *index >= 0 && *index < static_cast<std::int32_t>(combo.entries.size())) return *index;
@@ -73,7 +73,19 @@ std::int32_t EntryPlace(const ComboBox& combo, const std::string& word) {
     for (std::size_t i = 0; i < combo.entries.size(); ++i) {
         if (IsNamed(combo.entries[i].text, word)) return static_cast<std::int32_t>(i);
     }
-    throw ScriptEnd{Concat(combo.name, " has no entry '", word, "'")};
+    return std::nullopt;
+}
+
+// Any text may be typed into an editable combo box.
+void ChooseOrType(ComboBox& combo, const std::string& word) {
+    const auto place = FindEntry(combo, word);
+    if (place) {
+        combo.index = *place;
+    } else if (combo.style == ComboStyle::Editable) {
+        combo.Type(FromScreen(word));
+    } else {
+        throw ScriptEnd{Concat(combo.name, " has no entry '", word, "'")};
+    }
 }
 
 void ClickRow(ListView& list, std::int32_t place) {
@@ -193,7 +205,7 @@ void ScriptRunner::Set(const Words& words) {
             break;
         case ControlKind::ComboBox: {
             auto& combo = static_cast<ComboBox&>(control);
-            combo.index = EntryPlace(combo, words[2]);
+            ChooseOrType(combo, words[2]);
             Deliver(combo, EventKind::Change);
             break;
         }
@@ -280,8 +292,9 @@ void ScriptRunner::SortColumn(const Words& words) {
 }
 
 void ScriptRunner::Key(const Words& words) {
+    const bool help = EqualNoCase(words[2], "F1");
     if (Form* form = FindForm(words[1])) {
-        Event event{form, nullptr, EventKind::KeyUp};
+        Event event{form, nullptr, help ? EventKind::Help : EventKind::KeyUp};
         program_.pump.Deliver(event);
         return;
     }
@@ -289,7 +302,10 @@ void ScriptRunner::Key(const Words& words) {
     if (!TakesFocus(control)) throw ScriptEnd{Concat(control.name, " takes no focus")};
     if (!MoveFocus(control)) return;
     Form& form = control.form;
-    if (EqualNoCase(words[2], "Enter") || EqualNoCase(words[2], "Escape")) {
+    if (help) {
+        Event event{&form, nullptr, EventKind::Help};
+        program_.pump.Deliver(event);
+    } else if (EqualNoCase(words[2], "Enter") || EqualNoCase(words[2], "Escape")) {
         Button* button = EqualNoCase(words[2], "Enter") ? form.defaultButton : form.cancelButton;
         if (EqualNoCase(words[2], "Enter") && control.kind == ControlKind::Button)
             button = static_cast<Button*>(&control);
@@ -334,6 +350,12 @@ void ScriptRunner::FireTimer(const Words& words) {
     event.kind = EventKind::Timer;
     event.name = words[1];
     host_.StopTimer(words[1]);
+    program_.pump.Deliver(event);
+}
+
+void ScriptRunner::DropFile(const Words& words) {
+    Event event{&program_.forms.frmMain, nullptr, EventKind::DropFile};
+    event.path = words[1];
     program_.pump.Deliver(event);
 }
 

@@ -110,6 +110,7 @@ void ScriptRunner::RunCommand(const Words& words) {
               host_.answers.inputs.push_back(words.size() > 1 ? std::optional(FromScreen(words[1]))
                                                               : std::nullopt);
           }}},
+        {"drop", {1, 1, [&] { DropFile(words); }}},
         {"timer", {1, 1, [&] { FireTimer(words); }}},
         {"show", {1, 1, [&] { PrintControl(out_, control()); }}},
         {"rows", {1, 1, [&] { PrintRows(out_, FindAs<ListView>(words[1], ControlKind::ListView)); }}},

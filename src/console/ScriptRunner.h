@@ -44,6 +44,7 @@ class ScriptRunner {
     void Focus(const Words& words);
     void CloseForm(const Words& words);
     void FireTimer(const Words& words);
+    void DropFile(const Words& words);
     void Reply(const Words& words);
     void Hover(const Words& words);
     void Popup(const Words& words);

@@ -60,6 +60,8 @@ int RunScript(const ConsoleOptions& options, std::istream& script, FileSystem& f
         std::cout << std::flush;
         return kStartUpFailed;
     }
+    // The option answers before all settings.
+    if (options.simulator) program.session.SimulatorFolder.clear();
     const int status = runner.Run();
     if (status == 0 && !userSettings.WriteHeld())
         std::cerr << "orlo-console: the settings could not be written\n";

@@ -50,6 +50,7 @@ struct Session {
 
     // Paths and state.
     std::string ProgramFolder;
+    std::string SimulatorFolder;  // that the user chose; empty: the one of the machine-wide settings
     std::string FlightplanPath;
     bool PlanLoaded = false;
     bool PlanModified = false;

@@ -1,5 +1,6 @@
 #include "desktop/ComboBoxBinder.h"
 
+#include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
@@ -40,9 +41,28 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink
     shown_.setFocusPolicy(Qt::StrongFocus);
     shown_.setModel(&model_);
     if (auto* list = qobject_cast<QListView*>(shown_.view())) list->setUniformItemSizes(true);
+    if (combo.style == ComboStyle::Editable) MakeEditable();
     // Not `currentIndexChanged`, which a drawing causes too.
     QObject::connect(&shown_, &QComboBox::activated, &life,
                      [this](int index) { UserActs(EventKind::Change, [&] { combo_.index = index; }); });
+}
+
+// What is typed stands for itself: nothing completes it, and no entry is made of it.
+void ComboBoxBinder::MakeEditable() {
+    shown_.setEditable(true);
+    shown_.setInsertPolicy(QComboBox::NoInsert);
+    shown_.setCompleter(nullptr);
+    QObject::connect(shown_.lineEdit(), &QLineEdit::textEdited, &life, [this](const QString& text) {
+        UserActs(EventKind::Change, [&] {
+            combo_.Type(FromQString(text));
+            // The entry is no longer chosen; what was typed stands in the field.
+            const QSignalBlocker blocker(shown_);
+            const int cursor = shown_.lineEdit()->cursorPosition();
+            shown_.setCurrentIndex(-1);
+            shown_.setEditText(text);
+            shown_.lineEdit()->setCursorPosition(cursor);
+        });
+    });
 }
 
 ComboBoxBinder::~ComboBoxBinder() {
@@ -59,6 +79,9 @@ void ComboBoxBinder::DrawContent() {
 
 void ComboBoxBinder::GoBack() {
     if (shown_.currentIndex() != combo_.index) shown_.setCurrentIndex(combo_.index);
+    if (!shown_.isEditable()) return;
+    const QString text = ToQString(combo_.Text());
+    if (shown_.currentText() != text) shown_.setEditText(text);
 }
 
 }  // namespace orlo

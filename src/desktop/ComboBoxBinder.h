@@ -31,6 +31,8 @@ class ComboBoxBinder : public Binder {
     void GoBack() override;
 
   private:
+    void MakeEditable();
+
     ComboBox& combo_;
     QComboBox& shown_;
     ComboModel model_;

@@ -1,17 +1,25 @@
 // The dialogs of the desktop front end. While one is open it is the topmost modal window for the pump too.
 
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPushButton>
 #include <QUrl>
 #include <algorithm>
 
 #include "core/Application.h"
+#include "core/Path.h"
 #include "core/Text.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
 #include "desktop/ScreenText.h"
+#include "desktop/TextPrinter.h"
 #include "shell/EventPump.h"
 
 namespace orlo {
@@ -90,19 +98,33 @@ QStringList FiltersOf(const std::string& filter) {
     return filters;
 }
 
-void SetUp(QFileDialog& shown, const FileDialog& dialog) {
+// The folder of a path that may name a file; empty where there is none.
+QString FolderOf(const std::string& path) {
+    if (path.empty()) return {};
+    const QFileInfo file(PathToQString(path));
+    const QString folder = file.isDir() ? file.filePath() : file.path();
+    return QFileInfo(folder).isAbsolute() && QFileInfo(folder).isDir() ? folder : QString();
+}
+
+// A dialog that is asked with no folder opens in the one where the last of its kind ended.
+void SetUp(QFileDialog& shown, const FileDialog& dialog, const QString& lastFolder) {
     const QStringList filters = FiltersOf(dialog.filter);
     if (!filters.isEmpty()) {
         shown.setNameFilters(filters);
         shown.selectNameFilter(filters[std::clamp<qsizetype>(dialog.filterIndex - 1, 0, filters.size() - 1)]);
     }
-    if (!dialog.startFolder.empty()) shown.setDirectory(PathToQString(dialog.startFolder));
-    if (!dialog.startFile.empty()) shown.selectFile(PathToQString(dialog.startFile));
+    for (const QString& folder : {FolderOf(dialog.startFile), FolderOf(dialog.startFolder), lastFolder}) {
+        if (folder.isEmpty()) continue;
+        shown.setDirectory(folder);
+        break;
+    }
+    if (!dialog.startFile.empty()) shown.selectFile(PathToQString(FileName(dialog.startFile)));
     shown.setDefaultSuffix(ToQString(dialog.defaultExtension));
 }
 
-std::string ChosenPath(QFileDialog& shown) {
+std::string ChosenPath(QFileDialog& shown, QString& lastFolder) {
     if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return {};
+    lastFolder = shown.directory().absolutePath();
     return PathFromQString(shown.selectedFiles().front());
 }
 
@@ -127,8 +149,8 @@ std::string DesktopHost::ShowOpenDialog(const FileDialog& dialog) {
     QFileDialog shown(OwnerWindow(nullptr), ToQString(dialog.title));
     shown.setAcceptMode(QFileDialog::AcceptOpen);
     shown.setFileMode(dialog.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    SetUp(shown, dialog);
-    return ChosenPath(shown);
+    SetUp(shown, dialog, openFolder_);
+    return ChosenPath(shown, openFolder_);
 }
 
 std::string DesktopHost::ShowSaveDialog(const FileDialog& dialog) {
@@ -137,8 +159,19 @@ std::string DesktopHost::ShowSaveDialog(const FileDialog& dialog) {
     shown.setAcceptMode(QFileDialog::AcceptSave);
     shown.setFileMode(QFileDialog::AnyFile);
     shown.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
-    SetUp(shown, dialog);
-    return ChosenPath(shown);
+    SetUp(shown, dialog, saveFolder_);
+    return ChosenPath(shown, saveFolder_);
+}
+
+std::string DesktopHost::ShowFolderDialog(std::string_view title, const std::string& startFolder) {
+    const DialogRound round(*this);
+    QFileDialog shown(OwnerWindow(nullptr), ToQString(title));
+    shown.setFileMode(QFileDialog::Directory);
+    shown.setOption(QFileDialog::ShowDirsOnly);
+    const QString folder = FolderOf(startFolder);
+    if (!folder.isEmpty()) shown.setDirectory(folder);
+    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return {};
+    return PathFromQString(shown.selectedFiles().front());
 }
 
 std::optional<std::string> DesktopHost::InputBox(std::string_view prompt, std::string_view title,
@@ -152,12 +185,37 @@ std::optional<std::string> DesktopHost::InputBox(std::string_view prompt, std::s
     return FromQString(shown.textValue());
 }
 
-bool DesktopHost::ShowPrintDialog(std::string_view) {
-    ShowNotBuilt("Printing");
-    return false;
+// Of the toolkit's dialogs only some have a row of buttons; where the system shows its own, that has a
+// preview itself or none.
+bool DesktopHost::ShowPrintDialog(std::string_view title) {
+    const DialogRound round(*this);
+    if (printer_ == nullptr) printer_ = MakeTextPrinter();
+    printer_->setDocName(ToQString(title));
+    QPrintDialog shown(printer_.get(), OwnerWindow(nullptr));
+    shown.setWindowTitle(ToQString(title));
+    shown.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                     QAbstractPrintDialog::PrintCollateCopies);
+    previewWanted_ = false;
+    if (auto* buttons = shown.findChild<QDialogButtonBox*>()) {
+        const QPushButton* preview = buttons->addButton("Pre&view", QDialogButtonBox::ActionRole);
+        QObject::connect(preview, &QPushButton::clicked, &shown, [this, &shown] {
+            previewWanted_ = true;
+            shown.accept();
+        });
+    }
+    return shown.exec() == QDialog::Accepted;
 }
 
-void DesktopHost::Print(std::string_view) {}
+bool DesktopHost::Print(std::string_view text) {
+    if (printer_ == nullptr) return false;
+    if (!previewWanted_) return PrintText(text, *printer_);
+    const DialogRound round(*this);
+    QPrintPreviewDialog shown(printer_.get(), OwnerWindow(nullptr));
+    shown.setWindowTitle(printer_->docName());
+    QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
+                     [text](QPrinter* printer) { PrintText(text, *printer); });
+    return shown.exec() == QDialog::Accepted;
+}
 
 bool DesktopHost::OpenDocument(const std::string& path, const std::string&) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(PathToQString(path)));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QPrinter>
 #include <QWindow>
 #include <algorithm>
 
@@ -16,7 +17,39 @@ constexpr int kAboveCentre = 32;          // pixels between the centres of progr
 
 const QEvent::Type kRunQueued = static_cast<QEvent::Type>(QEvent::registerEventType());
 
+// A window without a place of its own stands over its owner.
+void PlaceOverOwner(FormWindow& window) {
+    const QWidget* owner = window.parentWidget();
+    if (owner == nullptr || window.Shown()->box.height >= 0) return;
+    QRect place(QPoint(), window.sizeHint().expandedTo(window.minimumSize()));
+    place.moveCenter(owner->frameGeometry().center());
+    window.setGeometry(place);
+}
+
 }  // namespace
+
+// A modal form and its round of events, which end together in whatever way the loop ends.
+class DesktopHost::ModalRound {
+  public:
+    ModalRound(DesktopHost& host, Form& form) : host_(host), form_(form), outer_(host.pump_->EnterModal()) {
+        std::vector<Form*>& modal = host_.pump_->Windows().modal;
+        modal.insert(modal.begin(), &form_);
+    }
+    ModalRound(const ModalRound&) = delete;
+    ModalRound& operator=(const ModalRound&) = delete;
+    ~ModalRound() {
+        form_.closeRequest = false;
+        if (host_.pump_ == nullptr) return;
+        host_.pump_->LeaveModal(outer_);
+        host_.Shut(form_);
+        host_.ScheduleDraw();
+    }
+
+  private:
+    DesktopHost& host_;
+    Form& form_;
+    int outer_;
+};
 
 DesktopHost::DesktopHost() {
     drawTimer_.setSingleShot(true);
@@ -97,11 +130,15 @@ void DesktopHost::ProcessEvents() {
 }
 
 void DesktopHost::RunUntilClosed(Form& form) {
+    struct Running {
+        std::vector<Loop>& loops;
+        ~Running() { loops.pop_back(); }
+    };
     QEventLoop loop;
     loops_.push_back({&form, &loop});
+    const Running running{loops_};
     ScheduleDraw();
     if (!form.closeRequest) loop.exec();
-    loops_.pop_back();
 }
 
 FormWindow* DesktopHost::Find(const Form& form) const {
@@ -124,7 +161,12 @@ FormWindow* DesktopHost::WindowOf(QObject* object) {
 
 QWidget* DesktopHost::OwnerWindow(const Form* owner) const {
     if (owner != nullptr) return Find(*owner);
-    return windows_.empty() ? nullptr : windows_.back()->window();
+    if (pump_ != nullptr) {
+        for (const Form* modal : pump_->Windows().modal) {
+            if (FormWindow* window = Find(*modal)) return window;
+        }
+    }
+    return windows_.empty() ? nullptr : windows_.front();
 }
 
 FormWindow& DesktopHost::Open(Form& form, QWidget* parent, Qt::WindowFlags flags) {
@@ -140,7 +182,12 @@ FormWindow& DesktopHost::Open(Form& form, QWidget* parent, Qt::WindowFlags flags
 void DesktopHost::ShowForm(Form& form) {
     if (pump_ == nullptr) return;
     QWidget* parent = form.owner == nullptr ? nullptr : OwnerWindow(form.owner);
-    FormWindow& window = Open(form, parent, Qt::Window);
+    const Qt::WindowFlags flags = form.frameless ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Window;
+    Present(Open(form, parent, flags));
+}
+
+void DesktopHost::Present(FormWindow& window) {
+    PlaceOverOwner(window);
     window.Draw();
     window.show();
     window.activateWindow();
@@ -152,20 +199,10 @@ void DesktopHost::ShowModal(Form& form, Form* owner) {
     form.owner = owner;
     form.closeRequest = false;
     FormWindow& window = Open(form, OwnerWindow(owner), Qt::Dialog);
-    OpenForms& open = pump_->Windows();
-    open.modal.insert(open.modal.begin(), &form);
+    const ModalRound round(*this, form);
     window.setWindowModality(Qt::ApplicationModal);
-    window.Draw();
-    window.show();
-    window.activateWindow();
-    window.TakeRequests();
-
-    const int outer = pump_->EnterModal();
+    Present(window);
     RunUntilClosed(form);
-    pump_->LeaveModal(outer);
-    Shut(form);
-    form.closeRequest = false;
-    ScheduleDraw();
 }
 
 // A modal form ends its loop first, and is unloaded where it was shown.

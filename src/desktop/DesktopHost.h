@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QString>
 #include <QTimer>
 #include <map>
 #include <memory>
@@ -15,6 +16,7 @@
 #include "services/WindowHost.h"
 
 class QEventLoop;
+class QPrinter;
 
 namespace orlo {
 
@@ -73,10 +75,11 @@ class DesktopHost : public QObject,
     bool TimerArmed(std::string_view name) const override;
     std::string ShowOpenDialog(const FileDialog& dialog) override;
     std::string ShowSaveDialog(const FileDialog& dialog) override;
+    std::string ShowFolderDialog(std::string_view title, const std::string& startFolder) override;
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                         std::string_view defaultText) override;
     bool ShowPrintDialog(std::string_view title) override;
-    void Print(std::string_view text) override;
+    bool Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   protected:
@@ -84,6 +87,7 @@ class DesktopHost : public QObject,
 
   private:
     class DialogRound;
+    class ModalRound;
     struct Loop {
         Form* form;
         QEventLoop* loop;
@@ -92,9 +96,10 @@ class DesktopHost : public QObject,
     void FireTimer(const std::string& name);
     FormWindow* Find(const Form& form) const;
     FormWindow& Open(Form& form, QWidget* parent, Qt::WindowFlags flags);
+    static void Present(FormWindow& window);
     void Shut(Form& form);
     void PlaceProgress(FormWindow& window);
-    QWidget* OwnerWindow(const Form* owner) const;  // else the topmost one
+    QWidget* OwnerWindow(const Form* owner) const;  // else the topmost modal one, else the first
     void ScheduleDraw();
     void DrawWhenDue();
     void DrawAll();
@@ -112,6 +117,10 @@ class DesktopHost : public QObject,
     // Stands for a dialog of the toolkit among the modal forms.
     Form dialogForm_{"", ""};
     int dialogsShown_ = 0;
+    QString openFolder_;  // where the last file of a dialog of that kind was
+    QString saveFolder_;
+    std::unique_ptr<QPrinter> printer_;  // as chosen last; null before the first print
+    bool previewWanted_ = false;
 };
 
 }  // namespace orlo

@@ -1,58 +1,61 @@
 #include "desktop/DisplayBinders.h"
 
-#include <QFontMetrics>
-#include <QIcon>
+#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
+#include "desktop/AppIcon.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
 namespace {
 
-constexpr int kEmblemLines = 12;  // heights of a line of text
-constexpr double kNameScale = 3;
-
-// The icon of the program over its name.
-class Emblem : public QWidget {
+// The emblem with the program's title below.
+class EmblemPicture : public QWidget {
   public:
-    Emblem(const QString& name, QWidget* parent) : QWidget(parent), name_(name) {}
+    EmblemPicture(QWidget& parent, std::function<void()> click)
+        : QWidget(&parent), click_(std::move(click)) {}
 
     QSize sizeHint() const override {
-        const int line = fontMetrics().lineSpacing();
-        return {2 * kEmblemLines * line, kEmblemLines * line};
+        const int line = fontMetrics().height();
+        return QSize(kLinesWide * line, kLinesHigh * line);
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        QFont large = font();
-        large.setPointSizeF(large.pointSizeF() * kNameScale);
-        painter.setFont(large);
-        const int nameHeight = painter.fontMetrics().height();
-        const QIcon icon = window()->windowIcon();
-        if (icon.isNull()) {
-            painter.drawText(rect(), Qt::AlignCenter, name_);
-            return;
-        }
-        const QRect above = rect().adjusted(0, 0, 0, -nameHeight);
-        icon.paint(&painter, above);
-        painter.drawText(QRect(0, above.bottom(), width(), nameHeight), Qt::AlignCenter, name_);
+        QFont font = painter.font();
+        font.setPointSizeF(font.pointSizeF() * kTitleScale);
+        painter.setFont(font);
+        const int title = painter.fontMetrics().height();
+        const int side = std::min(width(), height() - title) * 3 / 4;
+        QRect place(0, 0, side, side);
+        place.moveCenter(QPoint(width() / 2, (height() - title) / 2));
+        DrawEmblem(painter, place);
+        painter.drawText(QRect(0, height() - title - title / 4, width(), title), Qt::AlignCenter,
+                         accessibleName());
     }
+    void mousePressEvent(QMouseEvent*) override { click_(); }
 
   private:
-    QString name_;
+    static constexpr int kLinesWide = 20;
+    static constexpr int kLinesHigh = 14;
+    static constexpr double kTitleScale = 2.0;
+
+    std::function<void()> click_;
 };
 
-QWidget* NewPicture(const Picture& picture, QWidget& parent) {
-    if (picture.accessibleName.empty()) return new QWidget(&parent);
-    return new Emblem(ToQString(picture.accessibleName), &parent);
+QWidget& MakePicture(Picture& picture, QWidget& parent, std::function<void()> click) {
+    if (picture.emblem) return *new EmblemPicture(parent, std::move(click));
+    return *new QWidget(&parent);
 }
 
 }  // namespace
 
 PictureBinder::PictureBinder(Picture& picture, QWidget& parent, EventSink& sink)
-    : Binder(picture, *NewPicture(picture, parent), sink) {}
+    : Binder(picture, MakePicture(picture, parent, [this] { UserActs(EventKind::Click, [] {}); }), sink) {}
 
 void FrameBinder::DrawContent() {
     if (caption_.Changes(Of().caption)) shown_.setTitle(ToQString(Of().caption));

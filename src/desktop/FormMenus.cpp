@@ -29,6 +29,9 @@ void FormMenus::Add(MenuEntry& entry, bool hasEntries) {
         holder->addAction(action);
     }
     if (menu == nullptr) {
+        const QString keys =
+            QString::fromUtf8(entry.shortcut.data(), static_cast<int>(entry.shortcut.size()));
+        action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
         QObject::connect(action, &QAction::triggered, &life_,
                          [this, &entry, action] { Choose(entry, *action); });
     }
@@ -41,6 +44,11 @@ QWidget* FormMenus::HolderOf(const MenuEntry& entry) {
     }
     if (bar_ == nullptr) bar_ = new QMenuBar(&window_);
     return bar_;
+}
+
+QString FormMenus::CaptionOf(const MenuEntry& entry) {
+    const QString caption = ToQString(entry.caption);
+    return entry.plainCaption ? QString(caption).replace("&", "&&") : caption;
 }
 
 // The check mark follows what the procedure makes of the choice.
@@ -58,7 +66,7 @@ void FormMenus::DrawEntry(Drawn& drawn) {
     QAction& action = *drawn.action;
     if (drawn.caption != entry.caption) {
         drawn.caption = entry.caption;
-        action.setText(ToQString(entry.caption));
+        action.setText(CaptionOf(entry));
     }
     if (action.isVisible() != entry.visible) action.setVisible(entry.visible);
     if (action.isEnabled() != entry.EffectivelyEnabled()) action.setEnabled(entry.EffectivelyEnabled());

@@ -35,6 +35,7 @@ class FormMenus {
     QWidget* HolderOf(const MenuEntry& entry);
     void Choose(MenuEntry& entry, QAction& action);
     static void DrawEntry(Drawn& drawn);
+    static QString CaptionOf(const MenuEntry& entry);
 
     QWidget& window_;
     EventSink& sink_;

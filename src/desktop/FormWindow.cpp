@@ -35,6 +35,7 @@ bool OnAScreen(const WindowBox& box) {
 FormWindow::FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), form_(&form), sink_(sink) {
     setObjectName(QString::fromStdString(form.name));
+    setAcceptDrops(form.takesFiles);
     Build();
 }
 

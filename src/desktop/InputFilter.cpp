@@ -1,11 +1,14 @@
 #include "desktop/InputFilter.h"
 
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QToolTip>
+#include <QUrl>
 #include <QWindow>
 
 #include "desktop/DesktopHost.h"
@@ -30,6 +33,7 @@ bool IsInput(QEvent::Type type) {
         case QEvent::TouchBegin:
         case QEvent::TabletPress:
         case QEvent::DragEnter:
+        case QEvent::DragMove:
         case QEvent::Drop:
         case QEvent::ToolTip:
             return true;
@@ -53,6 +57,31 @@ bool TakesEnter(const Control* control) {
     if (control == nullptr || control->kind != ControlKind::TextBox) return false;
     const auto& box = static_cast<const TextBox&>(*control);
     return box.style != TextBoxStyle::SingleLine && !box.readOnly;
+}
+
+EventKey KeyOf(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return kKeyEnter;
+        case Qt::Key_Escape:
+            return kKeyEscape;
+        case Qt::Key_Insert:
+            return kKeyInsert;
+        case Qt::Key_Delete:
+            return kKeyDelete;
+        default:
+            return kKeyOther;
+    }
+}
+
+// The first file of what is dragged; empty where there is none.
+std::string DraggedFile(const QDropEvent& event) {
+    const QList<QUrl> urls = event.mimeData() != nullptr ? event.mimeData()->urls() : QList<QUrl>();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile()) return PathFromQString(url.toLocalFile());
+    }
+    return {};
 }
 
 bool Clickable(const Button* button) {
@@ -91,6 +120,10 @@ bool InputFilter::eventFilter(QObject* object, QEvent* event) {
             return Wheel(*window, object);
         case QEvent::ContextMenu:
             return Popup(*window, object, *static_cast<QContextMenuEvent*>(event));
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return DragFile(*window, *static_cast<QDropEvent*>(event));
         case QEvent::ToolTip:
             return Hover(*window, object, *static_cast<QHelpEvent*>(event));
         case QEvent::FocusIn:
@@ -139,9 +172,17 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
     if (!isTarget || window.Shown() == nullptr) return false;
     Form& form = *window.Shown();
     Control* control = window.FocusControl();
+    // A picture on the screen hears of every key.
+    if (form.frameless && !event.isAutoRepeat()) {
+        host_.Post({&form, nullptr, EventKind::KeyUp, KeyOf(event)});
+        return true;
+    }
     const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     if (others != Qt::NoModifier) return false;
     switch (event.key()) {
+        case Qt::Key_F1:
+            host_.Post({&form, nullptr, EventKind::Help});
+            return true;
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
             return !Leaves(window, nullptr);
@@ -168,8 +209,20 @@ void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& ev
     if (object != window.focusWidget() || event.isAutoRepeat()) return;
     Control* control = window.FocusControl();
     if (control == nullptr) return;
-    if (event.key() == Qt::Key_Delete) host_.Post({&control->form, control, EventKind::KeyUp, kKeyDelete});
-    if (event.key() == Qt::Key_Insert) host_.Post({&control->form, control, EventKind::KeyUp, kKeyInsert});
+    const EventKey key = KeyOf(event);
+    if (key == kKeyDelete || key == kKeyInsert) host_.Post({&control->form, control, EventKind::KeyUp, key});
+}
+
+// A file is the window's, wherever it is dropped; its source keeps it. What else is dragged goes to the
+// fields.
+bool InputFilter::DragFile(FormWindow& window, QDropEvent& event) {
+    Event dropped{window.Shown(), nullptr, EventKind::DropFile};
+    dropped.path = DraggedFile(event);
+    if (dropped.path.empty() || !dropped.form->takesFiles) return false;
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    if (event.type() == QEvent::Drop) host_.Post(dropped);
+    return true;
 }
 
 // A mnemonic moves the focus too; those of menus go to their actions, which are no widgets.

@@ -2,8 +2,9 @@
 
 #include <QObject>
 
-class QHelpEvent;
 class QContextMenuEvent;
+class QDropEvent;
+class QHelpEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -31,6 +32,7 @@ class InputFilter : public QObject {
     bool Shortcut(FormWindow& window, QObject* object);
     static bool Wheel(FormWindow& window, QObject* object);
     bool Popup(FormWindow& window, QObject* object, QContextMenuEvent& event);
+    bool DragFile(FormWindow& window, QDropEvent& event);
     bool Hover(FormWindow& window, QObject* object, QHelpEvent& event);
     void FocusIn(FormWindow& window, QObject* object);
     // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.

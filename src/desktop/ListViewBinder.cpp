@@ -1,8 +1,11 @@
 #include "desktop/ListViewBinder.h"
 
+#include <QClipboard>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -41,7 +44,7 @@ class RowDelegate : public QStyledItemDelegate {
 // Remembers what the user's last act does to the selection.
 class ListTable : public QTableView {
   public:
-    using QTableView::QTableView;
+    ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
 
     // The toolkit's own toggles with the key held that calls it.
@@ -54,6 +57,13 @@ class ListTable : public QTableView {
     }
 
   protected:
+    // The toolkit's own copy takes one cell.
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->matches(QKeySequence::Copy)) return QTableView::keyPressEvent(event);
+        const std::string text = list_.SelectedText();
+        if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    }
+
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override {
         command_ = QTableView::selectionCommand(index, event);
@@ -61,6 +71,7 @@ class ListTable : public QTableView {
     }
 
   private:
+    const ListView& list_;
     mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
 
@@ -84,7 +95,7 @@ QItemSelection SelectionOf(const QAbstractItemModel& model, const std::vector<Po
 }  // namespace
 
 ListViewBinder::ListViewBinder(ListView& list, QWidget& parent, EventSink& sink)
-    : Binder(list, *new ListTable(&parent), sink),
+    : Binder(list, *new ListTable(&parent, list), sink),
       list_(list),
       shown_(static_cast<QTableView&>(Widget())),
       model_(list) {
@@ -135,7 +146,8 @@ void ListViewBinder::Connect() {
                      [this](int column, int, int width) {
                          const auto place = static_cast<std::size_t>(column);
                          // The last one follows the width of the list.
-                         if (!drawing_ && place + 1 < drawnKeys_.size()) widths_[drawnKeys_[place]] = width;
+                         if (!drawing_ && place + 1 < drawnKeys_.size())
+                             list_.columnWidths[drawnKeys_[place]] = width;
                      });
 }
 
@@ -170,14 +182,14 @@ void ListViewBinder::FitColumns() {
     const std::int32_t rows = std::min(list_.Count(), kRowsMeasured);
     for (std::size_t i = 0; i < list_.columns.size(); ++i) {
         const auto column = static_cast<int>(i);
-        const auto kept = widths_.find(list_.columns[i].key);
+        const auto kept = list_.columnWidths.find(list_.columns[i].key);
         int needed = std::max(
             kLeastWidth, headerMetrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom);
         for (std::int32_t row = 0; row < rows; ++row) {
             const int text = metrics.horizontalAdvance(ToQString(list_.Text(list_.PlaceAt(row), column)));
             needed = std::max(needed, std::min(text, most) + kCellRoom);
         }
-        shown_.setColumnWidth(column, kept != widths_.end() ? kept->second : needed);
+        shown_.setColumnWidth(column, kept != list_.columnWidths.end() ? kept->second : needed);
     }
 }
 

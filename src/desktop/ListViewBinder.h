@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTableView>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -42,7 +41,6 @@ class ListViewBinder : public Binder {
     ListView& list_;
     QTableView& shown_;
     ListModel model_;
-    std::map<std::string, int> widths_;  // by column key
     std::vector<std::string> drawnKeys_;
     bool fittedToRows_ = false;
     std::int64_t drawnContent_ = -1;

@@ -41,6 +41,7 @@ void OptionButton::Check() {
 void ComboBox::Clear() {
     entries.clear();
     index = -1;
+    typed.clear();
     ++revision;
 }
 
@@ -50,9 +51,13 @@ void ComboBox::Add(std::string_view text, std::int32_t itemData) {
 }
 
 const std::string& ComboBox::Text() const {
-    static const std::string kNone;
     const auto place = static_cast<std::size_t>(index);
-    return index >= 0 && place < entries.size() ? entries[place].text : kNone;
+    return index >= 0 && place < entries.size() ? entries[place].text : typed;
+}
+
+void ComboBox::Type(std::string_view text) {
+    index = -1;
+    typed = text;
 }
 
 bool ComboBox::SelectText(std::string_view text) {

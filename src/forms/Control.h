@@ -128,12 +128,15 @@ struct ComboBox : Control {
     ComboStyle style;
     std::vector<ComboEntry> entries;
     std::int32_t index = -1;    // of the selected entry, -1 for none
+    std::string typed;          // what stands in the field of an editable one while no entry is selected
     std::int64_t revision = 0;  // counts changes of the entries
 
     void Clear();
     void Add(std::string_view text, std::int32_t itemData = 0);
-    // The selected entry's text; empty for none.
+    // The selected entry's text; without one what was typed.
     const std::string& Text() const;
+    // Puts a text into the field of an editable one; no entry is selected then.
+    void Type(std::string_view text);
     // Selects the first entry of exactly this text; without one the selection stays and the result is false.
     bool SelectText(std::string_view text);
     void SelectFirst() { index = entries.empty() ? -1 : 0; }
@@ -157,7 +160,9 @@ struct MenuEntry : Control {
     bool checkable = false;
     bool checked = false;
     bool separatorBefore = false;
-    bool popup = false;  // the root of a pop-up menu, not part of the menu bar
+    bool popup = false;         // the root of a pop-up menu, not part of the menu bar
+    bool plainCaption = false;  // each "&" in it is a character, such as one of a path
+    std::string_view shortcut;  // the keys that choose it, such as "Ctrl+O"; empty for none
 };
 
 struct Frame : Control {
@@ -169,6 +174,7 @@ struct Frame : Control {
 struct Picture : Control {
     Picture(Container in, std::string_view nameOf)
         : Control(ControlKind::Picture, in.form, in.parent, nameOf, "") {}
+    bool emblem = false;  // shows the program's emblem with its accessible name below
 };
 
 struct ProgressBar : Control {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "forms/Control.h"
@@ -17,17 +18,25 @@ enum class EventKind {
     SelectRow,    // list; the current item or the selection changed
     DoubleClick,  // list; `value` is the row's place
     ClickColumn,  // list; `value` is the column
-    KeyUp,        // on the focused control; `value` is the key
+    KeyUp,        // on the focused control, or on a form that gives no control the focus; `value` is the key
     Popup,        // right mouse button on a list or tree; the procedure names the menu
     Hover,  // the pointer rests on a control, `value` is the tree's node or -1; the procedure sets its tool
             // tip
     Timer,  // `control` is null, `name` tells the timer
     SystemMenu,  // the entry "About" of a window's system menu; `control` is null
+    Help,        // the key for help; `control` is null
+    DropFile,    // a file was dropped on the window, `path` tells which; `control` is null
     Resize,      // the inner size of the window changed, and the form's with it; `control` is null
     Close,       // the close box; `control` is null; may be refused
 };
 
-enum EventKey : std::int32_t { kKeyEnter = 13, kKeyEscape = 27, kKeyInsert = 45, kKeyDelete = 46 };
+enum EventKey : std::int32_t {
+    kKeyOther = 0,
+    kKeyEnter = 13,
+    kKeyEscape = 27,
+    kKeyInsert = 45,
+    kKeyDelete = 46
+};
 
 // What a user did. The form is written before its event is delivered.
 struct Event {
@@ -36,6 +45,7 @@ struct Event {
     EventKind kind = EventKind::Click;
     std::int32_t value = 0;
     std::string_view name = {};  // of a timer
+    std::string path = {};       // of a file that was dropped
     bool refused = false;        // set by a procedure that refuses a Leave or a Close
     MenuEntry* menu = nullptr;   // set by the procedure of a Popup
 };

@@ -55,6 +55,8 @@ struct Form {
     std::optional<WindowLimits> limits;
     std::int32_t opacity = 255;    // 0 to 255
     bool systemMenuAbout = false;  // the window's system menu has an entry "About"
+    bool frameless = false;        // a picture on the screen, without title and border
+    bool takesFiles = false;       // a file may be dropped on the window
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn

@@ -18,6 +18,14 @@ constexpr std::size_t kFirstText = 3;
 
 constexpr std::size_t kDeadBytesKept = 1024 * 1024;
 
+void AppendCell(const std::string& cell, bool last, std::string& out) {
+    std::string shown = ToScreen(cell);
+    for (char& character : shown) {
+        if (character == '\t' || character == '\r' || character == '\n') character = ' ';
+    }
+    out.append(shown).append(last ? "\r\n" : "\t");
+}
+
 }  // namespace
 
 void ListView::AddColumn(std::string_view key, std::string_view text) {
@@ -253,6 +261,19 @@ std::vector<std::int32_t> ListView::SelectedPlaces() const {
         if (Slot(place).selected) places.push_back(place);
     }
     return places;
+}
+
+std::string ListView::SelectedText() const {
+    const std::vector<std::int32_t> places = SelectedPlaces();
+    if (places.empty()) return {};
+    std::string text;
+    const auto count = static_cast<std::int32_t>(columns.size());
+    for (std::int32_t i = 0; i < count; ++i)
+        AppendCell(columns[static_cast<std::size_t>(i)].caption, i + 1 == count, text);
+    for (const std::int32_t place : places) {
+        for (std::int32_t i = 0; i < count; ++i) AppendCell(Text(place, i), i + 1 == count, text);
+    }
+    return text;
 }
 
 std::size_t ListView::MemoryBytes() const {

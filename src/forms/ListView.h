@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -112,8 +113,14 @@ struct ListView : Control {
     void SortByColumn(std::int32_t column);
     void SwitchSorting(bool on);  // off: the order stays; on: sorts by the column chosen last
 
-    bool ensureVisibleRequest = false;  // of the current row; taken once by the front end
-    std::int64_t contentRevision = 0;   // counts changes of columns, rows, texts and colours
+    // The selected rows in displayed order behind the captions of the columns, as a screen shows them: a line
+    // each, with TAB between the columns and CR LF at the end; a TAB or line break inside a text is a blank.
+    // Empty without a selection.
+    std::string SelectedText() const;
+
+    std::map<std::string, std::int32_t> columnWidths;  // those that the user chose, by column key
+    bool ensureVisibleRequest = false;                 // of the current row; taken once by the front end
+    std::int64_t contentRevision = 0;                  // counts changes of columns, rows, texts and colours
     std::int64_t orderRevision = 0;
     std::int64_t selectionRevision = 0;
 

@@ -54,7 +54,7 @@ void SetUpMenus(MainForm& form) {
           &form.mnuToolsCompileCurrent, &form.mnuToolsEditPlanAircraft, &form.mnuToolsAirportDistance,
           &form.mnuToolsReports, &form.mnuToolsCheckFL, &form.mnuToolsRandPlan, &form.mnuToolsAirlinesCFG,
           &form.mnuToolsDeleteCache, &form.mnuToolsSwitches, &form.mnuTA, &form.mnuToolsBackupPlan,
-          &form.mnuViewRefresh, &form.mnuHelpAbout}) {
+          &form.mnuToolsSimulatorFolder, &form.mnuViewRefresh, &form.mnuHelpAbout}) {
         entry->separatorBefore = true;
     }
     for (MenuEntry* entry : {&form.mnuRecentFlightPlan1, &form.mnuRecentFlightPlan2,
@@ -62,8 +62,16 @@ void SetUpMenus(MainForm& form) {
                              &form.mnuRecentFlightPlan5, &form.mnuRecentProjects1, &form.mnuRecentProjects2,
                              &form.mnuRecentProjects3, &form.mnuRecentProjects4, &form.mnuRecentProjects5}) {
         entry->visible = false;
+        entry->plainCaption = true;
     }
     form.mnuSelect.popup = true;
+    form.mnuFileLoad.shortcut = "Ctrl+O";
+    form.mnuFileSave.shortcut = "Ctrl+S";
+    form.mnuToolsUndo.shortcut = "Ctrl+Z";
+#ifdef _WIN32
+    // The registry tells it.
+    form.mnuToolsSimulatorFolder.visible = false;
+#endif
 }
 
 void SetUpTabs(MainForm& form) {
@@ -78,6 +86,7 @@ void SetUpTabs(MainForm& form) {
         pane->visible = false;
     }
     form.defaultButton = &form.cmdShuffle;
+    form.takesFiles = true;
 }
 
 void SetUpLists(MainForm& form) {

@@ -90,6 +90,7 @@ struct MainForm : Form {
     MenuEntry mnuToolsBackupPlan{mnuToolsSwitches, "mnuToolsBackupPlan", "Backup Flightplan related files"};
     MenuEntry mnuToolsBackupAircraft{mnuToolsSwitches, "mnuToolsBackupAircraft",
                                      "Backup Aircraft related files"};
+    MenuEntry mnuToolsSimulatorFolder{mnuToolsSwitches, "mnuToolsSimulatorFolder", "Simulator &Folder..."};
 
     MenuEntry mnuView{*this, "mnuView", "&View"};
     MenuEntry mnuViewToolbar{mnuView, "mnuViewToolbar", "&Toolbar"};

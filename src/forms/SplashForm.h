@@ -6,7 +6,11 @@
 namespace orlo {
 
 struct SplashForm : Form {
-    SplashForm() : Form("frmSplash", kApplicationTitle) { picSplash.accessibleName = kApplicationTitle; }
+    SplashForm() : Form("frmSplash", kApplicationTitle) {
+        picSplash.accessibleName = kApplicationTitle;
+        picSplash.emblem = true;
+        frameless = true;
+    }
 
     Picture picSplash{*this, "picSplash"};
 };

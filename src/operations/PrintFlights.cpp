@@ -77,8 +77,9 @@ void PrintFlights(Context& context) {
         const FlightPrinter printer(context.session);
         services.progress.SetMax(count);
         NextProgress(context, "Printing...", 0);
-        services.windows.Print(PrintedResults(context, printer));
+        const bool printed = services.windows.Print(PrintedResults(context, printer));
         services.progress.Close();
+        if (!printed) return;
     }
     ShowMessage(services.messages, Concat("Successfully printed ", count, " flights."), kMarkInformation,
                 &context.forms.frmMain);

@@ -48,15 +48,17 @@ class WindowHost {
     // Chosen path; empty on cancel.
     virtual std::string ShowOpenDialog(const FileDialog& dialog) = 0;
     virtual std::string ShowSaveDialog(const FileDialog& dialog) = 0;
+    virtual std::string ShowFolderDialog(std::string_view title, const std::string& startFolder) = 0;
 
     // Nothing on cancel.
     virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view defaultText) = 0;
 
-    // Asks for a printer and prints the text, fixed-pitch, size 10. False on cancel, and then nothing is
-    // printed.
+    // Asks for a printer. False on cancel.
     virtual bool ShowPrintDialog(std::string_view title) = 0;
-    virtual void Print(std::string_view text) = 0;
+    // Prints the text on the printer chosen last, fixed-pitch, size 10. False when the user, who may look at
+    // the pages first, gives it up.
+    virtual bool Print(std::string_view text) = 0;
 
     // Opens a document with the system's default handler.
     virtual bool OpenDocument(const std::string& path, const std::string& workingFolder) = 0;

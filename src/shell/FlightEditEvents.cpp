@@ -6,6 +6,7 @@
 #include "editors/FlightEditPrint.h"
 #include "editors/FlightEditor.h"
 #include "shell/EventTables.h"
+#include "shell/HelpMenu.h"
 
 namespace orlo {
 namespace {
@@ -26,6 +27,7 @@ using enum EventKind;
 
 constexpr std::array kFlightEditEvents = {
     EventEntry{"", Close, Run<CancelFlightEdit>},
+    EventEntry{"", Help, ShowHelpPage},
     EventEntry{"cmAircraft", Change, Run<OnFlightAircraft>},
     EventEntry{"txtReg", Change, Run<OnFlightRegistration>},
     EventEntry{"txtPercent", Leave, OnLeaveFlightPercent},

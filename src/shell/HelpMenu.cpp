@@ -30,6 +30,35 @@ void OnSystemInformation(Context& context, Event&) {
                 &context.forms.frmAbout);
 }
 
+constexpr std::string_view kHelpContents = "index.html";
+
+struct TabHelp {
+    std::string_view key;  // of the tab
+    std::string_view page;
+};
+constexpr std::array<TabHelp, 5> kTabHelp = {{{"SHUFFLE", "shuffle.html"},
+                                              {"MOVE", "move.html"},
+                                              {"EXPORT", "export.html"},
+                                              {"TIMETABLE", "timetable.html"},
+                                              {"PROJECT", "project.html"}}};
+
+std::string_view HelpPageOf(const Forms& forms, const Form& form) {
+    if (&form == &forms.frmFlightEdit) return "editor.html";
+    for (const TabHelp& tab : kTabHelp) {
+        if (&form == &forms.frmMain && tab.key == forms.frmMain.tabMain.selectedKey) return tab.page;
+    }
+    return kHelpContents;
+}
+
+std::string HelpFolder(const Session& session) {
+    return JoinPath(session.ProgramFolder, "Help");
+}
+
+void OpenHelp(Context& context, std::string_view page) {
+    const std::string folder = HelpFolder(context.session);
+    context.services.windows.OpenDocument(JoinPath(folder, page), folder);
+}
+
 void OnAboutOk(Context& context, Event&) {
     context.forms.frmAbout.closeRequest = true;
 }
@@ -59,8 +88,13 @@ EventTable SplashEvents() {
 }
 
 void ShowHelp(Context& context) {
-    const std::string folder = JoinPath(context.session.ProgramFolder, "Help");
-    context.services.windows.OpenDocument(JoinPath(folder, "index.html"), folder);
+    OpenHelp(context, kHelpContents);
+}
+
+void ShowHelpPage(Context& context, Event& event) {
+    const std::string_view page = HelpPageOf(context.forms, *event.form);
+    const std::string path = JoinPath(HelpFolder(context.session), page);
+    OpenHelp(context, context.services.files.FileExists(path) ? page : kHelpContents);
 }
 
 void ShowAbout(Context& context) {

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "core/Text.h"
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
@@ -27,6 +28,8 @@ void Run(Context& context, Event&) {
     Procedure(context);
 }
 
+constexpr std::string_view kProjectExtension = ".orp";
+
 void NoAction(Context&, Event&) {}
 
 void OpenPlan(Context& context, Event&) {
@@ -36,6 +39,15 @@ void OpenPlan(Context& context, Event&) {
 template <std::size_t Place>
 void OpenRecentPlan(Context& context, Event&) {
     OpenFlightplan(context, context.session.RecentFlightplans[Place]);
+}
+
+// A project has an extension of its own, a plan any name.
+void OpenDroppedFile(Context& context, Event& event) {
+    if (EndsWithNoCase(event.path, kProjectExtension)) {
+        context.services.windows.ShowNotBuilt(context.forms.frmMain.mnuFileOpenProject.name);
+    } else {
+        OpenFlightplan(context, event.path);
+    }
 }
 
 void CloseMainWindow(Context& context, Event& event) {
@@ -82,6 +94,8 @@ constexpr std::array kMainEvents = {
     EventEntry{"", Close, CloseMainWindow},
     EventEntry{"", Resize, LayOutControls},
     EventEntry{"", SystemMenu, Run<ShowAbout>},
+    EventEntry{"", Help, ShowHelpPage},
+    EventEntry{"", DropFile, OpenDroppedFile},
     EventEntry{kSplashTimer, Timer, Run<CloseSplash>},
     EventEntry{"tabMain", SelectTab, Run<ActivateTab>},
 
@@ -189,6 +203,7 @@ constexpr std::array kMainEvents = {
     EventEntry{"mnuToolsACCheck", Click, OnSwitch},
     EventEntry{"mnuToolsBackupPlan", Click, OnSwitch},
     EventEntry{"mnuToolsBackupAircraft", Click, OnSwitch},
+    EventEntry{"mnuToolsSimulatorFolder", Click, Run<ChooseSimulatorFolder>},
     EventEntry{"mnuTAOff", Click, OnTurnAround},
     EventEntry{"mnuTA30", Click, OnTurnAround},
     EventEntry{"mnuTA45", Click, OnTurnAround},

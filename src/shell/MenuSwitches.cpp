@@ -3,7 +3,9 @@
 #include <array>
 
 #include "core/Path.h"
+#include "core/Text.h"
 #include "shell/SettingsMirror.h"
+#include "simulator/AircraftScan.h"
 #include "simulator/Scenery.h"
 
 namespace orlo {
@@ -37,6 +39,17 @@ void OnTurnAround(Context& context, Event& event) {
     for (const TurnAroundLimit& limit : MaximumTurnArounds()) {
         if (event.control == &(form.*limit.entry)) SetMaxTATime(context, limit.value);
     }
+}
+
+void ChooseSimulatorFolder(Context& context) {
+    Session& session = context.session;
+    Services& services = context.services;
+    const std::string old = SimulatorFolder(session, services.machineSettings);
+    const std::string chosen = services.windows.ShowFolderDialog("Simulator Folder", old);
+    if (chosen.empty()) return;
+    session.SimulatorFolder = services.files.FullPath(chosen);
+    if (session.SimulatorFolder != old) DeleteSceneryCache(context);
+    context.forms.frmMain.sbMain.text = Concat("Simulator folder set to [", session.SimulatorFolder, "].");
 }
 
 void DeleteSceneryCache(Context& context) {

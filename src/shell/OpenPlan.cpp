@@ -78,7 +78,8 @@ bool ReadPlan(Context& context) {
 
     context.services.progress.SetMax(kOpenStages);
     NextProgress(context, "Detecting FS2002 Aircraft...", 5);
-    ScanAircraft(session, context.services.files, GetSimulatorPath(context.services.machineSettings), true);
+    ScanAircraft(session, context.services.files, SimulatorFolder(session, context.services.machineSettings),
+                 true);
     return session.FSAircraftCount() > 0;
 }
 

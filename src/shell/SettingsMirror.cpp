@@ -14,6 +14,7 @@ constexpr std::string_view kSettings = "Settings";
 constexpr std::string_view kEditorSettings = "Settings\\Flight Editor";
 constexpr std::string_view kRecentFlightplans = "Recent Flightplans";
 constexpr std::string_view kRecentProjects = "Recent Projects";
+constexpr std::string_view kSimulatorFolder = "SimulatorFolder";
 constexpr std::int32_t kNoPlaceStored = -1;
 
 // Checks the entry of the limit, or the first one, which stands for off. The result is the limit that holds.
@@ -115,6 +116,11 @@ void ReadRecentLists(Context& context) {
     RebuildRecentMenus(context);
 }
 
+void ReadSimulatorFolder(Context& context) {
+    const OwnSettings settings(context.services.userSettings, kSettings);
+    context.session.SimulatorFolder = settings.Text(kSimulatorFolder, "");
+}
+
 void ReadZones(Context& context) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
@@ -171,6 +177,7 @@ void WriteSettings(Context& context) {
     settings.SaveBoolean("CheckFL", form.ckCheckFL.checked);
     settings.SaveBoolean("ChangeIFRVFR", form.ckIFRVFR.checked);
     settings.SaveBoolean("CheckVisitedAirports", form.ckCheckVisitedAirports.checked);
+    if (!session.SimulatorFolder.empty()) settings.Save(kSimulatorFolder, session.SimulatorFolder);
     OwnSettings editor(context.services.userSettings, kEditorSettings);
     editor.SaveBoolean("CheckAircraftRange", session.CheckAircraftRange);
     editor.SaveBoolean("CheckFlightLevels", session.CheckFlightLevels);

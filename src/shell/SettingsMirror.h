@@ -13,7 +13,8 @@ namespace orlo {
 void ReadSwitches(
     Context& context);  // menu ticks, shuffle options, turn-around limits, editor switches, start number
 void ReadRecentLists(Context& context);  // and both recent menus
-void ReadZones(Context& context);        // and the fields of the timetable
+void ReadSimulatorFolder(Context& context);
+void ReadZones(Context& context);  // and the fields of the timetable
 void ReadWindowPlace(Context& context);
 
 // All of it in the order of the store's tradition; the window's place only where the front end keeps it.

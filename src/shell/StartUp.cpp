@@ -58,6 +58,7 @@ bool StartUp(Context& context) {
     }
     ReadSwitches(context);
     ReadRecentLists(context);
+    ReadSimulatorFolder(context);
     windows.StartTimer(kSplashTimer, kSplashMilliseconds);
     context.session.DebugOn = form.mnuToolsDebug.checked;
     SelectFirstViews(form);

@@ -149,6 +149,10 @@ std::string GetSimulatorPath(SettingsStore& machineSettings) {
         machineSettings, "Microsoft", "Microsoft Games\\Flight Simulator", "8.0", "", "EXE Path", "")));
 }
 
+std::string SimulatorFolder(const Session& session, SettingsStore& machineSettings) {
+    return session.SimulatorFolder.empty() ? GetSimulatorPath(machineSettings) : session.SimulatorFolder;
+}
+
 bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {
     session.FSAircrafts.clear();
     session.FSAircraftProblems = false;

@@ -10,6 +10,8 @@ namespace orlo {
 
 // The simulator's folder as the machine-wide settings tell it, trimmed; empty when it is not known.
 std::string GetSimulatorPath(SettingsStore& machineSettings);
+// The folder that the user chose, else that one.
+std::string SimulatorFolder(const Session& session, SettingsStore& machineSettings);
 
 // Replaces session.FSAircrafts by the variants of all folders below "Aircraft", in the order of the folders
 // and then of the sections. A detailed scan also reads the fields that only editors and checks need, and

@@ -42,7 +42,7 @@ bool ReadScenery(Session& session, Services& services) {
     AFDCacheHeader header;
     if (ReadAFDCache(services.files, cachePath, session.Airports, header)) return true;
 
-    const std::string simulatorFolder = GetSimulatorPath(services.machineSettings);
+    const std::string simulatorFolder = SimulatorFolder(session, services.machineSettings);
     if (simulatorFolder.empty()) {
         ShowMessage(services.messages, "Couldn't find FS2002 Path.", kMarkCritical);
         return false;

@@ -47,6 +47,7 @@ class FakeWindows : public WindowHost {
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
     bool printDialogAnswer = true;
+    bool printAnswer = true;
     std::function<void(Form&)> onModal;  // what happens while a modal form is shown
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
@@ -66,12 +67,16 @@ class FakeWindows : public WindowHost {
     }
     std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
+    std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
     std::optional<std::string> InputBox(std::string_view, std::string_view, std::string_view) override {
         if (inputs.empty()) return std::nullopt;
         return Take(inputs);
     }
     bool ShowPrintDialog(std::string_view) override { return printDialogAnswer; }
-    void Print(std::string_view text) override { printed.emplace_back(text); }
+    bool Print(std::string_view text) override {
+        printed.emplace_back(text);
+        return printAnswer;
+    }
     bool OpenDocument(const std::string&, const std::string&) override { return true; }
 
   private:
