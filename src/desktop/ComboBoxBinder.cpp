@@ -55,12 +55,7 @@ void ComboBoxBinder::MakeEditable() {
     QObject::connect(shown_.lineEdit(), &QLineEdit::textEdited, &life, [this](const QString& text) {
         UserActs(EventKind::Change, [&] {
             combo_.Type(FromQString(text));
-            // The entry is no longer chosen; what was typed stands in the field.
-            const QSignalBlocker blocker(shown_);
-            const int cursor = shown_.lineEdit()->cursorPosition();
-            shown_.setCurrentIndex(-1);
-            shown_.setEditText(text);
-            shown_.lineEdit()->setCursorPosition(cursor);
+            text_.Changes(combo_.Text());
         });
     });
 }
@@ -73,15 +68,15 @@ void ComboBoxBinder::DrawContent() {
     if (drawnRevision_ != combo_.revision) {
         drawnRevision_ = combo_.revision;
         model_.Reset();
+        text_ = DrawnText();
     }
-    GoBack();
+    // What the user typed stands in the field already; a drawing touches what code has changed.
+    if (!shown_.isEditable() || text_.Changes(combo_.Text())) GoBack();
 }
 
 void ComboBoxBinder::GoBack() {
     if (shown_.currentIndex() != combo_.index) shown_.setCurrentIndex(combo_.index);
-    if (!shown_.isEditable()) return;
-    const QString text = ToQString(combo_.Text());
-    if (shown_.currentText() != text) shown_.setEditText(text);
+    if (shown_.isEditable()) shown_.setEditText(ToQString(combo_.Text()));
 }
 
 }  // namespace orlo

@@ -36,6 +36,7 @@ class ComboBoxBinder : public Binder {
     ComboBox& combo_;
     QComboBox& shown_;
     ComboModel model_;
+    DrawnText text_;  // of an editable one
     std::int64_t drawnRevision_ = -1;
 };
 

@@ -226,8 +226,11 @@ void DesktopHost::Shut(Form& form) {
     for (const FormWindow* other : others) {
         if (other->parentWidget() == window && other->Shown() != nullptr) Shut(*other->Shown());
     }
+    QWidget* owner = window->isActiveWindow() ? window->parentWidget() : nullptr;
     window->Release();
     window->hide();
+    // Not every system gives the focus back.
+    if (owner != nullptr) owner->activateWindow();
     window->deleteLater();
 }
 

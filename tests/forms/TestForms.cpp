@@ -91,7 +91,7 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
                           "mnuView",         "mnuHelp",
                           "cmdSysInfo",      "cmdAdd",
                           "cmdDelete",       "cmdUndo",
-                          "cmdPrint"};
+                          "cmdPrint",        "mnuToolsSimulatorFolder"};
     for (const std::string& name : chosen) {
         const Control* mine = nullptr;
         for (const Form* form : AllForms(forms)) {

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <array>
@@ -32,6 +35,9 @@ struct SampleForm : Form {
         tabViews.pages = {{"ONE", "One"}, {"TWO", "Two"}};
         tabViews.selectedKey = "ONE";
         mnuTick.checkable = true;
+        mnuTick.shortcut = "Ctrl+Z";
+        takesFiles = true;
+        for (const std::string_view text : {"Red", "Green"}) cmFree.Add(text);
         mnuSelect.popup = true;
         defaultButton = &cmdGo;
         cancelButton = &cmdStop;
@@ -52,6 +58,7 @@ struct SampleForm : Form {
     TextBox txtNotes{*this, "txtNotes", TextBoxStyle::MultiLine};
     Label lblZone{*this, "lblZone", "&Zone"};
     ComboBox cmZone{*this, "cmZone"};
+    ComboBox cmFree{*this, "cmFree", ComboStyle::Editable};
     CheckBox ckSwitch{*this, "ckSwitch", "S&witch"};
     Frame frChoice{*this, "frChoice", "Choice"};
     OptionButton opFirst{frChoice, "opFirst", "F&irst"};
@@ -97,6 +104,10 @@ template <>
 inline constexpr std::string_view kKindName<EventKind::Hover> = "Hover";
 template <>
 inline constexpr std::string_view kKindName<EventKind::Close> = "Close";
+template <>
+inline constexpr std::string_view kKindName<EventKind::Help> = "Help";
+template <>
+inline constexpr std::string_view kKindName<EventKind::DropFile> = "DropFile";
 
 // Notes the event and runs what the test wants to run.
 template <EventKind Kind>
@@ -118,6 +129,9 @@ inline EventTable SampleEvents() {
     using enum EventKind;
     static constexpr std::array kEvents = {
         Noted<Close>(""),
+        Noted<Help>(""),
+        Noted<DropFile>(""),
+        Noted<KeyUp>(""),
         Noted<Click>("mnuTick"),
         Noted<Click>("mnuSelectAll"),
         Noted<SelectTab>("tabViews"),
@@ -127,6 +141,7 @@ inline EventTable SampleEvents() {
         Noted<Change>("txtOther"),
         Noted<Change>("txtNotes"),
         Noted<Change>("cmZone"),
+        Noted<Change>("cmFree"),
         Noted<Click>("ckSwitch"),
         Noted<Click>("opFirst"),
         Noted<Click>("opSecond"),
@@ -206,5 +221,27 @@ struct DesktopProgram {
         EXPECT_EQ(form.focus, &control);
     }
 };
+
+// Runs in the dialog that opens next.
+template <typename Dialog>
+void InDialog(std::function<void(Dialog&)> act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [act, timer] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        timer->stop();
+        timer->deleteLater();
+        act(*dialog);
+    });
+    timer->start(20);
+}
+
+// Types the path and accepts it.
+inline void Choose(QFileDialog& dialog, const std::string& path) {
+    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    if (name == nullptr) throw std::runtime_error("no field for the file's name");
+    name->setText(QString::fromStdString(path));
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
 
 }  // namespace orlo::test

@@ -21,7 +21,7 @@ inline bool MakeSampleWorld(const std::string& folder, int flights) {
     const QStringList words = {PathToQString(folder), "--flights", QString::number(flights), "--seed", "7"};
     QProcess tool;
     tool.setStandardOutputFile(QProcess::nullDevice());
-    tool.start(ORLO_SAMPLE_WORLD, words);
+    tool.start(ORLO_SAMPLE_WORLD_TOOL, words);
     return tool.waitForFinished(-1) && tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
 }
 

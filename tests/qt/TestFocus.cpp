@@ -186,12 +186,12 @@ TEST(Focus, TheTabKeyFollowsTheOrderOfTheControls) {
     SampleForm& form = desktop.form;
     desktop.Focus(form.tabViews);
     std::vector<std::string> order;
-    for (int i = 0; i < 9; ++i) {
+    for (int i = 0; i < 10; ++i) {
         desktop.Key(form, Qt::Key_Tab);
         order.push_back(form.focus->name);
     }
-    EXPECT_EQ(order, (std::vector<std::string>{"txtName", "txtOther", "txtNotes", "cmZone", "ckSwitch",
-                                               "opFirst", "lvRows", "tvNodes", "cmdGo"}));
+    EXPECT_EQ(order, (std::vector<std::string>{"txtName", "txtOther", "txtNotes", "cmZone", "cmFree",
+                                               "ckSwitch", "opFirst", "lvRows", "tvNodes", "cmdGo"}));
 }
 
 }  // namespace

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "core/Path.h"
 #include "core/Settings.h"
 #include "shell/SettingsMirror.h"
+#include "simulator/AircraftScan.h"
+#include "simulator/Scenery.h"
 #include "support/FakeProgram.h"
 
 namespace orlo {
@@ -113,6 +116,36 @@ TEST(Settings, TheExitWritesExactlyTheseInThisOrder) {
     EXPECT_EQ(fake.world.userSettings.written[0], "MainState");
     EXPECT_EQ(fake.world.userSettings.written[1], "TATime")
         << "a minimised window keeps the place stored before";
+}
+
+TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) {
+    test::FakeProgram fake;
+    const std::string cache = JoinPath("/program", kAFDCacheName);
+    fake.world.machineSettings.Set(kSimulatorKeyPath, kSimulatorValue, " /machine ");
+    ReadSimulatorFolder(fake.context);
+    EXPECT_EQ(SimulatorFolder(fake.session, fake.world.machineSettings), "/machine");
+    struct Case {
+        const char* chosen;
+        const char* folder;
+        bool airportsKept;
+    };
+    for (const Case& c : std::initializer_list<Case>{{"", "/machine", true},
+                                                     {"/own", "/own", false},
+                                                     {"/own", "/own", true},
+                                                     {"/machine", "/machine", false}}) {
+        fake.world.files.files[cache] = "cache";
+        fake.session.Airports.resize(1);
+        if (*c.chosen != 0) fake.world.windows.paths.push_back(c.chosen);
+        fake.Press(fake.form.mnuToolsSimulatorFolder);
+        EXPECT_EQ(SimulatorFolder(fake.session, fake.world.machineSettings), c.folder);
+        EXPECT_EQ(fake.world.files.FileExists(cache), c.airportsKept) << c.chosen;
+        EXPECT_EQ(fake.session.Airports.size(), c.airportsKept ? 1u : 0u) << c.chosen;
+    }
+    WriteSettings(fake.context);
+    test::FakeProgram next;
+    next.world.userSettings.values = fake.world.userSettings.values;
+    ReadSimulatorFolder(next.context);
+    EXPECT_EQ(next.session.SimulatorFolder, "/machine");
 }
 
 TEST(Settings, AMinimisedWindowComesBackNormal) {

@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "desktop/TextPrinter.h"
+#include "qt/DesktopProgram.h"
+
+namespace orlo {
+namespace {
+
+using test::DesktopProgram;
+using test::InDialog;
+using test::SampleForm;
+
+struct Folders {
+    QTemporaryDir root;
+    Folders() {
+        for (const char* name : {"plans", "exports"}) {
+            QDir(root.path()).mkdir(name);
+            QFile file(root.path() + "/" + name + "/file.txt");
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+    }
+    std::string Path(const char* name) const { return Concat(root.path().toStdString(), "/", name); }
+};
+
+TEST(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
+    DesktopProgram desktop;
+    const Folders folders;
+    FileDialog dialog;
+    dialog.title = "Open";
+    dialog.filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
+    dialog.fileMustExist = true;
+    // A plan's own path may stand for its folder.
+    dialog.startFolder = folders.Path("plans/file.txt");
+    InDialog<QFileDialog>([&](QFileDialog& shown) {
+        EXPECT_EQ(shown.directory().dirName(), "plans");
+        EXPECT_EQ(shown.nameFilters().size(), 2);
+        test::Choose(shown, folders.Path("plans/file.txt"));
+    });
+    EXPECT_EQ(desktop.host.ShowOpenDialog(dialog), folders.Path("plans/file.txt"));
+
+    dialog.startFile = folders.Path("exports/new.txt");
+    InDialog<QFileDialog>([](QFileDialog& shown) {
+        EXPECT_EQ(shown.directory().dirName(), "exports");
+        QMetaObject::invokeMethod(&shown, "accept");
+    });
+    EXPECT_EQ(desktop.host.ShowSaveDialog(dialog), folders.Path("exports/new.txt"));
+
+    dialog.startFolder.clear();
+    for (const bool save : {false, true}) {
+        dialog.startFile = save ? "other.txt" : "";
+        InDialog<QFileDialog>([&](QFileDialog& shown) {
+            EXPECT_EQ(shown.directory().dirName(), save ? "exports" : "plans");
+            shown.reject();
+        });
+        EXPECT_EQ(save ? desktop.host.ShowSaveDialog(dialog) : desktop.host.ShowOpenDialog(dialog), "");
+    }
+}
+
+TEST(Dialogs, AFolderDialogGivesAFolder) {
+    DesktopProgram desktop;
+    const Folders folders;
+    for (const bool accepted : {true, false}) {
+        InDialog<QFileDialog>([&](QFileDialog& shown) {
+            if (!accepted) return shown.reject();
+            test::Choose(shown, folders.Path("exports"));
+        });
+        EXPECT_EQ(desktop.host.ShowFolderDialog("Folder", folders.Path("plans")),
+                  accepted ? folders.Path("exports") : "");
+    }
+}
+
+QByteArray ReadAll(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// What the text fills; 0 where nothing was printed.
+int PagesOf(const std::string& text, const std::string& path) {
+    const auto printer = MakeTextPrinter();
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(QString::fromStdString(path));
+    if (!PrintText(text, *printer)) return 0;
+    return static_cast<int>(ReadAll(path).count("/Type /Page\n"));
+}
+
+std::string Lines(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text.append("line\r\n");
+    return text;
+}
+
+TEST(Printing, PagesEndBetweenLinesAndLongLinesGoOn) {
+    const Folders folders;
+    const std::string path = folders.Path("out.pdf");
+    int full = 1;
+    while (PagesOf(Lines(full + 1), path) == 1) ++full;
+    EXPECT_GT(full, 20);
+    EXPECT_EQ(PagesOf(Lines(2 * full), path), 2);
+    EXPECT_EQ(PagesOf(Lines(2 * full + 1), path), 3);
+    // A line of several widths takes several lines, with blanks to break at or without.
+    const std::string words = ReplaceAll(std::string(60, 'x'), "x", "word ");
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 2), words), path), 2);
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 2), std::string(300, 'x')), path), 2);
+    // A tab goes on to the next stop: eight columns for one byte.
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(40, '\t'), "end"), path), 2);
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(41, 'x')), path), 1);
+    EXPECT_EQ(PagesOf("text", folders.Path("nowhere/out.pdf")), 0);
+}
+
+TEST(Printing, ADialogPrintsShowsAPreviewOrGivesUp) {
+    DesktopProgram desktop;
+    const Folders folders;
+    const std::string path = folders.Path("exports/out.pdf");
+    const auto fillIn = [&](QPrintDialog& shown) {
+        auto* name = shown.findChild<QLineEdit*>("filename");
+        ASSERT_NE(name, nullptr);
+        name->setText(QString::fromStdString(path));
+    };
+    InDialog<QPrintDialog>([](QPrintDialog& shown) { shown.reject(); });
+    EXPECT_FALSE(desktop.host.ShowPrintDialog("Export - Print"));
+
+    InDialog<QPrintDialog>([&](QPrintDialog& shown) {
+        EXPECT_EQ(shown.windowTitle(), "Export - Print");
+        fillIn(shown);
+        for (QAbstractButton* button : shown.findChild<QDialogButtonBox*>()->buttons()) {
+            if (button->text() == "Pre&view") button->click();
+        }
+    });
+    EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
+    InDialog<QPrintPreviewDialog>([](QPrintPreviewDialog& shown) { shown.reject(); });
+    EXPECT_FALSE(desktop.host.Print("text"));
+    EXPECT_EQ(ReadAll(path), "");
+
+    InDialog<QPrintDialog>([&](QPrintDialog& shown) {
+        fillIn(shown);
+        shown.accept();
+    });
+    EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
+    EXPECT_TRUE(desktop.host.Print("text"));
+    EXPECT_TRUE(ReadAll(path).startsWith("%PDF"));
+}
+
+TEST(Dialogs, AModalFormWhoseLoopFailsLeavesNothingModalBehind) {
+    DesktopProgram desktop;
+    SampleForm dialog("frmDialog");
+    QTimer::singleShot(50, [] { throw std::bad_alloc(); });
+    desktop.form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        context.services.windows.ShowModal(dialog, &desktop.form);
+    };
+    desktop.Click(desktop.form.cmdGo);
+    DesktopProgram::Settle();
+    QTest::qWait(100);
+    EXPECT_FALSE(dialog.visible);
+    EXPECT_EQ(desktop.program.pump.Windows().TopModal(), nullptr);
+    EXPECT_FALSE(desktop.program.pump.OperationRuns());
+    desktop.form.ran.clear();
+    desktop.Click(desktop.form.ckSwitch);
+    DesktopProgram::Settle();
+    EXPECT_EQ(desktop.form.Ran("Click ckSwitch"), 1);
+}
+
+}  // namespace
+}  // namespace orlo
