@@ -28,6 +28,7 @@ namespace {
 constexpr int kStepMilliseconds = 5;
 constexpr int kMostSteps = 4000;  // that a command may take
 constexpr int kAnswerMilliseconds = 5;
+constexpr int kPressMilliseconds = 150;  // for which a button pressed by its mnemonic stays down
 constexpr const char* kAnswered = "answered";
 
 struct ButtonWord {
@@ -150,6 +151,7 @@ void WindowScript::RunCommand(const Words& words) {
         {"keys",
          [&] {
              for (std::size_t i = 1; i < words.size(); ++i) PressKeys(WindowOf(TopForm()), word(i));
+             QTest::qWait(kPressMilliseconds);
          }},
         {"close", [&] { WindowOf(TopForm()).close(); }},
         {"quit", [&] { quitting_ = true; }},
@@ -159,7 +161,11 @@ void WindowScript::RunCommand(const Words& words) {
         {"enabled", [&] { said_ << (SeenEnabled(Find(word(1))) ? "yes" : "no") << '\n'; }},
         {"rows", [&] { PrintRows(said_, list()); }},
         {"entries", [&] { PrintEntries(said_, combo()); }},
-        {"echo", [&] { said_ << word(1) << '\n'; }},
+        {"echo",
+         [&] {
+             for (std::size_t i = 1; i < words.size(); ++i) said_ << (i == 1 ? "" : " ") << word(i);
+             said_ << '\n';
+         }},
     };
     const auto found = commands.find(word(0));
     if (found == commands.end()) throw std::runtime_error(Concat("unknown command '", word(0), "'"));
