@@ -13,6 +13,7 @@
 #include "console/ScriptRunner.h"
 #include "core/Text.h"
 #include "qt/RealProgram.h"
+#include "qt/UserHands.h"
 #include "qt/WindowScript.h"
 
 namespace orlo {
@@ -72,6 +73,7 @@ Outcome RunInWindow(World& world, const std::string& script) {
     world.Renew();
     test::RealProgram real(world.Path());
     EXPECT_TRUE(StartUp(real.program.context));
+    test::PressKeys(test::WindowOf(real.program.forms.frmSplash), "Esc");
     test::WindowScript running(real, script);
     const std::string said = running.Run();
     return {said, world.Files(), running.Fault()};
