@@ -179,7 +179,8 @@ void ScriptRunner::Press(Control& control) {
 
 void ScriptRunner::Click(const Words& words) {
     Control& control = Usable(words[1]);
-    if (MoveFocus(control)) Press(control);
+    // Cancel never validates.
+    if (&control == control.form.cancelButton || MoveFocus(control)) Press(control);
 }
 
 void ScriptRunner::WriteText(TextBox& field, const std::string& text) {

@@ -30,7 +30,7 @@ std::int64_t FromTo(std::int64_t from, std::int64_t to) {
 
 }  // namespace
 
-FlightTimes::FlightTimes(const FlightView& flight) : weekly_(EqualNoCase(flight.Period, kWeek)) {
+FlightTimes::FlightTimes(const FlightView& flight) : weekly_(IsWeekPeriod(flight.Period)) {
     legs_.reserve(static_cast<std::size_t>(flight.LegCount));
     for (const LegView& leg : flight) {
         legs_.push_back({ReadTime(leg.DepartTime, weekly_), ReadTime(leg.ETA, weekly_)});
@@ -38,7 +38,7 @@ FlightTimes::FlightTimes(const FlightView& flight) : weekly_(EqualNoCase(flight.
     FindTurnOfWeek();
 }
 
-FlightTimes::FlightTimes(const Flight& flight) : weekly_(EqualNoCase(flight.Period, kWeek)) {
+FlightTimes::FlightTimes(const Flight& flight) : weekly_(IsWeekPeriod(flight.Period)) {
     legs_.reserve(flight.Legs.size());
     for (const Leg& leg : flight.Legs) {
         legs_.push_back({ReadTime(leg.DepartTime, weekly_), ReadTime(leg.ETA, weekly_)});
@@ -182,6 +182,10 @@ TurnAroundTest TestTurnAround(std::int64_t seconds, std::int32_t minimum, std::i
         return TurnAroundTest::TooLong;
     }
     return TurnAroundTest::Passes;
+}
+
+bool IsWeekPeriod(std::string_view period) {
+    return EqualNoCase(period, kWeek);
 }
 
 std::int32_t PeriodHours(std::string_view period) {

@@ -18,7 +18,7 @@ class FlightTimes {
     explicit FlightTimes(const FlightView& flight);
     explicit FlightTimes(const Flight& flight);
 
-    bool Weekly() const { return weekly_; }  // the period is "WEEK", case aside
+    bool Weekly() const { return weekly_; }  // see IsWeekPeriod
     std::int32_t LegCount() const { return static_cast<std::int32_t>(legs_.size()); }
 
     // On the ground between the arrival of leg `leg` - 1 and the departure of leg `leg`, which is 1 or more.
@@ -82,6 +82,9 @@ enum class TurnAroundTest { Passes, TooShort, TooLong };
 // `minimum` in minutes and `maximum` in hours are Session::TATime and MaxTATime. Exactly the minimum or the
 // maximum passes; a negative time passes too.
 TurnAroundTest TestTurnAround(std::int64_t seconds, std::int32_t minimum, std::int32_t maximum);
+
+// Whether a flight of that period repeats every week: "WEEK", case aside.
+bool IsWeekPeriod(std::string_view period);
 
 // The number in front of the last two characters of a period such as "24Hr"; 0 when there is none.
 std::int32_t PeriodHours(std::string_view period);

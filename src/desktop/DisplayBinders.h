@@ -23,7 +23,7 @@ class FrameBinder : public Binder {
     DrawnText caption_;
 };
 
-// A pane, or the ground of a picture.
+// A pane; one with a name of its own is the emblem of the program.
 class PictureBinder : public Binder {
   public:
     PictureBinder(Picture& picture, QWidget& parent, EventSink& sink);

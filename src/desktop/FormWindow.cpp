@@ -2,8 +2,12 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QMenuBar>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStyleOptionFrame>
+#include <algorithm>
 
 #include "desktop/Binders.h"
 #include "desktop/FormLayout.h"
@@ -15,6 +19,15 @@ namespace {
 
 bool SameBox(const WindowBox& a, const WindowBox& b) {
     return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height;
+}
+
+// Whether the user could take hold of a window there: a screen of another day may be gone.
+bool OnAScreen(const WindowBox& box) {
+    constexpr int kTitleHeight = 24;
+    const QRect top(box.left, box.top, box.width, kTitleHeight);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(),
+                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(top); });
 }
 
 }  // namespace
@@ -43,10 +56,45 @@ void FormWindow::Build() {
     }
     JoinLabels();
     menus_ = std::make_unique<FormMenus>(*form_, *this, sink_);
+    if (PlacedByForm()) {
+        resize(form_->innerWidth, form_->innerHeight);
+        PlaceMenuBar();
+        PlaceControls();
+        return;
+    }
     LayOut(*form_, *this, menus_->Bar(), [this](const Control& control) -> QWidget* {
         const auto found = byControl_.find(&control);
         return found == byControl_.end() ? nullptr : &found->second->Widget();
     });
+}
+
+// The boxes of such a form say where its controls stand; any other is laid out by the toolkit.
+bool FormWindow::PlacedByForm() const {
+    return form_->leastWidth > 0;
+}
+
+void FormWindow::PlaceControls() {
+    for (const auto& binder : binders_) {
+        const Control& control = binder->Of();
+        QRect place(control.box.left, control.box.top, control.box.width, control.box.height);
+        // An option counts from the container of its frame.
+        if (control.kind == ControlKind::OptionButton && control.parent != nullptr)
+            place.translate(-control.parent->box.left, -control.parent->box.top);
+        // The panes stand on the rest of the strip.
+        if (control.kind == ControlKind::TabStrip)
+            place.setHeight(std::min(place.height(), binder->Widget().sizeHint().height()));
+        // A label takes what its text needs, so that one that grows with the window covers no field.
+        if (control.kind == ControlKind::Label)
+            place.setWidth(std::min(place.width(), binder->Widget().sizeHint().width()));
+        if (binder->Widget().geometry() != place) binder->Widget().setGeometry(place);
+    }
+}
+
+void FormWindow::PlaceMenuBar() {
+    QMenuBar* bar = menus_->Bar();
+    if (bar == nullptr) return;
+    const int height = bar->heightForWidth(width());
+    bar->setGeometry(0, 0, width(), height > 0 ? height : bar->sizeHint().height());
 }
 
 void FormWindow::JoinLabels() {
@@ -63,6 +111,7 @@ void FormWindow::Draw() {
     if (frozen) return;
     DrawFrame();
     for (const auto& binder : binders_) binder->Draw();
+    if (PlacedByForm()) PlaceControls();
     menus_->Draw();
 }
 
@@ -81,17 +130,22 @@ void FormWindow::DrawFrame() {
 
 void FormWindow::DrawPlace() {
     const QScopedValueRollback<bool> placing(placing_, true);
-    if (form_->centreRequest) {
+    const bool hasBox = form_->box.height >= 0;
+    if (form_->centreRequest || (hasBox && !isVisible() && !OnAScreen(form_->box))) {
         form_->centreRequest = false;
         const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-        QRect place(QPoint(), size().expandedTo(minimumSizeHint()));
+        const QSize asked = hasBox ? QSize(form_->box.width, form_->box.height) : size();
+        QRect place(QPoint(), asked.expandedTo(minimumSizeHint()));
         place.moveCenter(room.center());
         setGeometry(place);
-    } else if (form_->box.height >= 0 && !SameBox(form_->box, drawnBox_)) {
+        form_->box = {place.x(), place.y(), place.width(), place.height()};
+    } else if (hasBox && !SameBox(form_->box, drawnBox_)) {
         setGeometry(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
     }
+    const QSize least(form_->leastWidth, form_->leastHeight);
+    if (!form_->limits && !least.isEmpty()) setMinimumSize(least);
     if (form_->limits) {
-        setMinimumSize(form_->limits->minimumWidth, form_->limits->minimumHeight);
+        setMinimumSize(QSize(form_->limits->minimumWidth, form_->limits->minimumHeight).expandedTo(least));
         setMaximumSize(form_->limits->maximumWidth, form_->limits->maximumHeight);
     }
     setWindowOpacity(form_->opacity / 255.0);
@@ -169,9 +223,23 @@ void FormWindow::moveEvent(QMoveEvent*) {
 void FormWindow::resizeEvent(QResizeEvent*) {
     NotePlace();
     if (form_ == nullptr) return;
+    if (PlacedByForm()) PlaceMenuBar();
     form_->innerWidth = width();
     form_->innerHeight = height();
     sink_.Post({form_, nullptr, EventKind::Resize});
+}
+
+// A form that stands in another's window has an edge of its own.
+void FormWindow::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (isWindow()) return;
+    QPainter painter(this);
+    QStyleOptionFrame edge;
+    edge.initFrom(this);
+    edge.frameShape = QFrame::StyledPanel;
+    edge.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    edge.state |= QStyle::State_Raised;
+    style()->drawPrimitive(QStyle::PE_Frame, &edge, &painter, this);
 }
 
 void FormWindow::changeEvent(QEvent* event) {

@@ -36,11 +36,15 @@ class FormWindow : public QWidget {
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
     void Build();
     void JoinLabels();
+    bool PlacedByForm() const;
+    void PlaceControls();
+    void PlaceMenuBar();
     void DrawFrame();
     void DrawPlace();
     void NotePlace();

@@ -137,6 +137,7 @@ bool InputFilter::eventFilter(QObject* object, QEvent* event) {
 bool InputFilter::Leaves(FormWindow& window, const Control* to) {
     Control* from = window.FocusControl();
     if (from == nullptr || from == to || from->kind != ControlKind::TextBox) return true;
+    if (to != nullptr && to == from->form.cancelButton) return true;  // it never validates
     Event event{&from->form, from, EventKind::Leave};
     host_.DeliverNow(event);
     return !event.refused;

@@ -1,5 +1,7 @@
 #include "desktop/LabelBinder.h"
 
+#include <QAbstractItemView>
+
 #include "desktop/ScreenText.h"
 
 namespace orlo {
@@ -12,6 +14,9 @@ LabelBinder::LabelBinder(Label& label, QWidget& parent, EventSink& sink)
 void LabelBinder::DrawContent() {
     if (!caption_.Changes(label_.caption)) return;
     shown_.setText(shown_.buddy() != nullptr ? ToQString(label_.caption) : WithoutMnemonic(label_.caption));
+    // A list doesn't take its name from its label, as fields do.
+    if (auto* list = qobject_cast<QAbstractItemView*>(shown_.buddy()))
+        list->setAccessibleName(WithoutMnemonic(label_.caption));
 }
 
 }  // namespace orlo

@@ -21,6 +21,9 @@ constexpr std::size_t kMostRanges = 1000;
 constexpr int kHeaderRoom = 24;
 constexpr int kLeastWidth = 70;
 constexpr int kRowRoom = 4;
+constexpr int kCellRoom = 12;
+constexpr int kMostCharacters = 30;
+constexpr std::int32_t kRowsMeasured = 100;
 
 // Paints a row as selected where the form says so.
 class RowDelegate : public QStyledItemDelegate {
@@ -111,6 +114,7 @@ ListViewBinder::ListViewBinder(ListView& list, QWidget& parent, EventSink& sink)
     shown_.verticalHeader()->setDefaultSectionSize(QFontMetrics(shown_.font()).height() + kRowRoom);
     shown_.horizontalHeader()->setSectionsClickable(true);
     shown_.horizontalHeader()->setHighlightSections(false);
+    shown_.horizontalHeader()->setStretchLastSection(true);
     shown_.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Connect();
 }
@@ -141,7 +145,8 @@ void ListViewBinder::Connect() {
     QObject::connect(shown_.horizontalHeader(), &QHeaderView::sectionResized, &life,
                      [this](int column, int, int width) {
                          const auto place = static_cast<std::size_t>(column);
-                         if (!drawing_ && place < drawnKeys_.size())
+                         // The last one follows the width of the list.
+                         if (!drawing_ && place + 1 < drawnKeys_.size())
                              list_.columnWidths[drawnKeys_[place]] = width;
                      });
 }
@@ -169,19 +174,33 @@ void ListViewBinder::DrawRows() {
     drawnOrder_ = list_.orderRevision;
 }
 
+// A column is as wide as the user made it, else as its caption and its first rows need.
+void ListViewBinder::FitColumns() {
+    const QFontMetrics headerMetrics(shown_.horizontalHeader()->font());
+    const QFontMetrics metrics(shown_.font());
+    const int most = kMostCharacters * metrics.averageCharWidth();
+    const std::int32_t rows = std::min(list_.Count(), kRowsMeasured);
+    for (std::size_t i = 0; i < list_.columns.size(); ++i) {
+        const auto column = static_cast<int>(i);
+        const auto kept = list_.columnWidths.find(list_.columns[i].key);
+        int needed = std::max(
+            kLeastWidth, headerMetrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom);
+        for (std::int32_t row = 0; row < rows; ++row) {
+            const int text = metrics.horizontalAdvance(ToQString(list_.Text(list_.PlaceAt(row), column)));
+            needed = std::max(needed, std::min(text, most) + kCellRoom);
+        }
+        shown_.setColumnWidth(column, kept != list_.columnWidths.end() ? kept->second : needed);
+    }
+}
+
 void ListViewBinder::DrawHeader() {
     std::vector<std::string> keys;
     for (const ListColumn& column : list_.columns) keys.push_back(column.key);
-    if (keys != drawnKeys_) {
+    const bool firstRows = !fittedToRows_ && list_.Count() > 0;
+    if (keys != drawnKeys_ || firstRows) {
         drawnKeys_ = keys;
-        const QFontMetrics metrics(shown_.horizontalHeader()->font());
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            const int needed = metrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom;
-            const auto kept = list_.columnWidths.find(keys[i]);
-            shown_.setColumnWidth(static_cast<int>(i), kept != list_.columnWidths.end()
-                                                           ? kept->second
-                                                           : std::max(needed, kLeastWidth));
-        }
+        fittedToRows_ = list_.Count() > 0;
+        FitColumns();
     }
     QHeaderView& header = *shown_.horizontalHeader();
     const Qt::SortOrder order = list_.ascending ? Qt::AscendingOrder : Qt::DescendingOrder;

@@ -28,6 +28,7 @@ class ListViewBinder : public Binder {
     void Connect();
     void DrawRows();
     void DrawHeader();
+    void FitColumns();
     void DrawSelection();
     void DrawCurrent();
     void UserSelects(const QItemSelection& selected, const QItemSelection& deselected);
@@ -41,6 +42,7 @@ class ListViewBinder : public Binder {
     QTableView& shown_;
     ListModel model_;
     std::vector<std::string> drawnKeys_;
+    bool fittedToRows_ = false;
     std::int64_t drawnContent_ = -1;
     std::int64_t drawnOrder_ = -1;
     std::int64_t drawnSelection_ = -1;

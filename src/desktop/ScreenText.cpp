@@ -2,10 +2,17 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QGuiApplication>
+#include <QPalette>
 
 #include "core/Text.h"
 
 namespace orlo {
+namespace {
+
+constexpr int kDarkBelow = 128;
+
+}  // namespace
 
 QString ToQString(std::string_view text) {
     return QString::fromStdString(ToScreen(text));
@@ -32,15 +39,18 @@ std::string PathFromQString(const QString& path) {
 }
 
 std::optional<QColor> ScreenColour(Colour colour) {
+    // On a dark ground the pure colours can't be read.
+    const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < kDarkBelow;
     switch (colour) {
         case Colour::Black:
+            if (dark) break;
             return QColor(0x00, 0x00, 0x00);
         case Colour::Red:
-            return QColor(0xFF, 0x00, 0x00);
+            return dark ? QColor(0xFF, 0x7B, 0x72) : QColor(0xFF, 0x00, 0x00);
         case Colour::Blue:
-            return QColor(0x00, 0x00, 0xFF);
+            return dark ? QColor(0x79, 0xB8, 0xFF) : QColor(0x00, 0x00, 0xFF);
         case Colour::Gray:
-            return QColor(0x70, 0x70, 0x70);
+            return dark ? QColor(0xA6, 0xA6, 0xA6) : QColor(0x70, 0x70, 0x70);
         case Colour::WindowText:
             break;
     }

@@ -17,7 +17,7 @@ std::string FromQString(const QString& text);
 QString PathToQString(const std::string& path);
 std::string PathFromQString(const QString& path);
 
-// Nothing for the window's own text colour.
+// As it is read on the ground of lists and fields, dark or light. Nothing for the window's own text colour.
 std::optional<QColor> ScreenColour(Colour colour);
 
 }  // namespace orlo

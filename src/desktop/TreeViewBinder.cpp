@@ -4,8 +4,23 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 namespace orlo {
+namespace {
+
+constexpr int kRowRoom = 4;
+
+// Rows as high as those of a list, so that their check boxes stand apart.
+class NodeDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowRoom);
+    }
+};
+
+}  // namespace
 
 TreeViewBinder::TreeViewBinder(TreeView& tree, QWidget& parent, EventSink& sink)
     : Binder(tree, *new QTreeView(&parent), sink),
@@ -16,6 +31,7 @@ TreeViewBinder::TreeViewBinder(TreeView& tree, QWidget& parent, EventSink& sink)
               EventKind::CheckNode, [&] { tree_.At(node).checked = !tree_.At(node).checked; }, node);
       }) {
     shown_.setModel(&model_);
+    shown_.setItemDelegate(new NodeDelegate(&shown_));
     shown_.setUniformRowHeights(true);
     shown_.setHeaderHidden(true);
     shown_.setEditTriggers(QAbstractItemView::NoEditTriggers);

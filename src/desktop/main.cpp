@@ -9,6 +9,8 @@
 #include "core/Version.h"
 #include "desktop/AppIcon.h"
 #include "desktop/DesktopHost.h"
+#include "desktop/EdgeStyle.h"
+#include "desktop/MainLayout.h"
 #include "desktop/ScreenText.h"
 #include "platform/Platform.h"
 #include "platform/common/SystemRandom.h"
@@ -53,6 +55,7 @@ int RunDesktop() {
 
     Program program(services, FindProgramFolder(*files));
     const AttachedHost attached(host, program);
+    DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
     host.RunUntilClosed(program.forms.frmMain);
     return 0;
@@ -67,6 +70,7 @@ int main(int count, char** words) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(count, words);
     orlo::NameApplication();
+    orlo::UseVisibleEdges();
     try {
         return orlo::RunDesktop();
     } catch (const std::exception& failure) {

@@ -7,10 +7,12 @@
 #include "core/FlightTimes.h"
 #include "core/Number.h"
 #include "core/Text.h"
+#include "editors/FlightEditFields.h"
 #include "editors/FlightEditLegs.h"
 #include "editors/FlightEditTimes.h"
 #include "editors/FlightEditor.h"
 #include "simulator/FlightLevelMaths.h"
+#include "simulator/PlanPositions.h"
 
 namespace orlo {
 namespace {
@@ -34,17 +36,17 @@ bool PassesRange(Context& context, std::int32_t leg, const FSAircraft& aircraft,
                                 aircraft.MinRange, "nm - ", aircraft.MaxRange, "nm)."));
 }
 
-bool PassesLevel(Context& context, std::int32_t place, const FSAircraft& aircraft, std::int32_t distance,
+bool PassesLevel(Context& context, std::int32_t leg, const FSAircraft& aircraft, std::int32_t distance,
                  std::int32_t course) {
     const Flight& flight = context.forms.frmFlightEdit.WorkingFlight;
-    const std::string& level = flight.Legs[static_cast<std::size_t>(place)].FlightLevel;
+    const std::string& level = flight.Legs[static_cast<std::size_t>(leg)].FlightLevel;
     // A level that is no number suits no leg.
     const LevelCheck check =
         CheckFlightLevel(context.session.FlightLevelRules, flight.FlightType, distance, course,
                          {aircraft.MinFL, aircraft.MaxFL}, ParseWholeNumber(level).value_or(-1));
     if (check.Right) return true;
-    return UserPassesLeg(context, place,
-                         Concat("Warning! Flight Level might be incorrect for leg ", place + 1,
+    return UserPassesLeg(context, leg,
+                         Concat("Warning! Flight Level might be incorrect for leg ", leg + 1,
                                 ". Suggestion: ", check.Suggestion));
 }
 
@@ -157,6 +159,7 @@ std::string ResultText(const FlightEditForm& form, const Session& session) {
 
 void AcceptFlight(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
+    if (!TakesTypedText(context)) return;
     if (ChosenAircraft(form, context.session) < 0) {
         ShowMessage(context.services.messages, "You need to select an aircraft to save the flight.",
                     kMarkExclamation, &form);

@@ -28,12 +28,12 @@ std::optional<std::int32_t> NumberWithin(std::string_view text, std::int32_t lea
     return number && *number >= least && *number <= most ? number : std::nullopt;
 }
 
-std::optional<std::int32_t> ValidLevel(const FlightEditForm& form) {
-    return NumberWithin(form.txtLevel.text, 10, 999);
-}
-
-std::optional<std::int32_t> ValidPercent(const FlightEditForm& form) {
-    return NumberWithin(form.txtPercent.text, 1, 99);
+// What a field of the plan's file can hold: its separator and the marks of a comment become blanks.
+std::string FieldText(std::string_view typed) {
+    std::string text = ReplaceAll(typed, "//", "  ");
+    std::replace_if(
+        text.begin(), text.end(), [](char mark) { return mark == ',' || mark == ';'; }, ' ');
+    return text;
 }
 
 void Refuse(Context& context, Event& event, std::string_view reason) {
@@ -61,6 +61,14 @@ std::int32_t ChosenDay(const FlightEditForm& form) {
     return std::clamp(form.cmDay.index, 0, 6);
 }
 
+// The clock of the selected leg's arrival as the field shows it when nothing is typed into it.
+std::optional<std::int32_t> ShownArrival(const Context& context) {
+    const FlightEditForm& form = context.forms.frmFlightEdit;
+    const Leg& leg = form.WorkingFlight.Legs[static_cast<std::size_t>(SelectedLeg(form))];
+    return ParseClockTime(
+        TimeForFields(leg.ETA, IsWeekly(form.WorkingFlight), context.session.FEditZone).Clock);
+}
+
 void StoreAirport(Context& context, std::int32_t leg, const ComboBox& airports) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     if (airports.index < 0) return;
@@ -84,17 +92,14 @@ void OnFlightAircraft(Context& context) {
 
 void OnFlightRegistration(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
-    form.WorkingFlight.TailNumber = form.txtReg.text;
-}
-
-void OnFlightPercent(Context& context) {
-    FlightEditForm& form = context.forms.frmFlightEdit;
-    if (const auto percent = ValidPercent(form)) form.WorkingFlight.Percent = Concat(*percent, "%");
+    form.WorkingFlight.TailNumber = FieldText(form.txtReg.text);
 }
 
 void OnLeaveFlightPercent(Context& context, Event& event) {
-    OnFlightPercent(context);
-    if (!ValidPercent(context.forms.frmFlightEdit)) Refuse(context, event, kInvalidPercent);
+    FlightEditForm& form = context.forms.frmFlightEdit;
+    const auto percent = NumberWithin(form.txtPercent.text, 1, 99);
+    if (!percent) return Refuse(context, event, kInvalidPercent);
+    form.WorkingFlight.Percent = Concat(*percent, "%");
 }
 
 void OnFlightPeriod(Context& context) {
@@ -157,6 +162,20 @@ void OnLegTime(Context& context) {
     ShowLegRow(context, SelectedLeg(form));
 }
 
+void OnLegDay(Context& context) {
+    FlightEditForm& form = context.forms.frmFlightEdit;
+    Leg* leg = WorkingLeg(form);
+    if (leg == nullptr) return;
+    const auto before = ParseWeekTime(leg->DepartTime);
+    OnLegTime(context);
+    const auto after = ParseWeekTime(leg->DepartTime);
+    auto arrival = ParseWeekTime(leg->ETA);
+    if (!leg->FixedETA || !before || !after || !arrival) return;
+    arrival->Day = (arrival->Day + after->Day - before->Day + 7) % 7;
+    leg->ETA = FormatWeekTime(*arrival);
+    ShowLegRow(context, SelectedLeg(form));
+}
+
 void OnLeaveLegTime(Context& context, Event& event) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     if (WorkingLeg(form) == nullptr) return;
@@ -183,7 +202,8 @@ void OnLeaveLegETA(Context& context, Event& event) {
     if (WorkingLeg(form) == nullptr) return;
     const auto seconds = ParseClockTime(form.txtETA.text);
     if (!seconds) return Refuse(context, event, kInvalidTime);
-    OnLegETA(context);
+    // An arrival that nobody changed keeps its day.
+    if (*seconds != ShownArrival(context)) OnLegETA(context);
     form.txtETA.text = FormatClockTime(*seconds);
 }
 
@@ -197,32 +217,37 @@ void OnLegFixedETA(Context& context) {
     if (!leg->FixedETA) OnLegTime(context);
 }
 
-void OnLegLevel(Context& context) {
+void OnLeaveLegLevel(Context& context, Event& event) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     Leg* leg = WorkingLeg(form);
-    const auto level = ValidLevel(form);
-    if (leg == nullptr || !level) return;
+    if (leg == nullptr) return;
+    const auto level = NumberWithin(form.txtLevel.text, 10, 999);
+    if (!level) return Refuse(context, event, kInvalidLevel);
     leg->FlightLevel = FormatDigits(*level, 3);
     ShowLegRow(context, SelectedLeg(form));
-}
-
-void OnLeaveLegLevel(Context& context, Event& event) {
-    if (WorkingLeg(context.forms.frmFlightEdit) == nullptr) return;
-    OnLegLevel(context);
-    if (!ValidLevel(context.forms.frmFlightEdit)) Refuse(context, event, kInvalidLevel);
 }
 
 void OnLegNumber(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     Leg* leg = WorkingLeg(form);
     if (leg == nullptr) return;
-    leg->FlightNumber = form.txtNumber.text;
+    leg->FlightNumber = FieldText(form.txtNumber.text);
     ShowLegRow(context, SelectedLeg(form));
 }
 
 void OnLegUseNumber(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     if (Leg* leg = WorkingLeg(form)) leg->NumberMode = form.ckUseNumber.checked ? "F" : "R";
+}
+
+bool TakesTypedText(Context& context) {
+    FlightEditForm& form = context.forms.frmFlightEdit;
+    Event leave{&form, form.focus, EventKind::Leave};
+    if (form.focus == &form.txtPercent) OnLeaveFlightPercent(context, leave);
+    if (form.focus == &form.txtTime) OnLeaveLegTime(context, leave);
+    if (form.focus == &form.txtETA) OnLeaveLegETA(context, leave);
+    if (form.focus == &form.txtLevel) OnLeaveLegLevel(context, leave);
+    return !leave.refused;
 }
 
 }  // namespace orlo

@@ -9,6 +9,7 @@
 #include "editors/FlightEditTimes.h"
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/Navigation.h"
+#include "simulator/PlanPositions.h"
 #include "simulator/TimeZones.h"
 
 namespace orlo {
@@ -17,10 +18,11 @@ namespace {
 constexpr std::string_view kLegCaption = "Edit Le&g properties";
 constexpr std::string_view kDegreeSign = "\xB0";
 
-std::array<Control*, 14> LegFields(FlightEditForm& form) {
-    return {&form.cmDeparture, &form.cmArrival, &form.lblDay,      &form.cmDay,    &form.lblTime,
-            &form.txtTime,     &form.lblETA,    &form.txtETA,      &form.txtLevel, &form.ckFixedETA,
-            &form.lblLevel,    &form.txtNumber, &form.ckUseNumber, &form.lblNumber};
+std::array<Control*, 16> LegFields(FlightEditForm& form) {
+    return {&form.lblDeparture, &form.lblArrival, &form.cmDeparture, &form.cmArrival,
+            &form.lblDay,       &form.cmDay,      &form.lblTime,     &form.txtTime,
+            &form.lblETA,       &form.txtETA,     &form.txtLevel,    &form.ckFixedETA,
+            &form.lblLevel,     &form.txtNumber,  &form.ckUseNumber, &form.lblNumber};
 }
 
 void ClearLegFields(FlightEditForm& form) {
@@ -194,7 +196,8 @@ void ComputeArrivals(Context& context) {
     for (std::int32_t place = 0; place < flight.LegCount(); ++place) {
         Leg& leg = flight.Legs[static_cast<std::size_t>(place)];
         if (leg.FixedETA) continue;
-        leg.ETA = ArrivalOfLeg(session, positions, flight, place, leg.DepartTime, aircraft);
+        const std::int32_t distance = positions.Distance(LegStart(flight, place), leg.Destination);
+        leg.ETA = ArrivalOfLeg(session, distance, flight, place, aircraft);
         ShowLegRow(context, place);
     }
     const std::int32_t selected = SelectedLeg(form);
@@ -212,9 +215,8 @@ void ComputeSelectedArrival(Context& context) {
     if (place < 0 || aircraft < 0) return;
     Leg& leg = flight.Legs[static_cast<std::size_t>(place)];
     if (leg.FixedETA) return;
-    const bool dayless = IsWeekly(flight) && SplitDayPrefix(leg.DepartTime).Prefix.empty();
-    const std::string departure = dayless ? Concat("0/", leg.DepartTime) : leg.DepartTime;
-    leg.ETA = ArrivalOfLeg(session, PlanPositions(session), flight, place, departure, aircraft);
+    const std::int32_t distance = GetDistance(session, LegStart(flight, place), leg.Destination);
+    leg.ETA = ArrivalOfLeg(session, distance, flight, place, aircraft);
     form.txtETA.text = TimeForFields(leg.ETA, IsWeekly(flight), session.FEditZone).Clock;
     ShowLegRow(context, place);
 }

@@ -1,6 +1,7 @@
 #include "editors/FlightEditTimes.h"
 
 #include "core/ClockTime.h"
+#include "core/FlightTimes.h"
 #include "core/Number.h"
 #include "core/Text.h"
 #include "simulator/Navigation.h"
@@ -17,7 +18,7 @@ std::int32_t DayOfPrefix(std::string_view prefix) {
 }  // namespace
 
 bool IsWeekly(const Flight& flight) {
-    return EqualNoCase(flight.Period, "WEEK");
+    return IsWeekPeriod(flight.Period);
 }
 
 FieldTime TimeForFields(std::string_view time, bool weekly, std::string_view zone) {
@@ -57,11 +58,12 @@ const FSAircraft* InstalledAircraft(const FlightEditForm& form, const Session& s
     return &session.FSAircrafts[static_cast<std::size_t>(*place)];
 }
 
-std::string ArrivalOfLeg(const Session& session, const PlanPositions& positions, const Flight& flight,
-                         std::int32_t leg, std::string_view departure, std::int32_t aircraft) {
-    return GetArrivalTime(session, positions, LegStart(flight, leg),
-                          flight.Legs[static_cast<std::size_t>(leg)].Destination, departure, flight.Period,
-                          aircraft, -1);
+std::string ArrivalOfLeg(const Session& session, std::int32_t distance, const Flight& flight,
+                         std::int32_t leg, std::int32_t aircraft) {
+    const std::string& stored = flight.Legs[static_cast<std::size_t>(leg)].DepartTime;
+    const bool dayless = IsWeekly(flight) && SplitDayPrefix(stored).Prefix.empty();
+    return GetArrivalTime(session, distance, dayless ? Concat("0/", stored) : stored, flight.Period, aircraft,
+                          -1);
 }
 
 }  // namespace orlo

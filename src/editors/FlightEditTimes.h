@@ -6,7 +6,6 @@
 
 #include "core/Session.h"
 #include "forms/FlightEditForm.h"
-#include "simulator/PlanPositions.h"
 
 namespace orlo {
 
@@ -33,9 +32,9 @@ std::int32_t ChosenAircraft(const FlightEditForm& form, const Session& session);
 // What is installed for it; null without one, and where it isn't installed.
 const FSAircraft* InstalledAircraft(const FlightEditForm& form, const Session& session);
 
-// When the chosen aircraft arrives that leaves at `departure`, in its form. `aircraft` is a place in
-// PlanAircrafts.
-std::string ArrivalOfLeg(const Session& session, const PlanPositions& positions, const Flight& flight,
-                         std::int32_t leg, std::string_view departure, std::int32_t aircraft);
+// When the aircraft, a place in PlanAircrafts, arrives on a leg of so many miles. A weekly departure without
+// a day is one of Sunday.
+std::string ArrivalOfLeg(const Session& session, std::int32_t distance, const Flight& flight,
+                         std::int32_t leg, std::int32_t aircraft);
 
 }  // namespace orlo

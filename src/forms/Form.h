@@ -49,6 +49,8 @@ struct Form {
     WindowBox box;
     std::int32_t innerWidth = 0;  // of the window as it stands; written by the front end
     std::int32_t innerHeight = 0;
+    std::int32_t leastWidth = 0;  // what its layout needs, beside its limits; written by the front end
+    std::int32_t leastHeight = 0;
     bool centreRequest = false;  // the front end moves the window to the screen's centre and clears it
     std::optional<WindowLimits> limits;
     std::int32_t opacity = 255;    // 0 to 255

@@ -82,6 +82,13 @@ void DisablePlanCommands(Context& context) {
     Enable({&form.mnuFileSave, &form.cmdMove, &form.cmdMovePercent, &form.cmdMoveSave, &form.cmdMoveExecute,
             &form.cmdMoveLoad},
            false);
+    // The resets of the views enable them again.
+    Enable({&form.cmdPreview, &form.cmdExport, &form.cmdExportRemainder, &form.cmdExportPrint,
+            &form.cmdEditFlight, &form.cmdAddFlight, &form.cmdDeleteFlight},
+           false);
+    Enable({&form.cmdTTShow, &form.cmdTTPrint, &form.cmdTTSave, &form.cmdTTStatistics}, false);
+    form.lblExPreview.caption = "Previe&w";
+    form.lblTTPreview.caption = "Previe&w";
     form.mnuFileSaveAs.enabled = true;
 }
 

@@ -46,7 +46,7 @@ std::int32_t AppendNewResult(Session& session) {
     return place;
 }
 
-// The rows that the list shows; rows of its own where it shows none.
+// The rows that the list shows, which are no others than a search's; empty ones where it shows none.
 SearchRows& RowsOf(Context& context) {
     ListView& list = context.forms.frmMain.lvExPreview;
     if (list.Source() == nullptr) {

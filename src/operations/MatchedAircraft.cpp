@@ -4,22 +4,20 @@
 
 namespace orlo {
 
-MatchedAircraft::MatchedAircraft(const Session& session) {
+MatchedAircraft::MatchedAircraft(const Session& session) : session_(session) {
     const std::vector<std::int32_t> installed = InstalledPlaces(session);
     entries_.reserve(installed.size());
+    places_.reserve(installed.size());
     for (std::size_t i = 0; i < installed.size(); ++i) {
         if (installed[i] < 0) continue;
-        entries_.push_back(session.FSAircrafts[static_cast<std::size_t>(installed[i])]);
-        entries_.back().ID = session.PlanAircrafts[i].ACNumber;
+        entries_.push_back({session.PlanAircrafts[i].ACNumber, installed[i]});
+        places_.try_emplace(entries_.back().acNumber, installed[i]);
     }
-    places_.reserve(entries_.size());
-    std::int32_t place = 0;
-    for (const FSAircraft& entry : entries_) places_.try_emplace(entry.ID, place++);
 }
 
 const FSAircraft* MatchedAircraft::Find(std::string_view acNumber) const {
     const std::int32_t place = Place(acNumber);
-    return place < 0 ? nullptr : &entries_[static_cast<std::size_t>(place)];
+    return place < 0 ? nullptr : &At(place);
 }
 
 std::int32_t MatchedAircraft::Place(std::string_view acNumber) const {

@@ -9,23 +9,32 @@
 
 namespace orlo {
 
-// The plan's aircraft that are installed: for each in the plan's order a copy of the first installed aircraft
-// of its title, case aside, with the plan's number as ID. An aircraft of the plan without one has no entry.
-// Lives for one operation, which builds it anew.
+// The plan's aircraft that are installed: each number with the first installed aircraft of its title, case
+// aside. An aircraft of the plan without one has no entry. Numbers and aircraft are lent by the session,
+// which must not change meanwhile. Lives for one operation, which builds it anew.
 class MatchedAircraft {
   public:
     explicit MatchedAircraft(const Session& session);
 
-    // The first entry of that number, compared with regard to case; null without one.
+    // Of the first entry of that number, compared with regard to case; null without one.
     const FSAircraft* Find(std::string_view acNumber) const;
-    // Its place; -1 without one.
+    // Its place in FSAircrafts; -1 without one.
     std::int32_t Place(std::string_view acNumber) const;
 
-    const std::vector<FSAircraft>& Entries() const { return entries_; }
+    struct Entry {
+        std::string_view acNumber;
+        std::int32_t place;  // in FSAircrafts
+    };
+    // In the plan's order.
+    const std::vector<Entry>& Entries() const { return entries_; }
+    const FSAircraft& At(std::int32_t place) const {
+        return session_.FSAircrafts[static_cast<std::size_t>(place)];
+    }
 
   private:
-    std::vector<FSAircraft> entries_;
-    std::unordered_map<std::string_view, std::int32_t> places_;  // IDs lent by the entries
+    const Session& session_;
+    std::vector<Entry> entries_;
+    std::unordered_map<std::string_view, std::int32_t> places_;
 };
 
 }  // namespace orlo

@@ -17,7 +17,9 @@ constexpr std::int32_t kFlightsBetweenPaints = 1000;
 class FlightPrinter {
   public:
     explicit FlightPrinter(const Session& session) : matched_(session), positions_(session) {
-        for (const FSAircraft& entry : matched_.Entries()) byNumber_.Add(entry.ID, &entry);
+        for (const MatchedAircraft::Entry& entry : matched_.Entries()) {
+            byNumber_.Add(entry.acNumber, &matched_.At(entry.place));
+        }
     }
 
     void Append(const FlightView& flight, std::string& text) const {

@@ -107,7 +107,11 @@ std::optional<std::string> UnknownAirports(const Session& session, const FlightV
     std::optional<std::string> codes;
     for (const LegView& leg : flight) {
         if (session.PlanAirportIndex.Contains(leg.Destination)) continue;
-        codes = codes ? Concat(*codes, " | ", leg.Destination) : std::string(leg.Destination);
+        if (codes) {
+            codes->append(" | ").append(leg.Destination);
+        } else {
+            codes = leg.Destination;
+        }
     }
     return codes;
 }
@@ -235,6 +239,7 @@ void SearchFlights(Context& context, std::string_view departure, std::string_vie
     FillList(context, matched, mode == SearchMode::WrongTime || mode == SearchMode::UnknownAirports);
     ShowResultCount(form);
     SelectCurrentOnly(form.lvExPreview);
+    form.lvExPreview.ensureVisibleRequest = true;
     context.services.progress.Close();
 }
 

@@ -1,5 +1,8 @@
 #include "operations/SearchRows.h"
 
+#include <unordered_map>
+
+#include "core/FlightTimes.h"
 #include "core/Number.h"
 #include "core/Text.h"
 #include "simulator/TimeZones.h"
@@ -30,7 +33,7 @@ void AppendVia(const FlightView& flight, std::string& out) {
 }  // namespace
 
 std::string PeriodColumn(std::string_view period) {
-    if (EqualNoCase(period, "WEEK") || period.size() < 2) return std::string(period);
+    if (IsWeekPeriod(period) || period.size() < 2) return std::string(period);
     return Concat(Filled(period.substr(0, period.size() - 2), 2), "Hr");
 }
 
@@ -47,12 +50,16 @@ std::string PercentColumn(std::string_view percent) {
 SearchRows::SearchRows(FlightList flights, std::vector<std::string> errors, const MatchedAircraft& matched,
                        std::string_view zone)
     : flights_(std::move(flights)), errors_(std::move(errors)), zone_(zone) {
-    shown_.reserve(matched.Entries().size() + 1);
     shown_.push_back({std::string(kNotFound), {}});
-    for (const FSAircraft& entry : matched.Entries()) shown_.push_back({entry.Airline, entry.Title});
+    // Many numbers may share one installed aircraft, whose texts are as long as its file has them.
+    std::unordered_map<std::int32_t, std::int32_t> shownOfPlace = {{-1, 0}};
+    for (const MatchedAircraft::Entry& entry : matched.Entries()) {
+        if (!shownOfPlace.try_emplace(entry.place, static_cast<std::int32_t>(shown_.size())).second) continue;
+        shown_.push_back({matched.At(entry.place).Airline, matched.At(entry.place).Title});
+    }
     aircraftOfRow_.reserve(static_cast<std::size_t>(flights_.Count()));
     for (std::int32_t row = 0; row < flights_.Count(); ++row) {
-        aircraftOfRow_.push_back(matched.Place(flights_.At(row).ACNumber) + 1);
+        aircraftOfRow_.push_back(shownOfPlace[matched.Place(flights_.At(row).ACNumber)]);
     }
 }
 

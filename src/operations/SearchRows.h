@@ -50,7 +50,6 @@ class SearchRows : public RowSource {
         std::string airline;
         std::string title;
     };
-    std::int32_t ShownPlace(std::string_view acNumber, const MatchedAircraft& matched) const;
 
     FlightList flights_;
     std::vector<std::string> errors_;          // may be shorter than the list
@@ -60,7 +59,7 @@ class SearchRows : public RowSource {
 };
 
 // The column's form of a period, aircraft number and percent: "08Hr" for "8Hr", "WEEK" as it stands; "0012"
-// for "AC#12"; "05%" for "5%". Where there is no number the text stands.
+// for "AC#12"; "05%" for "5%". What is no number stands as it is, in front of "Hr" and "%" too.
 std::string PeriodColumn(std::string_view period);
 std::string NumberColumn(std::string_view acNumber);
 std::string PercentColumn(std::string_view percent);

@@ -3,8 +3,10 @@
 #include <optional>
 
 #include "core/ClockTime.h"
+#include "core/FlightTimes.h"
 #include "core/Number.h"
 #include "core/Text.h"
+#include "simulator/GreatCircle.h"
 
 namespace orlo {
 namespace {
@@ -23,10 +25,6 @@ std::optional<Position> SceneryPosition(const std::vector<AirportRecord>& airpor
         if (airport.ICAO == code) return ParsePosition(airport.Latitude, airport.Longitude);
     }
     return Position{};
-}
-
-bool IsWeekly(std::string_view periodText) {
-    return EqualNoCase(periodText, "WEEK");
 }
 
 // The speed is taken as it is, so that one below 1 gives the time of legs of unknown length.
@@ -81,20 +79,18 @@ std::int64_t EstimateArrival(std::int64_t departureSeconds, std::int32_t distanc
 std::string GetArrivalTime(std::int32_t distance, std::string_view departureText, std::string_view periodText,
                            std::int32_t speed) {
     if (speed < 1) return std::string(departureText);
-    return ArrivalText(distance, departureText, IsWeekly(periodText), speed);
+    return ArrivalText(distance, departureText, IsWeekPeriod(periodText), speed);
 }
 
-std::string GetArrivalTime(const Session& session, const PlanPositions& positions, std::string_view from,
-                           std::string_view to, std::string_view departureText, std::string_view periodText,
-                           std::int32_t aircraftIndex, std::int32_t speed) {
-    const std::int32_t distance = positions.Distance(from, to);
+std::string GetArrivalTime(const Session& session, std::int32_t distance, std::string_view departureText,
+                           std::string_view periodText, std::int32_t aircraftIndex, std::int32_t speed) {
     if (aircraftIndex < 0 || aircraftIndex >= session.PlanAircraftCount()) {
         return GetArrivalTime(distance, departureText, periodText, speed);
     }
     const PlanAircraft& aircraft = session.PlanAircrafts[static_cast<std::size_t>(aircraftIndex)];
     const auto cruiseSpeed = ParseWholeNumber(aircraft.CruiseSpeed);
     if (!cruiseSpeed) return std::string(departureText);
-    return ArrivalText(distance, departureText, IsWeekly(periodText), *cruiseSpeed);
+    return ArrivalText(distance, departureText, IsWeekPeriod(periodText), *cruiseSpeed);
 }
 
 }  // namespace orlo

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/Session.h"
-#include "simulator/PlanPositions.h"
 
 namespace orlo {
 
@@ -35,10 +34,9 @@ std::int64_t EstimateArrival(std::int64_t departureSeconds, std::int32_t distanc
 std::string GetArrivalTime(std::int32_t distance, std::string_view departureText, std::string_view periodText,
                            std::int32_t speed);
 
-// The same between two airports. A valid place in PlanAircrafts lends its cruise speed in place of `speed`;
-// below 1, such a speed gives 15 minutes, and where it is no number the departure text comes back.
-std::string GetArrivalTime(const Session& session, const PlanPositions& positions, std::string_view from,
-                           std::string_view to, std::string_view departureText, std::string_view periodText,
-                           std::int32_t aircraftIndex, std::int32_t speed);
+// The same for an aircraft of the plan. A valid place in PlanAircrafts lends its cruise speed in place of
+// `speed`; below 1, such a speed gives 15 minutes, and where it is no number the departure text comes back.
+std::string GetArrivalTime(const Session& session, std::int32_t distance, std::string_view departureText,
+                           std::string_view periodText, std::int32_t aircraftIndex, std::int32_t speed);
 
 }  // namespace orlo

@@ -311,6 +311,49 @@ TEST(FlightEditLegs, InvalidTextsAreNotStoredAndKeepTheFocus) {
     }
 }
 
+// Enter leaves no field, but what is typed in it counts.
+TEST(FlightEditLegs, EnterTakesWhatIsTypedOrRefusesIt) {
+    Editor fake;
+    fake.SwitchChecksOff();
+    fake.Edit(Editor::FlightOf("24Hr", {Editor::FixedLeg("08:00:00", "09:00:00")}), [&] {
+        fake.editor.focus = &fake.editor.txtLevel;
+        fake.Type(fake.editor.txtLevel, "31");
+        fake.Type(fake.editor.txtLevel, "5");
+        fake.Accept();
+        EXPECT_FALSE(fake.editor.closeRequest);
+        fake.Type(fake.editor.txtLevel, "55");
+        fake.Accept();
+        EXPECT_TRUE(fake.editor.closeRequest);
+    });
+    EXPECT_EQ(fake.said, (Texts{"Flight Level has to be a value between 10 and 999"}));
+    EXPECT_EQ(fake.edited.Legs[0].FlightLevel, "055");
+}
+
+TEST(FlightEditLegs, AFixedArrivalKeepsItsDayUntilTheDepartureChangesIts) {
+    Editor fake;
+    fake.SwitchChecksOff();
+    fake.Edit(Editor::FlightOf("WEEK", {Editor::FixedLeg("5/12:00:00", "0/14:00:00")}), [&] {
+        fake.Leave(fake.editor.txtETA);
+        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "0/14:00:00");
+        fake.Choose(fake.editor.cmDay, "Saturday");
+        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "1/14:00:00");
+        fake.Type(fake.editor.txtETA, "11:00");
+        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "0/11:00:00");
+    });
+}
+
+TEST(FlightEditLegs, WhatTheFileCannotHoldBecomesBlanks) {
+    Editor fake;
+    fake.SwitchChecksOff();
+    fake.Edit(Editor::FlightOf("24Hr", {Editor::FixedLeg("08:00:00", "09:00:00")}), [&] {
+        fake.Type(fake.editor.txtReg, "D-A,B");
+        fake.Type(fake.editor.txtNumber, "1;//2");
+        fake.Accept();
+    });
+    EXPECT_EQ(fake.edited.TailNumber, "D-A B");
+    EXPECT_EQ(fake.edited.Legs[0].FlightNumber, "1   2");
+}
+
 TEST(FlightEditLegs, OptionsAndChecksAreStored) {
     Editor fake;
     fake.SwitchChecksOff();

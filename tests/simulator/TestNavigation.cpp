@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "simulator/Navigation.h"
+#include "simulator/PlanPositions.h"
 #include "support/CaseTable.h"
 
 namespace orlo::test {
@@ -193,7 +194,8 @@ TEST(Navigation, ArrivalTakesTheSpeedOfThePlanAircraft) {
              {0, -1, "GONE", "10:15:00"},
              {0, -1, "AAAA", "10:15:00"},
          }) {
-        EXPECT_EQ(GetArrivalTime(session, positions, "AAAA", c.to, "10:00:00", "24Hr", c.aircraft, c.speed),
+        EXPECT_EQ(GetArrivalTime(session, positions.Distance("AAAA", c.to), "10:00:00", "24Hr", c.aircraft,
+                                 c.speed),
                   c.expected)
             << c.aircraft << " " << c.speed << " " << c.to;
     }

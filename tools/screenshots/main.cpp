@@ -1,0 +1,227 @@
+// Takes pictures of every window of the desktop program on a sample world, for the manual and for the eye:
+//
+//     orlo-screenshots WORLD FOLDER [dark] [least]
+//
+// WORLD is what orlo-sample-world made; FOLDER is made where it is missing; `dark` takes dark colours, and
+// `least` shows the main window as small as it gets. QT_SCALE_FACTOR scales everything.
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMessageBox>
+#include <QStyleFactory>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+#include <functional>
+#include <iostream>
+
+#include "desktop/DesktopHost.h"
+#include "desktop/EdgeStyle.h"
+#include "desktop/FormWindow.h"
+#include "desktop/MainLayout.h"
+#include "platform/Platform.h"
+#include "platform/common/SystemRandom.h"
+#include "shell/OpenPlan.h"
+#include "shell/Program.h"
+#include "shell/StartUp.h"
+#include "shell/Tabs.h"
+
+namespace orlo {
+namespace {
+
+constexpr int kSettle = 150;  // milliseconds
+constexpr std::uint64_t kSeed = 1;
+
+QPalette DarkPalette() {
+    const QColor ground(0x2B, 0x2B, 0x2B);
+    const QColor text(0xE6, 0xE6, 0xE6);
+    const QColor faint(0x80, 0x80, 0x80);
+    QPalette palette(QColor(0x3A, 0x3A, 0x3A), ground);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+    palette.setColor(QPalette::AlternateBase, ground);
+    palette.setColor(QPalette::ToolTipBase, ground);
+    palette.setColor(QPalette::Highlight, QColor(0x2A, 0x5C, 0x9E));
+    palette.setColor(QPalette::HighlightedText, text);
+    return palette;
+}
+
+class Photographer {
+  public:
+    Photographer(Program& program, DesktopHost& host, QString folder)
+        : program_(program), form_(program.forms.frmMain), host_(host), folder_(std::move(folder)) {
+        QDir().mkpath(folder_);
+        // Questions on the way are answered No.
+        QObject::connect(&answering_, &QTimer::timeout, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->reject();
+        });
+    }
+
+    void TakeAll(const std::string& plan, bool least) {
+        Take(program_.forms.frmSplash, "splash");
+        CloseSplash(program_.context);
+        answering_.start(kSettle);
+        OpenFlightplan(program_.context, plan);
+        answering_.stop();
+        if (least) WindowOf(form_)->resize(form_.leastWidth, form_.leastHeight);
+        Settle();
+        TakePanes();
+        TakeMenus();
+        TakeProgress();
+        TakeMessage();
+        TakeModal(form_.mnuHelpAbout, program_.forms.frmAbout, "about");
+        ShowTab("EXPORT");
+        TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
+    }
+
+  private:
+    static void Settle() { QTest::qWait(kSettle); }
+
+    static FormWindow* WindowOf(const Form& form) {
+        for (QWidget* widget : QApplication::allWidgets()) {
+            auto* window = dynamic_cast<FormWindow*>(widget);
+            if (window != nullptr && window->Shown() == &form) return window;
+        }
+        return nullptr;
+    }
+
+    void Save(QWidget* widget, const QString& name) const {
+        const QString path = folder_ + "/" + name + ".png";
+        if (widget == nullptr || !widget->grab().save(path))
+            std::cerr << "orlo-screenshots: no picture " << path.toStdString() << '\n';
+    }
+
+    void Take(const Form& form, const QString& name) const {
+        Settle();
+        Save(WindowOf(form), name);
+    }
+
+    void ShowTab(std::string_view key) {
+        form_.tabMain.selectedKey = key;
+        ActivateTab(program_.context);
+        host_.Post({&form_, &form_.tabMain, EventKind::SelectTab});
+        Settle();
+    }
+
+    void Click(Control& control) {
+        host_.Post({&control.form, &control, EventKind::Click});
+        Settle();
+    }
+
+    // Some groups open, down to their aircraft.
+    void OpenTree(const TreeView& of) {
+        auto* tree = WindowOf(form_)->findChild<QTreeView*>(QString::fromStdString(of.name));
+        tree->expand(tree->model()->index(0, 0));
+        tree->expand(tree->model()->index(1, 0));
+        tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
+    }
+
+    void TakePanes() {
+        for (const auto& [key, name] :
+             {std::pair{"SHUFFLE", "shuffle"}, std::pair{"MOVE", "move"}, std::pair{"EXPORT", "export"},
+              std::pair{"TIMETABLE", "timetable"}, std::pair{"PROJECT", "project"}}) {
+            ShowTab(key);
+            if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
+            if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
+            if (form_.picExport.visible) SearchAll();
+            Take(form_, name);
+        }
+    }
+
+    void SearchAll() {
+        form_.opORSearch.Check();
+        form_.ckExportIFR.checked = true;
+        Click(form_.cmdPreview);
+        ListView& list = form_.lvExPreview;
+        if (list.Count() < 3) return;
+        list.current = list.PlaceAt(2);
+        list.Select(list.current, true);
+    }
+
+    void TakeMenus() {
+        for (const Control* control : form_.Controls()) {
+            if (control->kind != ControlKind::MenuEntry) continue;
+            auto* menu = WindowOf(form_)->findChild<QMenu*>(QString::fromStdString(control->name) + "Menu");
+            if (menu == nullptr || menu->sizeHint().isEmpty() || !control->enabled) continue;
+            menu->popup(QPoint(0, 0));
+            Settle();
+            Save(menu, QString::fromStdString(control->name));
+            menu->close();
+        }
+    }
+
+    void TakeProgress() {
+        host_.SetText("Reading flightplan...");
+        host_.SetMax(100);
+        host_.SetValue(40);
+        host_.Show(&form_);
+        Take(form_, "progress");
+        host_.Close();
+    }
+
+    void TakeMessage() {
+        QTimer::singleShot(kSettle, [this] {
+            Save(QApplication::activeModalWidget(), "message");
+            answering_.start(kSettle);
+        });
+        host_.ShowMessage("Successfully saved the flightplan with its aircraft.", kMarkInformation, "Orlo",
+                          &form_);
+        answering_.stop();
+    }
+
+    void TakeModal(Control& opens, Form& form, const QString& name) {
+        QTimer::singleShot(4 * kSettle, [this, &form, name] {
+            Save(WindowOf(form), name);
+            host_.Post({&form, nullptr, EventKind::Close});
+        });
+        Click(opens);
+        while (form.visible) Settle();
+    }
+
+    Program& program_;
+    MainForm& form_;
+    DesktopHost& host_;
+    QString folder_;
+    QTimer answering_;
+};
+
+int Run(const QStringList& words) {
+    const std::string world = QDir(words[1]).absolutePath().toStdString();
+    const auto files = MakeFileSystem();
+    const auto userSettings =
+        MakeUserSettings(*files, QDir::tempPath().toStdString() + "/orlo-screenshots.settings");
+    const auto machineSettings = MakeMachineSettings(*files, world + "/Simulator");
+    SystemRandom random(kSeed);
+    const auto clock = MakeClock();
+    DesktopHost host;
+    Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
+    Program program(services, world + "/Program");
+    host.Attach(program.pump, program.forms.frmProgress);
+    DesignMainForm(program.forms.frmMain);
+    if (!StartUp(program.context)) return 1;
+    Photographer(program, host, words[2])
+        .TakeAll(world + "/Plan/FlightPlans.txt", words.mid(3).contains("least"));
+    host.Detach();
+    return 0;
+}
+
+}  // namespace
+}  // namespace orlo
+
+int main(int count, char** words) {
+    QApplication application(count, words);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 3) {
+        std::cerr << "orlo-screenshots WORLD FOLDER [dark] [least]\n";
+        return 2;
+    }
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    orlo::UseVisibleEdges();
+    if (arguments.mid(3).contains("dark")) QApplication::setPalette(orlo::DarkPalette());
+    return orlo::Run(arguments);
+}
