@@ -126,13 +126,13 @@ TEST(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
 TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     DesktopProgram desktop;
     SampleForm& form = desktop.form;
-    desktop.Find<QTableView>(form.lvRows).horizontalHeader()->resizeSection(1, 231);
+    desktop.Find<QTableView>(form.lvRows).horizontalHeader()->resizeSection(0, 231);
     desktop.host.UnloadForm(form);
     DesktopProgram::Settle();
     desktop.host.ShowForm(form);
     DesktopProgram::Settle();
-    EXPECT_EQ(desktop.Find<QTableView>(form.lvRows).columnWidth(1), 231);
-    EXPECT_EQ(form.lvRows.columnWidths.count("A"), 0u) << "drawing a width chooses none";
+    EXPECT_EQ(desktop.Find<QTableView>(form.lvRows).columnWidth(0), 231);
+    EXPECT_EQ(form.lvRows.columnWidths.count("B"), 0u) << "the last column follows the width of the list";
 }
 
 TEST(Keys, TheCurrentRowIsSeenAfterSorting) {
