@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "desktop/PaneDesign.h"
-#include "mainwindow/WindowLimits.h"
+#include "shell/StartUp.h"
 
 namespace orlo {
 namespace {

@@ -132,7 +132,7 @@ TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     desktop.host.ShowForm(form);
     DesktopProgram::Settle();
     EXPECT_EQ(desktop.Find<QTableView>(form.lvRows).columnWidth(0), 231);
-    EXPECT_EQ(form.lvRows.columnWidths.count("B"), 0u) << "the last column follows the width of the list";
+    EXPECT_EQ(form.lvRows.columnWidths.count("B"), 0u) << "drawing a width chooses none";
 }
 
 TEST(Keys, TheCurrentRowIsSeenAfterSorting) {
