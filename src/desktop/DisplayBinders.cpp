@@ -26,6 +26,10 @@ class EmblemPicture : public QWidget {
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
+        painter.fillRect(rect(), palette().base());
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(palette().color(QPalette::Text));
         QFont font = painter.font();
         font.setPointSizeF(font.pointSizeF() * kTitleScale);
         painter.setFont(font);
