@@ -192,14 +192,7 @@ FlightList::Handle FlightList::PackRow(const Flight& flight) {
     AddField(flight.Percent);
     AddField(flight.Period);
     AddField(flight.FlightType);
-    for (const Leg& leg : flight.Legs) {
-        AddField(leg.DepartTime);
-        AddArrival(leg.ETA, leg.FixedETA);
-        AddField(leg.FlightLevel);
-        AddField(leg.NumberMode);
-        AddField(leg.FlightNumber);
-        AddField(leg.Destination);
-    }
+    for (const Leg& leg : flight.Legs) AddLegFields(ViewOf(leg));
     EndRow(flight.LegCount(), flight.Removed);
     const Handle handle = handles_.back();
     handles_.pop_back();
@@ -250,6 +243,22 @@ void FlightList::AddField(std::string_view field) {
 void FlightList::AddArrival(std::string_view eta, bool fixed) {
     if (fixed) *rowEnd_++ = '@';
     AddField(eta);
+}
+
+void FlightList::AddFlightFields(const FlightView& flight) {
+    for (const std::string_view field :
+         {flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType}) {
+        AddField(field);
+    }
+}
+
+void FlightList::AddLegFields(const LegView& leg) {
+    AddField(leg.DepartTime);
+    AddArrival(leg.ETA, leg.FixedETA);
+    for (const std::string_view field :
+         {leg.FlightLevel, leg.NumberMode, leg.FlightNumber, leg.Destination}) {
+        AddField(field);
+    }
 }
 
 void FlightList::EndRow(std::int32_t legCount, bool removed) {

@@ -132,6 +132,8 @@ class FlightList {
     void BeginRow(std::size_t mostBytes);  // room for the whole row with its separators
     void AddField(std::string_view field);
     void AddArrival(std::string_view eta, bool fixed);
+    void AddFlightFields(const FlightView& flight);  // those in front of the legs
+    void AddLegFields(const LegView& leg);
     // Appends the row as a flight; `legCount` legs must have been added.
     void EndRow(std::int32_t legCount, bool removed);
 

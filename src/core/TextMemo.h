@@ -9,8 +9,8 @@
 namespace orlo {
 
 // Remembers what was found for short texts such as codes and numbers, compared exactly, so that a pass over
-// many legs asks a large index once a text. Its memory is fixed: when it is full, and for texts of more than
-// 8 bytes, each question is asked anew.
+// many legs asks a large index once a text. Its memory is fixed: when it is full, for texts of more than 8
+// bytes, and where too many texts share a place, each question is asked anew.
 class TextMemo {
   public:
     // Room for at least so many different texts.
@@ -26,8 +26,9 @@ class TextMemo {
         const std::size_t mask = slots_.size() - 1;
         // Multiplication by a large odd number spreads the bytes over the top bits.
         std::size_t place = static_cast<std::size_t>((bytes * 0x9E3779B97F4A7C15u) >> shift_);
-        for (; slots_[place].length != 0; place = (place + 1) & mask) {
+        for (int probes = 0; slots_[place].length != 0; place = (place + 1) & mask) {
             if (slots_[place].bytes == bytes && slots_[place].length == length) return slots_[place].value;
+            if (++probes == kMostProbes) return find(text);
         }
         const std::int32_t value = find(text);
         if (used_ < slots_.size() / 2) {
@@ -38,6 +39,8 @@ class TextMemo {
     }
 
   private:
+    static constexpr int kMostProbes = 32;
+
     struct Slot {
         std::uint64_t bytes = 0;
         std::uint32_t length = 0;  // 0 is free

@@ -100,11 +100,11 @@ void StoreLevels(const FlightList& plan, std::int32_t index, const std::vector<s
     std::size_t size = plan.Row(index).size() + 1;
     for (const std::string& level : levels) size += level.size();
     flights.BeginRow(size);
-    AddFlightFields(flight, flights);
+    flights.AddFlightFields(flight);
     std::size_t number = 0;
     for (LegView leg : flight) {
         leg.FlightLevel = levels[number++];
-        AddLegFields(leg, flights);
+        flights.AddLegFields(leg);
     }
     flights.EndRow(flight.LegCount, flight.Removed);
 }

@@ -83,17 +83,17 @@ void StoreTimes(const FlightList& plan, std::int32_t index, const FlightTimes& t
                 FlightList& flights) {
     flights.BeginRow(plan.Row(index).size() + 1 + kLongestPeriod +
                      static_cast<std::size_t>(flight.LegCount) * 2 * kLongestTime);
-    AddFlightFields(flight, flights);
+    flights.AddFlightFields(flight);
     std::int32_t number = 0;
     for (LegView leg : flight) {
         if (!times.Moved(number)) {
-            AddLegFields(leg, flights);
+            flights.AddLegFields(leg);
         } else {
             const std::string depart = times.DepartText(number);
             const std::string arrive = times.ArriveText(number);
             leg.DepartTime = depart;
             leg.ETA = arrive;
-            AddLegFields(leg, flights);
+            flights.AddLegFields(leg);
         }
         ++number;
     }

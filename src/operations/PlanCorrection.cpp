@@ -5,23 +5,6 @@
 
 namespace orlo {
 
-void AddFlightFields(const FlightView& flight, FlightList& flights) {
-    flights.AddField(flight.ACNumber);
-    flights.AddField(flight.TailNumber);
-    flights.AddField(flight.Percent);
-    flights.AddField(flight.Period);
-    flights.AddField(flight.FlightType);
-}
-
-void AddLegFields(const LegView& leg, FlightList& flights) {
-    flights.AddField(leg.DepartTime);
-    flights.AddArrival(leg.ETA, leg.FixedETA);
-    flights.AddField(leg.FlightLevel);
-    flights.AddField(leg.NumberMode);
-    flights.AddField(leg.FlightNumber);
-    flights.AddField(leg.Destination);
-}
-
 void RunPlanCorrection(Context& context, void (*correct)(Context&), std::string_view done) {
     {
         const BusyMainWindow busy(context);

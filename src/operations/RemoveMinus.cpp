@@ -12,8 +12,8 @@ void StoreTailNumber(const FlightList& plan, std::int32_t index, std::string_vie
     FlightView flight = plan.At(index);
     flight.TailNumber = tailNumber;
     flights.BeginRow(plan.Row(index).size() + 1);
-    AddFlightFields(flight, flights);
-    for (const LegView& leg : flight) AddLegFields(leg, flights);
+    flights.AddFlightFields(flight);
+    for (const LegView& leg : flight) flights.AddLegFields(leg);
     flights.EndRow(flight.LegCount, flight.Removed);
 }
 

@@ -34,19 +34,12 @@ void StoreFlight(const WorkingFlight& flight, bool removed, FlightList& flights)
                 leg.NumberMode.size() + leg.FlightNumber.size() + leg.Destination.size();
     }
     flights.BeginRow(size);
-    flights.AddField(flight.ACNumber);
-    flights.AddField(flight.TailNumber);
-    flights.AddField(flight.Percent);
-    flights.AddField(flight.Period);
-    flights.AddField(flight.FlightType);
+    flights.AddFlightFields(
+        {flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType, 0, false, {}});
     for (std::int32_t i = 0; i < flight.LegCount; ++i) {
         const WorkingLeg& leg = flight.LegAt(i);
-        flights.AddField(leg.DepartTime);
-        flights.AddArrival(leg.ETA, leg.FixedETA);
-        flights.AddField(leg.FlightLevel);
-        flights.AddField(leg.NumberMode);
-        flights.AddField(leg.FlightNumber);
-        flights.AddField(leg.Destination);
+        flights.AddLegFields({leg.DepartTime, leg.ETA, leg.FixedETA, leg.FlightLevel, leg.NumberMode,
+                              leg.FlightNumber, leg.Destination});
     }
     flights.EndRow(flight.LegCount, removed);
 }
