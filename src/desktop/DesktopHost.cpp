@@ -80,6 +80,12 @@ void DesktopHost::Detach() {
     progress_ = nullptr;
 }
 
+void DesktopHost::TellFailure(const std::string& reason) {
+    if (pump_ == nullptr) return;
+    pump_->TellFailure(reason);
+    ScheduleDraw();
+}
+
 bool DesktopHost::Accepts(const Event& event) const {
     return pump_ != nullptr && pump_->Accepts(event);
 }
@@ -314,12 +320,18 @@ void DesktopHost::DrawWhenDue() {
 
 void DesktopHost::DrawAll() {
     if (drawing_) return;
+    struct Drawing {
+        DesktopHost& host;
+        ~Drawing() {
+            host.drawing_ = false;
+            host.lastDrawn_.start();
+        }
+    };
     drawing_ = true;
+    const Drawing drawing{*this};
     drawTimer_.stop();
     for (FormWindow* window : windows_) window->Draw();
     for (FormWindow* window : windows_) window->TakeRequests();
-    drawing_ = false;
-    lastDrawn_.start();
 }
 
 }  // namespace orlo

@@ -39,6 +39,9 @@ class DesktopHost : public QObject,
     // Closes all windows and lets go of the pump.
     void Detach();
 
+    // Says in the status bar that a part of the screen failed.
+    void TellFailure(const std::string& reason);
+
     // Runs events until the form's close request.
     void RunUntilClosed(Form& form);
 

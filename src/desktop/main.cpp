@@ -1,6 +1,5 @@
 // The desktop program: makes the services of this system and shows the main window until it is closed.
 
-#include <QApplication>
 #include <QMessageBox>
 #include <exception>
 #include <memory_resource>
@@ -8,6 +7,7 @@
 #include "core/Application.h"
 #include "core/Version.h"
 #include "desktop/AppIcon.h"
+#include "desktop/DesktopApplication.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/EdgeStyle.h"
 #include "desktop/MainLayout.h"
@@ -25,14 +25,20 @@ constexpr int kStartUpFailed = 1;
 // The windows go before the forms that they show.
 class AttachedHost {
   public:
-    AttachedHost(DesktopHost& host, Program& program) : host_(host) {
+    AttachedHost(DesktopApplication& application, DesktopHost& host, Program& program)
+        : application_(application), host_(host) {
         host_.Attach(program.pump, program.forms.frmProgress);
+        application_.onFailure = [&host](const std::string& reason) { host.TellFailure(reason); };
     }
     AttachedHost(const AttachedHost&) = delete;
     AttachedHost& operator=(const AttachedHost&) = delete;
-    ~AttachedHost() { host_.Detach(); }
+    ~AttachedHost() {
+        application_.onFailure = nullptr;
+        host_.Detach();
+    }
 
   private:
+    DesktopApplication& application_;
     DesktopHost& host_;
 };
 
@@ -44,7 +50,7 @@ void NameApplication() {
     QApplication::setWindowIcon(ApplicationIcon());
 }
 
-int RunDesktop() {
+int RunDesktop(DesktopApplication& application) {
     const auto files = MakeFileSystem();
     const auto userSettings = MakeUserSettings(*files, std::nullopt);
     const auto machineSettings = MakeMachineSettings(*files, std::string());
@@ -54,7 +60,7 @@ int RunDesktop() {
     Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
 
     Program program(services, FindProgramFolder(*files));
-    const AttachedHost attached(host, program);
+    const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
     host.RunUntilClosed(program.forms.frmMain);
@@ -68,11 +74,11 @@ int main(int count, char** words) {
     std::pmr::set_default_resource(&orlo::ListMemory());
     // Texts keep their size on screens that are scaled by a fraction.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(count, words);
+    orlo::DesktopApplication application(count, words);
     orlo::NameApplication();
     orlo::UseVisibleEdges();
     try {
-        return orlo::RunDesktop();
+        return orlo::RunDesktop(application);
     } catch (const std::exception& failure) {
         QMessageBox::critical(nullptr, orlo::ToQString(orlo::kApplicationTitle), failure.what());
         return orlo::kStartUpFailed;
