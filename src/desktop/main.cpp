@@ -1,6 +1,7 @@
 // The desktop program: makes the services of this system and shows the main window until it is closed.
 
 #include <QMessageBox>
+#include <QSessionManager>
 #include <exception>
 #include <memory_resource>
 
@@ -45,7 +46,6 @@ class AttachedHost {
 void NameApplication() {
     QCoreApplication::setApplicationName(ToQString(kApplicationTitle));
     QCoreApplication::setApplicationVersion(kVersionText);
-    QGuiApplication::setApplicationDisplayName(ToQString(kApplicationTitle));
     QGuiApplication::setDesktopFileName("orlo");
     QApplication::setWindowIcon(ApplicationIcon());
 }
@@ -63,6 +63,12 @@ int RunDesktop(DesktopApplication& application) {
     const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
+    // The end of the user's session waits for the questions about what isn't saved.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &host, [&](QSessionManager& manager) {
+        if (program.forms.frmMain.closeRequest || !manager.allowsInteraction()) return;
+        if (!host.AskToClose(program.forms.frmMain)) manager.cancel();
+        manager.release();
+    });
     host.RunUntilClosed(program.forms.frmMain);
     return 0;
 }

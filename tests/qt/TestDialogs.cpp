@@ -90,7 +90,7 @@ int PagesOf(const std::string& text, const std::string& path) {
     const auto printer = MakeTextPrinter();
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setOutputFileName(QString::fromStdString(path));
-    if (!PrintText(text, *printer)) return 0;
+    if (!PrintText(text, *printer, [] {})) return 0;
     return static_cast<int>(ReadAll(path).count("/Type /Page\n"));
 }
 
@@ -113,6 +113,7 @@ TEST(Printing, PagesEndBetweenLinesAndLongLinesGoOn) {
     EXPECT_EQ(PagesOf(Concat(Lines(full - 2), words), path), 2);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 2), std::string(300, 'x')), path), 2);
     // A tab goes on to the next stop: eight columns for one byte.
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 1), "\t\t\t", std::string(24, 'x')), path), 1);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(40, '\t'), "end"), path), 2);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(41, 'x')), path), 1);
     EXPECT_EQ(PagesOf("text", folders.Path("nowhere/out.pdf")), 0);
@@ -139,7 +140,7 @@ TEST(Printing, ADialogPrintsShowsAPreviewOrGivesUp) {
     });
     EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
     InDialog<QPrintPreviewDialog>([](QPrintPreviewDialog& shown) { shown.reject(); });
-    EXPECT_FALSE(desktop.host.Print("text"));
+    EXPECT_EQ(desktop.host.Print("text"), PrintOutcome::GivenUp);
     EXPECT_EQ(ReadAll(path), "");
 
     InDialog<QPrintDialog>([&](QPrintDialog& shown) {
@@ -147,7 +148,7 @@ TEST(Printing, ADialogPrintsShowsAPreviewOrGivesUp) {
         shown.accept();
     });
     EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
-    EXPECT_TRUE(desktop.host.Print("text"));
+    EXPECT_EQ(desktop.host.Print("text"), PrintOutcome::Printed);
     EXPECT_TRUE(ReadAll(path).startsWith("%PDF"));
 }
 
