@@ -13,7 +13,7 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kFileName = "ORLO_AC.CFG";
+constexpr std::string_view kAircraftClassesName = "ORLO_AC.CFG";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kPartCount = 11;
 
@@ -181,12 +181,12 @@ std::string FormatAircraftClasses(const ClassLists& lists) {
 }
 
 bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messages) {
-    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kFileName,
+    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kAircraftClassesName,
                                    " Please copy the file to the ORLO program folder.");
     if (!text) return false;
     ParsedClasses parsed = ParseAircraftClasses(*text);
     if (!parsed.lists) {
-        ShowRuleLineError(messages, kFileName, parsed.offendingLine);
+        ShowRuleLineError(messages, kAircraftClassesName, parsed.offendingLine);
         return false;
     }
     session.Classes = std::move(*parsed.lists);
@@ -194,7 +194,7 @@ bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messa
 }
 
 bool WriteAircraftClasses(const Session& session, FileSystem& files) {
-    const auto file = files.CreateReplacing(JoinPath(session.ProgramFolder, kFileName));
+    const auto file = files.CreateReplacing(JoinPath(session.ProgramFolder, kAircraftClassesName));
     return file && file->Write(FormatAircraftClasses(session.Classes)) && file->Commit();
 }
 

@@ -12,7 +12,7 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kFileName = "ORLO_AL.CFG";
+constexpr std::string_view kAirlineSetsName = "ORLO_AL.CFG";
 constexpr std::int32_t kNoShare = -1;
 constexpr std::int32_t kLargestShare = 100;
 
@@ -86,7 +86,7 @@ AirlineSets ParseAirlines(std::string_view text) {
 }
 
 bool ReadAirlines(Session& session, FileSystem& files, MessageHost& messages) {
-    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kFileName);
+    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kAirlineSetsName);
     if (!text) return false;
     session.Airlines = ParseAirlines(*text);
     return true;

@@ -11,7 +11,7 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kFileName = "ORLO_FL.CFG";
+constexpr std::string_view kFlightLevelsName = "ORLO_FL.CFG";
 constexpr std::size_t kFieldCount = 7;
 
 // Nothing where a field is no whole number. `fields` has kFieldCount texts.
@@ -45,11 +45,11 @@ ParsedFlightLevels ParseFlightLevels(std::string_view text) {
 
 bool ReadFlightLevels(Session& session, FileSystem& files, MessageHost& messages) {
     session.FlightLevelRules.clear();
-    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kFileName);
+    const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kFlightLevelsName);
     if (!text) return false;
     ParsedFlightLevels parsed = ParseFlightLevels(*text);
     session.FlightLevelRules = std::move(parsed.rules);
-    if (parsed.offendingLine) ShowRuleLineError(messages, kFileName, *parsed.offendingLine);
+    if (parsed.offendingLine) ShowRuleLineError(messages, kFlightLevelsName, *parsed.offendingLine);
     return !parsed.offendingLine;
 }
 

@@ -21,10 +21,6 @@ constexpr std::size_t kLongestLine = 0xFFFFFFFF - 16;  // positions and rows hav
 constexpr int kLinesBetweenProgress = 201;
 constexpr std::string_view kMostPercent = "99%";
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 // An activity of 100 is never kept, and neither is one that doesn't read.
 bool KeepsPercent(std::string_view percent) {
     // Nearly all are two digits and the sign.

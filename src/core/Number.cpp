@@ -9,10 +9,6 @@
 namespace orlo {
 namespace {
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 // Sign, digits and fraction of a typed number.
 struct NumberParts {
     bool negative = false;

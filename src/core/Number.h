@@ -7,6 +7,10 @@
 
 namespace orlo {
 
+constexpr bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
 // The nearest whole number, halves to the even one.
 double RoundHalfEven(double value);
 

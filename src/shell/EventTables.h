@@ -10,6 +10,12 @@ EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
 
+// A procedure that needs nothing of its event, as an entry of a table.
+template <auto Procedure>
+void Run(Context& context, Event&) {
+    Procedure(context);
+}
+
 // The table of a form; empty for a form without events.
 EventTable EventsOf(const Forms& forms, const Form& form);
 

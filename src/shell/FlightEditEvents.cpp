@@ -11,11 +11,6 @@
 namespace orlo {
 namespace {
 
-template <auto Procedure>
-void Run(Context& context, Event&) {
-    Procedure(context);
-}
-
 // Delete and Insert on the list stand for its buttons.
 void OnLegKey(Context& context, Event& event) {
     FlightEditForm& form = context.forms.frmFlightEdit;

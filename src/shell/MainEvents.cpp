@@ -23,11 +23,6 @@
 namespace orlo {
 namespace {
 
-template <auto Procedure>
-void Run(Context& context, Event&) {
-    Procedure(context);
-}
-
 constexpr std::string_view kProjectExtension = ".orp";
 
 void NoAction(Context&, Event&) {}

@@ -8,7 +8,7 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kRule = "------------------------------------------------------------------";
+constexpr std::string_view kSeparator = "------------------------------------------------------------------";
 
 void WriteAircraft(LogFile& log, const AirlineEntry& entry, const std::vector<FSAircraft>& fsAircrafts) {
     log.Line(Concat("\tAircraft (", entry.Aircraft.size(), "):"));
@@ -16,7 +16,7 @@ void WriteAircraft(LogFile& log, const AirlineEntry& entry, const std::vector<FS
         const std::string& title = fsAircrafts[static_cast<std::size_t>(aircraft.AircraftIndex)].Title;
         log.Line(Concat("\t\t", title, ": ", aircraft.UseCount, " flights"));
     }
-    log.Line(Concat("\t", kRule));
+    log.Line(Concat("\t", kSeparator));
     log.Line("");
 }
 
@@ -27,14 +27,14 @@ std::string AchievedPercent(const AirlineEntry& entry, const AirlineSet& set) {
 
 void WriteSet(LogFile& log, std::string_view level, std::string_view name, const AirlineSet& set,
               const std::vector<FSAircraft>& fsAircrafts) {
-    log.Line(kRule);
+    log.Line(kSeparator);
     log.Line(Concat(level, ": ", name));
     log.Line(Concat("Airlines: ", set.Airlines.size()));
     log.Line(Concat("Total flights: ", set.Flights));
-    log.Line(kRule);
+    log.Line(kSeparator);
     log.Line("");
     for (const AirlineEntry& entry : set.Airlines) {
-        log.Line(Concat("\t", kRule));
+        log.Line(Concat("\t", kSeparator));
         log.Line(Concat("\tAirline: ", entry.Name));
         log.Line(Concat("\tTotal flights: ", entry.Flights));
         log.Line(Concat("\tPlaned Percent: ", entry.PlannedPercent));
@@ -49,7 +49,7 @@ void WriteShuffleResultLog(FileSystem& files, const std::string& flightplanPath,
                            const AirlineEntry& noAirline, const std::vector<FSAircraft>& fsAircrafts) {
     LogFile log;
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle Result.log"));
-    log.Line(kRule);
+    log.Line(kSeparator);
     log.Line("No Airline: ");
     log.Line(Concat("Total flights: ", noAirline.Flights));
     WriteAircraft(log, noAirline, fsAircrafts);

@@ -17,10 +17,6 @@ constexpr std::uint64_t kTextStart = 8;  // of a text, from the sub-record's sta
 constexpr std::uint64_t kRunwayStart = 28;
 constexpr std::uint64_t kILSStart = 32;
 
-constexpr std::int32_t kHelipad = 4;
-
-constexpr double kFullTurn = 4294967296.0;  // 2^32
-
 // An angle is stored as a fraction of the circle.
 float CircleHeading(std::int32_t value) {
     const double degrees = value / kFullTurn * 360;

@@ -12,9 +12,6 @@ namespace orlo {
 namespace {
 
 constexpr double kLatitudeUnitsPerDegree = 10001750.0 / 90;
-constexpr double kFullTurn = 4294967296.0;  // 2^32
-
-constexpr std::int32_t kHelipad = 4;
 
 constexpr std::array<std::string_view, 12> kParkingKinds = {
     "",          "Parking",    "Parking N", "Parking NE", "Parking E", "Parking SE",

@@ -22,7 +22,7 @@ const ClassRow ClassRows[ClassCount] = {
 
 namespace {
 
-constexpr Performance None = {-1, -1, -1, -1, -1, -1, "", -1, "", -1};
+constexpr Performance NoTuning = {-1, -1, -1, -1, -1, -1, "", -1, "", -1};
 constexpr int FaultyCount = 11;
 const char* const LightMaker = "SAMPLE LIGHT";
 const char* const PropMaker = "SAMPLE PROPS";
@@ -31,8 +31,8 @@ const char* const JetMaker = "SAMPLE JETS";
 }  // namespace
 
 const std::vector<AircraftType> AircraftTypes = {
-    {"MP12", LightMaker, "Sample Light 12", MicroProp, "118.5 ;knots true", 1, 18, false, false, None},
-    {"MP18", LightMaker, "Sample Light 18", MicroProp, "132.0", 2, 20, false, false, None},
+    {"MP12", LightMaker, "Sample Light 12", MicroProp, "118.5 ;knots true", 1, 18, false, false, NoTuning},
+    {"MP18", LightMaker, "Sample Light 18", MicroProp, "132.0", 2, 20, false, false, NoTuning},
     {"FP06",
      LightMaker,
      "Sample Float 6",
@@ -43,7 +43,7 @@ const std::vector<AircraftType> AircraftTypes = {
      false,
      true,
      {110, 0, 100, 0, 350, 500, "WATER HARD", 5, "DOCK RAMP", 5}},
-    {"DP19", PropMaker, "Sample Commuter 19", MidProp, "190.0 ;KTAS", 1, 32, false, false, None},
+    {"DP19", PropMaker, "Sample Commuter 19", MidProp, "190.0 ;KTAS", 1, 32, false, false, NoTuning},
     {"DP34",
      PropMaker,
      "Sample Commuter 34",
@@ -54,9 +54,9 @@ const std::vector<AircraftType> AircraftTypes = {
      false,
      true,
      {185, 0, 200, 20, 700, 700, "HARD SOFT", 8, "RAMP", 60}},
-    {"TP46", PropMaker, "Sample Prop 46", LargeProp, "262.5 ;cruise at FL200", 1, 45, false, false, None},
-    {"TP72", PropMaker, "Sample Prop 72", LargeProp, "274.0", 2, 46, false, false, None},
-    {"BJ08", JetMaker, "Sample Business 8", MicroJet, "402.0", 3, 30, false, false, None},
+    {"TP46", PropMaker, "Sample Prop 46", LargeProp, "262.5 ;cruise at FL200", 1, 45, false, false, NoTuning},
+    {"TP72", PropMaker, "Sample Prop 72", LargeProp, "274.0", 2, 46, false, false, NoTuning},
+    {"BJ08", JetMaker, "Sample Business 8", MicroJet, "402.0", 3, 30, false, false, NoTuning},
     {"SJ70",
      JetMaker,
      "Sample Jet 70",
@@ -67,11 +67,11 @@ const std::vector<AircraftType> AircraftTypes = {
      false,
      true,
      {430, 100, 410, 100, 1600, 1500, "HARD", 11, "GATE", 100}},
-    {"SJ15", JetMaker, "Sample Jet 150", SmallJet, "445.0", 2, 60, false, false, None},
-    {"SJ18", JetMaker, "Sample Jet 180", SmallJet, "448.0 ; M0.78", 3, 64, false, false, None},
-    {"LJ25", JetMaker, "Sample Jet 250", LargeJet, "466.0", 1, 85, true, false, None},
-    {"LJ30", JetMaker, "Sample Jet 300", LargeJet, "473.5 ;knots", 2, 98, true, false, None},
-    {"HJ40", JetMaker, "Sample Jet 400", HugeJet, "490.0", 1, 105, true, false, None},
+    {"SJ15", JetMaker, "Sample Jet 150", SmallJet, "445.0", 2, 60, false, false, NoTuning},
+    {"SJ18", JetMaker, "Sample Jet 180", SmallJet, "448.0 ; M0.78", 3, 64, false, false, NoTuning},
+    {"LJ25", JetMaker, "Sample Jet 250", LargeJet, "466.0", 1, 85, true, false, NoTuning},
+    {"LJ30", JetMaker, "Sample Jet 300", LargeJet, "473.5 ;knots", 2, 98, true, false, NoTuning},
+    {"HJ40", JetMaker, "Sample Jet 400", HugeJet, "490.0", 1, 105, true, false, NoTuning},
     {"HJ50",
      JetMaker,
      "Sample Jet 500",

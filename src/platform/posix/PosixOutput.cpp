@@ -20,7 +20,7 @@ constexpr mode_t kPermissions = 07777;
 constexpr mode_t kAnyoneWrites = 0222;
 constexpr int kMostNames = 1000;
 
-std::optional<struct stat> FactsOf(const std::string& path) {
+std::optional<struct stat> FactsOfTarget(const std::string& path) {
     struct stat facts {};
     if (stat(path.c_str(), &facts) != 0) return std::nullopt;
     return facts;
@@ -66,7 +66,7 @@ std::unique_ptr<OutputFile> OpenReplacing(const std::string& path, mode_t newMod
     if (!IsUsablePath(path)) return nullptr;
     const std::string target = FollowLinks(path);
     if (target.empty() || FileName(target).empty()) return nullptr;
-    const auto old = FactsOf(target);
+    const auto old = FactsOfTarget(target);
     if (!old && errno != ENOENT) return nullptr;
     if (old && (!S_ISREG(old->st_mode) || IsReadOnly(target, *old))) return nullptr;
     if (auto file = OpenBeside(target, old, newMode)) return file;
@@ -78,7 +78,7 @@ std::unique_ptr<OutputFile> OpenReplacing(const std::string& path, mode_t newMod
 
 std::unique_ptr<OutputFile> OpenInPlace(const std::string& path) {
     if (!IsUsablePath(path)) return nullptr;
-    const auto old = FactsOf(path);
+    const auto old = FactsOfTarget(path);
     if (old && IsReadOnly(path, *old)) return nullptr;
     PosixHandle file = OpenRegular(path, O_WRONLY | O_CREAT, 0666);
     if (!file.IsOpen() || ftruncate(file.Descriptor(), 0) != 0) return nullptr;
