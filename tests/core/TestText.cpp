@@ -73,13 +73,6 @@ TEST(Text, PiecesComeApartAndTogether) {
     EXPECT_EQ(TrimBlanks("   "), "");
     EXPECT_EQ(ReplaceAll("aXXbXXX", "XX", "X"), "aXbXX");
     EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
-    EXPECT_EQ(RemoveAll("--a-b-", '-'), "ab");
-    EXPECT_EQ(PadRight("ab", 4), "ab  ");
-    EXPECT_EQ(PadRight("abcde", 4), "abcde");
-    EXPECT_EQ(BeforeFirst("a//b//c", "//"), "a");
-    EXPECT_EQ(BeforeFirst("a/b", "//"), "a/b");
-    EXPECT_EQ(Concat("AC#", 12, ',', std::string("x"), -3L, 18446744073709551615ull),
-              "AC#12,x-318446744073709551615");
 }
 
 TEST(Text, EveryByteSurvivesTheScreen) {

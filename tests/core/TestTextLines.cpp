@@ -101,15 +101,6 @@ TEST(TextLines, AFileWithoutLineFeedsIsReadInOnePass) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
-TEST(TextLines, AWholeFileComesAsItIsAndAMissingOneNotAtAll) {
-    test::MemoryFileSystem files;
-    files.files["/plan/a.txt"] = std::string("a\0\r\n", 4);
-    files.files["/plan/empty.txt"] = "";
-    EXPECT_EQ(ReadWholeFile(files, "/plan/A.TXT"), std::string("a\0\r\n", 4));
-    EXPECT_EQ(ReadWholeFile(files, "/plan/empty.txt"), "");
-    EXPECT_EQ(ReadWholeFile(files, "/plan/b.txt"), std::nullopt);
-}
-
 TEST(TextLines, CommentsStartAtTheFirstMarkOfEitherKind) {
     EXPECT_EQ(CutComments("a;b//c"), "a");
     EXPECT_EQ(CutComments("a//b;c"), "a");
