@@ -16,16 +16,14 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
-using test::SampleForm;
+using Keys = test::DesktopTest;
 
 void AddNames(ListView& list) {
     for (const char* name : {"Delta", "Alpha", "Malm\xF6", "Bravo"})
         list.Add({"", "", "", Colour::WindowText, {name, "a\tb"}});
 }
 
-TEST(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Focus(form.cmdGo);
     desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
     DesktopProgram::Settle();
@@ -51,9 +49,7 @@ TEST(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     EXPECT_TRUE(form.ran.empty());
 }
 
-TEST(Keys, F1AsksForHelpWhereverTheFocusIs) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, F1AsksForHelpWhereverTheFocusIs) {
     for (Control* control :
          std::initializer_list<Control*>{&form.txtName, &form.cmFree, &form.lvRows, &form.cmdGo}) {
         desktop.Focus(*control);
@@ -64,9 +60,7 @@ TEST(Keys, F1AsksForHelpWhereverTheFocusIs) {
     }
 }
 
-TEST(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     auto& combo = desktop.Find<QComboBox>(form.cmFree);
     form.cmFree.index = 1;
     desktop.CatchUp();
@@ -95,9 +89,7 @@ TEST(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     EXPECT_EQ(form.cmFree.Text(), "Red");
 }
 
-TEST(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
     AddNames(form.lvRows);
     desktop.CatchUp();
     desktop.Focus(form.lvRows);
@@ -123,9 +115,7 @@ TEST(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), copied);
 }
 
-TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     desktop.Find<QTableView>(form.lvRows).horizontalHeader()->resizeSection(0, 231);
     desktop.host.UnloadForm(form);
     DesktopProgram::Settle();
@@ -135,26 +125,7 @@ TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     EXPECT_EQ(form.lvRows.columnWidths.count("B"), 0u) << "drawing a width chooses none";
 }
 
-TEST(Keys, TheCurrentRowIsSeenAfterSorting) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    for (int i = 0; i < 2000; ++i)
-        form.lvRows.Add({"", "", "", Colour::WindowText, {std::to_string(5000 - i), "x"}});
-    form.on["ClickColumn lvRows"] = [&](Context&, Event& event) {
-        form.lvRows.SortByColumn(event.value);
-        form.lvRows.ensureVisibleRequest = true;
-    };
-    desktop.CatchUp();
-    auto& table = desktop.Find<QTableView>(form.lvRows);
-    desktop.ClickAt(table, QPoint(20, 10));
-    DesktopProgram::Settle();
-    ASSERT_EQ(form.lvRows.PositionOf(form.lvRows.current), 1999);
-    EXPECT_TRUE(table.viewport()->rect().contains(table.visualRect(table.currentIndex()).center()));
-}
-
-TEST(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     std::string path;
     form.on["DropFile form"] = [&](Context&, Event& event) { path = event.path; };
     const auto drop = [](QWidget& widget, const QMimeData& data) {
@@ -187,10 +158,9 @@ TEST(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     EXPECT_EQ(form.Ran("DropFile form"), 2);
 }
 
-TEST(Keys, APathInAMenuKeepsItsAmpersands) {
-    DesktopProgram desktop;
-    desktop.form.mnuTick.plainCaption = true;
-    desktop.form.mnuTick.caption = "/R&D/plan.txt";
+TEST_F(Keys, APathInAMenuKeepsItsAmpersands) {
+    form.mnuTick.plainCaption = true;
+    form.mnuTick.caption = "/R&D/plan.txt";
     desktop.CatchUp();
     EXPECT_EQ(desktop.WindowOf(desktop.form).findChild<QAction*>("mnuTick")->text(), "/R&&D/plan.txt");
 }

@@ -9,10 +9,9 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
+using Typing = test::DesktopTest;
 
-TEST(Typing, TypingWhileTheWindowIsRedrawnLosesNoCharacter) {
-    DesktopProgram desktop;
-    auto& form = desktop.form;
+TEST_F(Typing, TypingWhileTheWindowIsRedrawnLosesNoCharacter) {
     form.on["Change txtName"] = [&](Context& context, Event&) {
         form.sbState.text = Concat("Typed ", form.txtName.text);
         form.lvRows.Add({"", "", "", Colour::Black, {form.txtName.text, "x"}});
@@ -34,9 +33,7 @@ TEST(Typing, TypingWhileTheWindowIsRedrawnLosesNoCharacter) {
     EXPECT_EQ(form.Ran("Change txtName"), 200);
 }
 
-TEST(Typing, AHandlerThatChangesTheFieldIsSeenBeforeTheNextKey) {
-    DesktopProgram desktop;
-    auto& form = desktop.form;
+TEST_F(Typing, AHandlerThatChangesTheFieldIsSeenBeforeTheNextKey) {
     form.on["Change txtName"] = [&](Context&, Event&) { form.txtName.text = UpperText(form.txtName.text); };
     desktop.Focus(form.txtName);
     desktop.Type(form, "abc");
@@ -52,9 +49,7 @@ TEST(Typing, AHandlerThatChangesTheFieldIsSeenBeforeTheNextKey) {
     EXPECT_EQ(line.cursorPosition(), 3);
 }
 
-TEST(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
-    DesktopProgram desktop;
-    auto& form = desktop.form;
+TEST_F(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
     form.txtName.text = "Malm\xF6";
     desktop.CatchUp();
     auto& line = desktop.Find<QLineEdit>(form.txtName);
@@ -77,9 +72,7 @@ TEST(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
     EXPECT_EQ(form.Ran("Click cmdGo"), 0);
 }
 
-TEST(Typing, KeysTypedWhileAnOperationRunsReachNoField) {
-    DesktopProgram desktop;
-    auto& form = desktop.form;
+TEST_F(Typing, KeysTypedWhileAnOperationRunsReachNoField) {
     desktop.Focus(form.txtName);
     form.on["Click cmdGo"] = [&](Context& context, Event&) {
         form.enabled = false;
