@@ -12,8 +12,7 @@ constexpr auto kNone = std::nullopt;
 
 TEST(Number, HalvesRoundToTheEvenNumber) {
     struct Case {
-        double value;
-        double rounded;
+        double value, rounded;
     };
     const Case cases[] = {{0.5, 0},  {1.5, 2},  {2.5, 2},    {-0.5, 0}, {-1.5, -2}, {-2.5, -2},
                           {0.49, 0}, {0.51, 1}, {-0.51, -1}, {3, 3},    {-7, -7},   {1e15, 1e15}};

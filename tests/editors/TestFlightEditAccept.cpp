@@ -129,8 +129,7 @@ TEST(FlightEditAccept, RangesAndLevelsOfAnInstalledAircraftAreCheckedLegByLeg) {
 
 TEST(FlightEditAccept, ANoSelectsTheLegOrThePeriodAndStoresNothing) {
     struct Case {
-        std::string_view period;
-        std::string_view times;
+        std::string_view period, times;
         std::size_t passed;  // warnings before the No
         std::int32_t selected;
         bool atPeriod;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "core/ClockTime.h"
@@ -42,12 +43,16 @@ struct CorrectionWorld : test::FakeProgram {
     }
 };
 
-// A flight of legs whose times stand in turn, departure and arrival.
+std::string Whole(std::string_view time) {
+    return Concat(time, std::count(time.begin(), time.end(), ':') == 1 ? ":00" : "");
+}
+
+// A flight of legs whose times stand in turn, departure and arrival, seconds of 0 left out.
 std::string LineOf(std::string_view period, std::string_view times) {
     std::string line = Concat("AC#1,N1,50%,", period, ",IFR");
     const std::vector<std::string_view> texts = SplitText(times, ' ');
     for (std::size_t i = 0; i + 1 < texts.size(); i += 2) {
-        line += Concat(",", texts[i], ",", texts[i + 1], ",350,F,1,EDDF");
+        line += Concat(",", Whole(texts[i]), ",", Whole(texts[i + 1]), ",350,F,1,EDDF");
     }
     return line;
 }
@@ -67,77 +72,61 @@ TEST(FlightCorrections, TimesAgreeWithTheTableOfCases) {
 }
 
 TEST(FlightCorrections, TimesAreCheckedAndCorrectedAtTheirLimits) {
+    constexpr const char* kMin = "min. Turn-Around";
+    constexpr const char* kMax = "max. Turn-Around";
     struct Case {
         std::int32_t minimum, maximum;
         std::string period, times, fault, correctedPeriod, correctedTimes;
     };
     for (const Case& c : std::initializer_list<Case>{
              // The correction keeps a minute more than the check asks for.
-             {30, kOff, "24Hr", "10:00:00 11:00:00 11:29:59 12:00:00", "min. Turn-Around", "4Hr",
-              "10:00:00 11:00:00 11:32:00 12:02:01"},
-             {30, kOff, "4Hr", "10:00:00 11:00:00 11:30:00 12:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:32:00 12:02:00"},
-             {30, kOff, "4Hr", "10:00:00 11:00:00 11:30:59 12:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:32:00 12:01:01"},
-             {30, kOff, "4Hr", "10:00:00 11:00:00 11:31:00 12:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:31:00 12:00:00"},
-             {kOff, 1, "4Hr", "10:00:00 11:00:00 12:00:01 13:00:00", "max. Turn-Around", "4Hr",
-              "10:00:00 11:00:00 11:58:00 12:57:59"},
-             {kOff, 1, "4Hr", "10:00:00 11:00:00 12:00:00 13:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:58:00 12:58:00"},
-             {kOff, 1, "4Hr", "10:00:00 11:00:00 11:59:01 13:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:58:00 12:58:59"},
-             {kOff, 1, "4Hr", "10:00:00 11:00:00 11:59:00 13:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:59:00 13:00:00"},
+             {30, kOff, "24Hr", "10:00 11:00 11:29:59 12:00", kMin, "4Hr", "10:00 11:00 11:32 12:02:01"},
+             {30, kOff, "4Hr", "10:00 11:00 11:30 12:00", "", "4Hr", "10:00 11:00 11:32 12:02"},
+             {30, kOff, "4Hr", "10:00 11:00 11:30:59 12:00", "", "4Hr", "10:00 11:00 11:32 12:01:01"},
+             {30, kOff, "4Hr", "10:00 11:00 11:31 12:00", "", "4Hr", "10:00 11:00 11:31 12:00"},
+             {kOff, 1, "4Hr", "10:00 11:00 12:00:01 13:00", kMax, "4Hr", "10:00 11:00 11:58 12:57:59"},
+             {kOff, 1, "4Hr", "10:00 11:00 12:00 13:00", "", "4Hr", "10:00 11:00 11:58 12:58"},
+             {kOff, 1, "4Hr", "10:00 11:00 11:59:01 13:00", "", "4Hr", "10:00 11:00 11:58 12:58:59"},
+             {kOff, 1, "4Hr", "10:00 11:00 11:59 13:00", "", "4Hr", "10:00 11:00 11:59 13:00"},
              // A moved leg is what the next one is measured against.
-             {30, kOff, "24Hr", "10:00:00 11:00:00 11:00:00 12:00:00 12:40:00 13:00:00", "min. Turn-Around",
-              "4Hr", "10:00:00 11:00:00 11:32:00 12:32:00 13:04:00 13:24:00"},
+             {30, kOff, "24Hr", "10:00 11:00 11:00 12:00 12:40 13:00", kMin, "4Hr",
+              "10:00 11:00 11:32 12:32 13:04 13:24"},
              // Without limits the order of week times alone counts.
-             {kOff, kOff, "WEEK", "1/10:00:00 1/11:00:00 1/10:30:00 1/11:30:00",
-              "Depart earlier than arrival", "WEEK", "1/10:00:00 1/11:00:00 1/11:47:00 1/12:47:00"},
-             {kOff, kOff, "24Hr", "10:00:00 11:00:00 11:00:00 12:00:00", "", "4Hr",
-              "10:00:00 11:00:00 11:00:00 12:00:00"},
+             {kOff, kOff, "WEEK", "1/10:00 1/11:00 1/10:30 1/11:30", "Depart earlier than arrival", "WEEK",
+              "1/10:00 1/11:00 1/11:47 1/12:47"},
+             {kOff, kOff, "24Hr", "10:00 11:00 11:00 12:00", "", "4Hr", "10:00 11:00 11:00 12:00"},
              // The edges of the periods; 12 hours leave no room for the minimum.
-             {30, kOff, "2Hr", "10:00:00 10:29:00 11:00:00 11:29:59", "", "2Hr",
-              "10:00:00 10:29:00 11:00:00 11:29:59"},
-             {30, kOff, "2Hr", "10:00:00 10:29:00 11:00:00 11:30:00", "", "4Hr",
-              "10:00:00 10:29:00 11:00:00 11:30:00"},
-             {30, kOff, "12Hr", "00:00:00 05:00:00 06:00:00 11:45:00", "min. Turn-Around", "12Hr",
-              "00:00:00 05:00:00 06:00:00 11:45:00"},
-             {30, kOff, "12Hr", "00:00:00 05:00:00 06:00:00 12:00:00", "Total flight time | min. Turn-Around",
-              "24Hr", "00:00:00 05:00:00 06:00:00 12:00:00"},
+             {30, kOff, "2Hr", "10:00 10:29 11:00 11:29:59", "", "2Hr", "10:00 10:29 11:00 11:29:59"},
+             {30, kOff, "2Hr", "10:00 10:29 11:00 11:30", "", "4Hr", "10:00 10:29 11:00 11:30"},
+             {30, kOff, "12Hr", "00:00 05:00 06:00 11:45", kMin, "12Hr", "00:00 05:00 06:00 11:45"},
+             {30, kOff, "12Hr", "00:00 05:00 06:00 12:00", "Total flight time | min. Turn-Around", "24Hr",
+              "00:00 05:00 06:00 12:00"},
              // Only where no period holds the round are all turn-arounds tightened, and what still doesn't
              // fit stays with the longest.
-             {30, kOff, "24Hr", "00:00:00 11:00:00 12:50:00 23:50:00", "min. Turn-Around", "24Hr",
-              "00:00:00 11:00:00 11:32:00 22:32:00"},
-             {30, kOff, "24Hr", "00:00:00 11:00:00 12:29:59 23:29:59", "", "24Hr",
-              "00:00:00 11:00:00 12:29:59 23:29:59"},
-             {60, 1, "24Hr", "00:00:00 11:30:00 13:00:00 00:30:00", "Total flight time | max. Turn-Around",
-              "24Hr", "00:00:00 11:30:00 12:28:00 23:58:00"},
+             {30, kOff, "24Hr", "00:00 11:00 12:50 23:50", kMin, "24Hr", "00:00 11:00 11:32 22:32"},
+             {30, kOff, "24Hr", "00:00 11:00 12:29:59 23:29:59", "", "24Hr", "00:00 11:00 12:29:59 23:29:59"},
+             {60, 1, "24Hr", "00:00 11:30 13:00 00:30", "Total flight time | max. Turn-Around", "24Hr",
+              "00:00 11:30 12:28 23:58"},
              // Over the end of the week, both ways.
-             {30, kOff, "WEEK", "6/22:00:00 6/23:50:00 6/23:55:00 0/01:00:00", "min. Turn-Around", "WEEK",
-              "6/22:00:00 6/23:50:00 0/00:22:00 0/01:27:00"},
-             {kOff, 1, "WEEK", "6/22:00:00 6/23:00:00 0/01:00:00 0/02:00:00", "max. Turn-Around", "WEEK",
-              "6/22:00:00 6/23:00:00 6/23:58:00 0/00:58:00"},
+             {30, kOff, "WEEK", "6/22:00 6/23:50 6/23:55 0/01:00", kMin, "WEEK",
+              "6/22:00 6/23:50 0/00:22 0/01:27"},
+             {kOff, 1, "WEEK", "6/22:00 6/23:00 0/01:00 0/02:00", kMax, "WEEK",
+              "6/22:00 6/23:00 6/23:58 0/00:58"},
              // Periods that are none.
-             {kOff, kOff, "week", "1/10:00:00 1/11:00:00 1/12:00:00 1/13:00:00", "", "week",
-              "1/10:00:00 1/11:00:00 1/12:00:00 1/13:00:00"},
-             {kOff, kOff, "3Hr", "10:00:00 10:30:00 11:00:00 11:30:00", "", "2Hr",
-              "10:00:00 10:30:00 11:00:00 11:30:00"},
-             {kOff, kOff, "Daily", "10:00:00 10:30:00 11:00:00 11:30:00", "Total flight time", "2Hr",
-              "10:00:00 10:30:00 11:00:00 11:30:00"},
+             {kOff, kOff, "week", "1/10:00 1/11:00 1/12:00 1/13:00", "", "week",
+              "1/10:00 1/11:00 1/12:00 1/13:00"},
+             {kOff, kOff, "3Hr", "10:00 10:30 11:00 11:30", "", "2Hr", "10:00 10:30 11:00 11:30"},
+             {kOff, kOff, "Daily", "10:00 10:30 11:00 11:30", "Total flight time", "2Hr",
+              "10:00 10:30 11:00 11:30"},
              // Of what can't be read nothing is measured and nothing moves.
-             {30, kOff, "24Hr", "10:00:00 later 10:00:00 11:00:00", "", "2Hr",
-              "10:00:00 later 10:00:00 11:00:00"},
-             {30, kOff, "24Hr", "10:00:00 11:00:00 11:00:00 ? 11:50:00 12:50:00", "min. Turn-Around", "4Hr",
-              "10:00:00 11:00:00 11:00:00 ? 11:50:00 12:50:00"},
-             {30, kOff, "24Hr", "1/10:00:00 11:00:00 11:00:00 12:00:00", "min. Turn-Around", "4Hr",
-              "1/10:00:00 11:00:00 11:32:00 12:32:00"},
-             {30, kOff, "WEEK", "1/10:00:00 11:00:00 1/11:00:00 1/12:00:00 1/12:00:00 13:00:00",
-              "min. Turn-Around", "WEEK", "1/10:00:00 11:00:00 1/11:00:00 1/12:00:00 1/12:00:00 13:00:00"},
+             {30, kOff, "24Hr", "10:00 later 10:00 11:00", "", "2Hr", "10:00 later 10:00 11:00"},
+             {30, kOff, "24Hr", "10:00 11:00 11:00 ? 11:50 12:50", kMin, "4Hr",
+              "10:00 11:00 11:00 ? 11:50 12:50"},
+             {30, kOff, "24Hr", "1/10:00 11:00 11:00 12:00", kMin, "4Hr", "1/10:00 11:00 11:32 12:32"},
+             {30, kOff, "WEEK", "1/10:00 11:00 1/11:00 1/12:00 1/12:00 13:00", kMin, "WEEK",
+              "1/10:00 11:00 1/11:00 1/12:00 1/12:00 13:00"},
              // Marked arrivals move like others, and the mark stays.
-             {30, kOff, "24Hr", "10:00:00 @11:00:00 11:00:00 @12:00:00", "min. Turn-Around", "4Hr",
-              "10:00:00 @11:00:00 11:32:00 @12:32:00"},
+             {30, kOff, "24Hr", "10:00 @11:00 11:00 @12:00", kMin, "4Hr", "10:00 @11:00 11:32 @12:32"},
          }) {
         CorrectionWorld world;
         world.SetLimits(c.minimum, c.maximum);

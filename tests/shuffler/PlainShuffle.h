@@ -166,32 +166,28 @@ class PlainShuffle {
         std::string patterns;
         std::size_t first = 0, second = 0;
         std::string code = flight_.Legs.empty() ? "" : flight_.Legs.back().Destination;
+        const auto level = [&](std::vector<AirlineSet>& list, const std::string& name, bool ifNone) {
+            AirlineSet* set = FindSet(list, name);
+            if (set != nullptr && (!ifNone || patterns.empty())) patterns = set->TailPatterns;
+            return Try(set);
+        };
         for (;;) {
             const AirportRecord* record = FindRecord(code);
             if (record == nullptr) return Remove();
-            AirlineSet* set = FindSet(sets.Airports, code);
-            if (set != nullptr && patterns.empty()) patterns = set->TailPatterns;
-            if (Try(set)) return;
-            set = FindSet(sets.Cities, CountryOf(*record) + "/" + record->City);
-            if (set != nullptr) patterns = set->TailPatterns;
-            if (Try(set)) return;
-            set = FindSet(sets.States, CountryOf(*record) + "/" + record->State);
-            if (set != nullptr) patterns = set->TailPatterns;
-            if (Try(set)) return;
+            const std::string country = CountryOf(*record);
+            if (level(sets.Airports, code, true)) return;
+            if (level(sets.Cities, country + "/" + record->City, false)) return;
+            if (level(sets.States, country + "/" + record->State, false)) return;
             if (IsDomestic(*record) && first + 1 < flight_.Legs.size()) {
                 code = flight_.Legs[first++].Destination;
                 continue;
             }
-            set = FindSet(sets.Countries, CountryOf(*record));
-            if (set != nullptr) patterns = set->TailPatterns;
-            if (Try(set)) return;
+            if (level(sets.Countries, country, false)) return;
             if (session.CheckVisitedAirports && second + 1 < flight_.Legs.size()) {
                 code = flight_.Legs[second++].Destination;
                 continue;
             }
-            set = FindSet(sets.Regions, record->Region);
-            if (set != nullptr && patterns.empty()) patterns = set->TailPatterns;
-            if (Try(set) || Try(&sets.Global)) return;
+            if (level(sets.Regions, record->Region, true) || Try(&sets.Global)) return;
             break;
         }
         if (!AssignAircraft(noAirline_, 0)) return Remove();

@@ -95,8 +95,7 @@ TEST(AircraftScan, EachTitledFltsimSectionIsAVariantWithItsFields) {
 TEST(AircraftScan, BrokenConfigurationsGiveWhatTheyHold) {
     const struct {
         const char* fault;
-        std::string config;
-        std::string titles;
+        std::string config, titles;
         std::int32_t speed;
     } cases[] = {
         {"empty", "", "", -1},
@@ -199,8 +198,7 @@ TEST(AircraftScan, TheModelsRadiusIsReadFromThreeLayouts) {
     const struct {
         const char* layout;
         std::string model;
-        std::int32_t format;
-        std::int32_t radius;
+        std::int32_t format, radius;
     } cases[] = {
         {"RIFF in any case", riff.bytes, 1, 12},
         {"RIFF cut in the radius", riff.bytes.substr(0, 31), 0, -1},

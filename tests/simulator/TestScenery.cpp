@@ -89,8 +89,7 @@ TEST(Scenery, AnUpperLevelOfTheHierarchyClearsTheLowerOnes) {
 
 TEST(Scenery, CoordinatesAndFrequenciesAreCutAndNotRounded) {
     struct Case {
-        std::int32_t latitude;
-        std::int32_t longitude;
+        std::int32_t latitude, longitude;
         std::string text;
     };
     const Case cases[] = {
