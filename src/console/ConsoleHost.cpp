@@ -238,10 +238,10 @@ bool ConsoleHost::ShowPrintDialog(std::string_view title) {
     return path.has_value();
 }
 
-bool ConsoleHost::Print(std::string_view text) {
+PrintOutcome ConsoleHost::Print(std::string_view text) {
     const auto file = files_.CreateReplacing(printPath_);
-    if (file && file->Write(text)) file->Commit();
-    return true;
+    const bool written = file && file->Write(text) && file->Commit();
+    return written ? PrintOutcome::Printed : PrintOutcome::Failed;
 }
 
 bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {

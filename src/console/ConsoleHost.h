@@ -71,7 +71,7 @@ class ConsoleHost : public ProgressHost, public MessageHost, public WindowHost {
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                         std::string_view defaultText) override;
     bool ShowPrintDialog(std::string_view title) override;
-    bool Print(std::string_view text) override;
+    PrintOutcome Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   private:

@@ -37,7 +37,7 @@ void Binder::DrawCommon() {
     if (ownEnabled != control_.enabled) widget_.setEnabled(control_.enabled);
     if (drawnToolTip_ != control_.toolTip) {
         drawnToolTip_ = control_.toolTip;
-        widget_.setToolTip(ToQString(drawnToolTip_));
+        widget_.setToolTip(TipText(drawnToolTip_));
     }
     if (drawnAccessibleName_ != control_.accessibleName) {
         drawnAccessibleName_ = control_.accessibleName;

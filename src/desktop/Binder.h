@@ -26,6 +26,8 @@ class Binder {
 
     // Brings the widget to what the control says. The contents of a hidden control wait until it is shown.
     void Draw();
+    // Shows the pointer of the form where the widget has one of its own.
+    virtual void DrawPointer(PointerShape) {}
     // Does what the control asks for once, and clears the requests.
     virtual void TakeRequests() {}
     // What a Hover at this place of `on`, the widget or one inside it, tells as its value.

@@ -11,6 +11,7 @@ namespace orlo {
 namespace {
 
 constexpr int kLeastCharacters = 12;
+constexpr int kMostShown = 20;  // entries, without scrolling
 
 }  // namespace
 
@@ -39,6 +40,7 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink
     shown_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     shown_.setMinimumContentsLength(kLeastCharacters);
     shown_.setFocusPolicy(Qt::StrongFocus);
+    shown_.setMaxVisibleItems(kMostShown);
     shown_.setModel(&model_);
     if (auto* list = qobject_cast<QListView*>(shown_.view())) list->setUniformItemSizes(true);
     if (combo.style == ComboStyle::Editable) MakeEditable();

@@ -2,9 +2,11 @@
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -59,6 +61,22 @@ QMessageBox::StandardButtons ButtonsOf(int flags) {
     }
 }
 
+// The first one, wherever the desktop's habits put it.
+QMessageBox::StandardButton DefaultOf(int flags) {
+    if ((flags & 0x0F) != kButtonsYesNoCancel && (flags & 0x0F) != kButtonsYesNo) return QMessageBox::Ok;
+    return (flags & kDefaultSecondButton) != 0 ? QMessageBox::No : QMessageBox::Yes;
+}
+
+// What fits on a screen with the buttons below.
+QString ShortMessage(std::string_view text) {
+    constexpr std::ptrdiff_t kMostLines = 20;
+    const QString whole = ToQString(text);
+    const QStringList lines = whole.split('\n');
+    const QString few = lines.size() <= kMostLines ? whole : lines.mid(0, kMostLines).join('\n') + "\n\u2026";
+    const QString shown = ShownText(text);
+    return few.size() < shown.size() ? few : shown;
+}
+
 QMessageBox::Icon MarkOf(int flags) {
     switch (flags & 0x70) {
         case kMarkCritical:
@@ -93,7 +111,9 @@ QStringList FiltersOf(const std::string& filter) {
     const std::vector<std::string_view> parts = SplitText(filter, '|');
     for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
         const std::string name(BeforeFirst(parts[i], " ("));
-        filters << ToQString(Concat(name, " (", ReplaceAll(parts[i + 1], ";", " "), ")"));
+        // A name without a dot is one of "all files" too.
+        const std::string patterns = ReplaceAll(ReplaceAll(parts[i + 1], ";", " "), "*.*", "*");
+        filters << ToQString(Concat(name, " (", patterns, ")"));
     }
     return filters;
 }
@@ -114,7 +134,7 @@ void SetUp(QFileDialog& shown, const FileDialog& dialog, const QString& lastFold
         shown.selectNameFilter(filters[std::clamp<qsizetype>(dialog.filterIndex - 1, 0, filters.size() - 1)]);
     }
     for (const QString& folder : {FolderOf(dialog.startFile), FolderOf(dialog.startFolder), lastFolder}) {
-        if (folder.isEmpty()) continue;
+        if (folder.isEmpty() || !QFileInfo(folder).isDir()) continue;
         shown.setDirectory(folder);
         break;
     }
@@ -128,16 +148,33 @@ std::string ChosenPath(QFileDialog& shown, QString& lastFolder) {
     return PathFromQString(shown.selectedFiles().front());
 }
 
+// A file is found without regard to case; the dialog asks only about one of exactly that name.
+bool MayReplace(QFileDialog& dialog, const std::string& path) {
+    const QFileInfo chosen(PathToQString(path));
+    const QStringList names = chosen.dir().entryList(QDir::Files | QDir::Hidden);
+    const auto other = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+        return name.compare(chosen.fileName(), Qt::CaseInsensitive) == 0;
+    });
+    if (other == names.end() || names.contains(chosen.fileName())) return true;
+    const QString question = QString("\"%1\" already exists.\nDo you want to replace it?").arg(*other);
+    return QMessageBox::warning(&dialog, dialog.windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+}
+
 }  // namespace
 
 MessageAnswer DesktopHost::ShowMessage(std::string_view text, int flags, std::string_view title,
                                        Form* owner) {
     if (TrimBlanks(text).empty()) return MessageAnswer::None;
     const DialogRound round(*this);
-    QMessageBox box(MarkOf(flags), ToQString(title), ToQString(text), ButtonsOf(flags), OwnerWindow(owner));
+    QMessageBox box(MarkOf(flags), ToQString(title), ShortMessage(text), ButtonsOf(flags),
+                    OwnerWindow(owner));
     box.setTextFormat(Qt::PlainText);
-    if ((flags & kDefaultSecondButton) != 0) box.setDefaultButton(QMessageBox::No);
-    return AnswerOf(box.exec());
+    if (box.text() != ToQString(text)) box.setDetailedText(ToQString(text));
+    box.setDefaultButton(DefaultOf(flags));
+    const MessageAnswer answer = AnswerOf(box.exec());
+    EndClosedLoop();
+    return answer;
 }
 
 void DesktopHost::ShowNotBuilt(std::string_view controlName) {
@@ -160,7 +197,10 @@ std::string DesktopHost::ShowSaveDialog(const FileDialog& dialog) {
     shown.setFileMode(QFileDialog::AnyFile);
     shown.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
     SetUp(shown, dialog, saveFolder_);
-    return ChosenPath(shown, saveFolder_);
+    std::string path = ChosenPath(shown, saveFolder_);
+    while (!path.empty() && dialog.overwritePrompt && !MayReplace(shown, path))
+        path = ChosenPath(shown, saveFolder_);
+    return path;
 }
 
 std::string DesktopHost::ShowFolderDialog(std::string_view title, const std::string& startFolder) {
@@ -180,6 +220,7 @@ std::optional<std::string> DesktopHost::InputBox(std::string_view prompt, std::s
     QInputDialog shown(OwnerWindow(nullptr));
     shown.setWindowTitle(ToQString(title));
     shown.setLabelText(ToQString(prompt));
+    if (auto* label = shown.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
     shown.setTextValue(ToQString(defaultText));
     if (shown.exec() != QDialog::Accepted) return std::nullopt;
     return FromQString(shown.textValue());
@@ -206,15 +247,22 @@ bool DesktopHost::ShowPrintDialog(std::string_view title) {
     return shown.exec() == QDialog::Accepted;
 }
 
-bool DesktopHost::Print(std::string_view text) {
-    if (printer_ == nullptr) return false;
-    if (!previewWanted_) return PrintText(text, *printer_);
+PrintOutcome DesktopHost::Print(std::string_view text) {
+    if (printer_ == nullptr) return PrintOutcome::Failed;
+    // Nothing else may use the printer meanwhile.
     const DialogRound round(*this);
+    if (!previewWanted_) {
+        const bool printed = PrintText(text, *printer_, [this] { ProcessEvents(); });
+        return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
+    }
     QPrintPreviewDialog shown(printer_.get(), OwnerWindow(nullptr));
     shown.setWindowTitle(printer_->docName());
+    // Asked for the pages that are looked at, and once more for those that are printed.
+    bool printed = true;
     QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
-                     [text](QPrinter* printer) { PrintText(text, *printer); });
-    return shown.exec() == QDialog::Accepted;
+                     [text, &printed](QPrinter* printer) { printed = PrintText(text, *printer, [] {}); });
+    if (shown.exec() != QDialog::Accepted) return PrintOutcome::GivenUp;
+    return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
 }
 
 bool DesktopHost::OpenDocument(const std::string& path, const std::string&) {

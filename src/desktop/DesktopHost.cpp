@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "desktop/FormWindow.h"
+#include "desktop/ScreenPlace.h"
 #include "shell/EventPump.h"
 
 namespace orlo {
@@ -23,7 +24,7 @@ void PlaceOverOwner(FormWindow& window) {
     if (owner == nullptr || window.Shown()->box.height >= 0) return;
     QRect place(QPoint(), window.sizeHint().expandedTo(window.minimumSize()));
     place.moveCenter(owner->frameGeometry().center());
-    window.setGeometry(place);
+    window.setGeometry(PlaceOnScreen(window, place, window.minimumSize()));
 }
 
 }  // namespace
@@ -80,8 +81,22 @@ void DesktopHost::Detach() {
     progress_ = nullptr;
 }
 
+void DesktopHost::TellFailure(const std::string& reason) {
+    if (pump_ == nullptr) return;
+    pump_->TellFailure(reason);
+    ScheduleDraw();
+}
+
 bool DesktopHost::Accepts(const Event& event) const {
     return pump_ != nullptr && pump_->Accepts(event);
+}
+
+bool DesktopHost::AskToClose(Form& form) {
+    if (pump_ == nullptr) return true;
+    if (pump_->OperationRuns() || pump_->Windows().TopModal() != nullptr) return false;
+    Event event{&form, nullptr, EventKind::Close};
+    DeliverNow(event);
+    return form.closeRequest;
 }
 
 void DesktopHost::Post(const Event& event) {
@@ -100,8 +115,12 @@ void DesktopHost::customEvent(QEvent* event) {
 }
 
 void DesktopHost::PumpRan() {
-    if (!loops_.empty() && loops_.back().form->closeRequest) loops_.back().loop->quit();
+    EndClosedLoop();
     ScheduleDraw();
+}
+
+void DesktopHost::EndClosedLoop() {
+    if (!loops_.empty() && loops_.back().form->closeRequest) loops_.back().loop->quit();
 }
 
 void DesktopHost::DeliverNow(Event& event) {
@@ -187,8 +206,8 @@ void DesktopHost::ShowForm(Form& form) {
 }
 
 void DesktopHost::Present(FormWindow& window) {
-    PlaceOverOwner(window);
     window.Draw();
+    PlaceOverOwner(window);
     window.show();
     window.activateWindow();
     window.TakeRequests();
@@ -211,6 +230,7 @@ void DesktopHost::UnloadForm(Form& form) {
     const std::vector<Form*>& modal = pump_->Windows().modal;
     if (std::find(modal.begin(), modal.end(), &form) != modal.end()) {
         form.closeRequest = true;
+        EndClosedLoop();
     } else {
         Shut(form);
     }
@@ -226,7 +246,9 @@ void DesktopHost::Shut(Form& form) {
     for (const FormWindow* other : others) {
         if (other->parentWidget() == window && other->Shown() != nullptr) Shut(*other->Shown());
     }
-    QWidget* owner = window->isActiveWindow() ? window->parentWidget() : nullptr;
+    // After a modal window even where the system has not said yet that it was the active one.
+    const bool active = window->isActiveWindow() || window->windowModality() != Qt::NonModal;
+    QWidget* owner = active ? window->parentWidget() : nullptr;
     window->Release();
     window->hide();
     // Not every system gives the focus back.
@@ -314,12 +336,18 @@ void DesktopHost::DrawWhenDue() {
 
 void DesktopHost::DrawAll() {
     if (drawing_) return;
+    struct Drawing {
+        DesktopHost& host;
+        ~Drawing() {
+            host.drawing_ = false;
+            host.lastDrawn_.start();
+        }
+    };
     drawing_ = true;
+    const Drawing drawing{*this};
     drawTimer_.stop();
     for (FormWindow* window : windows_) window->Draw();
     for (FormWindow* window : windows_) window->TakeRequests();
-    drawing_ = false;
-    lastDrawn_.start();
 }
 
 }  // namespace orlo

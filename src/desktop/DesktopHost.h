@@ -39,8 +39,15 @@ class DesktopHost : public QObject,
     // Closes all windows and lets go of the pump.
     void Detach();
 
+    // Says in the status bar that a part of the screen failed.
+    void TellFailure(const std::string& reason);
+
     // Runs events until the form's close request.
     void RunUntilClosed(Form& form);
+
+    // Lets the form close with its questions, as its close box does. False while something runs or another
+    // window has to be answered first, and where the user wants to stay.
+    bool AskToClose(Form& form);
 
     // EventSink
     bool Accepts(const Event& event) const override;
@@ -79,7 +86,7 @@ class DesktopHost : public QObject,
     std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                         std::string_view defaultText) override;
     bool ShowPrintDialog(std::string_view title) override;
-    bool Print(std::string_view text) override;
+    PrintOutcome Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   protected:
@@ -93,6 +100,7 @@ class DesktopHost : public QObject,
         QEventLoop* loop;
     };
     void PumpRan();
+    void EndClosedLoop();
     void FireTimer(const std::string& name);
     FormWindow* Find(const Form& form) const;
     FormWindow& Open(Form& form, QWidget* parent, Qt::WindowFlags flags);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/AppIcon.h"
+#include "desktop/ElidedLabel.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
@@ -75,8 +76,7 @@ void ProgressBarBinder::DrawContent() {
 }
 
 StatusBarBinder::StatusBarBinder(StatusBar& bar, QWidget& parent, EventSink& sink)
-    : Binder(bar, *new QLabel(&parent), sink), shown_(static_cast<QLabel&>(Widget())) {
-    shown_.setTextFormat(Qt::PlainText);
+    : Binder(bar, *new ElidedLabel(parent, Qt::ElideRight), sink), shown_(static_cast<QLabel&>(Widget())) {
     shown_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     // A long text must not widen the window.
     shown_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -84,7 +84,7 @@ StatusBarBinder::StatusBarBinder(StatusBar& bar, QWidget& parent, EventSink& sin
 
 void StatusBarBinder::DrawContent() {
     const auto& bar = static_cast<const StatusBar&>(Of());
-    if (text_.Changes(bar.text)) shown_.setText(ToQString(bar.text));
+    if (text_.Changes(bar.text)) shown_.setText(ShownText(bar.text));
 }
 
 }  // namespace orlo

@@ -36,6 +36,17 @@ class EdgeStyle : public QProxyStyle {
         const_cast<QStyleOption*>(option)->palette.setColor(QPalette::Window, kEdgeGround);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override {
+        switch (hint) {
+            case SH_ComboBox_Popup:    // as high as the screen, without a scroll bar
+            case SH_EtchDisabledText:  // a light shadow, which blurs on dark
+                return 0;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, result);
+        }
+    }
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "desktop/FormMenus.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <algorithm>
 
 #include "desktop/ScreenText.h"
@@ -28,12 +29,12 @@ void FormMenus::Add(MenuEntry& entry, bool hasEntries) {
         if (entry.separatorBefore && holder != bar_) static_cast<QMenu*>(holder)->addSeparator();
         holder->addAction(action);
     }
+    if (entry.radio) JoinGroup(entry, *action);
     if (menu == nullptr) {
         const QString keys =
             QString::fromUtf8(entry.shortcut.data(), static_cast<int>(entry.shortcut.size()));
         action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
-        QObject::connect(action, &QAction::triggered, &life_,
-                         [this, &entry, action] { Choose(entry, *action); });
+        QObject::connect(action, &QAction::triggered, &life_, [this, &entry] { Choose(entry); });
     }
     drawn_.push_back({&entry, action, menu, {}});
 }
@@ -46,14 +47,33 @@ QWidget* FormMenus::HolderOf(const MenuEntry& entry) {
     return bar_;
 }
 
+// A group gives its entries the round mark. The form alone says which of them is checked.
+void FormMenus::JoinGroup(const MenuEntry& entry, QAction& action) {
+    QActionGroup*& group = groups_[entry.parent];
+    if (group == nullptr) {
+        group = new QActionGroup(&window_);
+        group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    }
+    group->addAction(&action);
+}
+
+QMenu* FormMenus::MenuOfKey(const QKeySequence& key) const {
+    for (const Drawn& drawn : drawn_) {
+        const bool inBar = drawn.menu != nullptr && drawn.entry->parent == nullptr && !drawn.entry->popup;
+        if (inBar && drawn.action->isVisible() && QKeySequence::mnemonic(drawn.action->text()) == key)
+            return drawn.menu;
+    }
+    return nullptr;
+}
+
 QString FormMenus::CaptionOf(const MenuEntry& entry) {
     const QString caption = ToQString(entry.caption);
     return entry.plainCaption ? QString(caption).replace("&", "&&") : caption;
 }
 
-// The check mark follows what the procedure makes of the choice.
-void FormMenus::Choose(MenuEntry& entry, QAction& action) {
-    action.setChecked(entry.checked);
+// The check marks follow what the procedure makes of the choice.
+void FormMenus::Choose(MenuEntry& entry) {
+    Draw();
     sink_.Post({&entry.form, &entry, EventKind::Click});
 }
 

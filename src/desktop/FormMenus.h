@@ -2,12 +2,15 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "desktop/EventSink.h"
 #include "forms/Form.h"
+
+class QActionGroup;
 
 namespace orlo {
 
@@ -21,6 +24,8 @@ class FormMenus {
     // Null where the form has no menu but pop-ups.
     QMenuBar* Bar() const { return bar_; }
     void Draw();
+    // The menu of the bar that such a key opens, for example Alt+F; null for none.
+    QMenu* MenuOfKey(const QKeySequence& key) const;
     // Opens a pop-up menu at a place of the screen; does not wait for a choice.
     void Open(const MenuEntry& root, const QPoint& place);
 
@@ -33,7 +38,8 @@ class FormMenus {
     };
     void Add(MenuEntry& entry, bool hasEntries);
     QWidget* HolderOf(const MenuEntry& entry);
-    void Choose(MenuEntry& entry, QAction& action);
+    void JoinGroup(const MenuEntry& entry, QAction& action);
+    void Choose(MenuEntry& entry);
     static void DrawEntry(Drawn& drawn);
     static QString CaptionOf(const MenuEntry& entry);
 
@@ -41,6 +47,7 @@ class FormMenus {
     EventSink& sink_;
     QMenuBar* bar_ = nullptr;
     std::vector<Drawn> drawn_;
+    std::map<const Control*, QActionGroup*> groups_;  // by the menu that holds the entries
     QObject life_;
 };
 

@@ -12,22 +12,16 @@
 #include "desktop/Binders.h"
 #include "desktop/FormLayout.h"
 #include "desktop/LabelBinder.h"
+#include "desktop/ScreenPlace.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
 namespace {
 
+const QSize kLargestWindow(10000, 10000);
+
 bool SameBox(const WindowBox& a, const WindowBox& b) {
     return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height;
-}
-
-// Whether the user could take hold of a window there: a screen of another day may be gone.
-bool OnAScreen(const WindowBox& box) {
-    constexpr int kTitleHeight = 24;
-    const QRect top(box.left, box.top, box.width, kTitleHeight);
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(),
-                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(top); });
 }
 
 }  // namespace
@@ -124,6 +118,7 @@ void FormWindow::DrawFrame() {
         } else {
             unsetCursor();
         }
+        for (const auto& binder : binders_) binder->DrawPointer(form_->pointer);
     }
     if (isWindow()) DrawPlace();
 }
@@ -131,18 +126,19 @@ void FormWindow::DrawFrame() {
 void FormWindow::DrawPlace() {
     const QScopedValueRollback<bool> placing(placing_, true);
     const bool hasBox = form_->box.height >= 0;
-    if (form_->centreRequest || (hasBox && !isVisible() && !OnAScreen(form_->box))) {
+    const QRect asked(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
+    if (form_->centreRequest || (hasBox && !isVisible() && !TitleBarReachable(*this, asked))) {
         form_->centreRequest = false;
-        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-        const QSize asked = hasBox ? QSize(form_->box.width, form_->box.height) : size();
-        QRect place(QPoint(), asked.expandedTo(minimumSizeHint()));
-        place.moveCenter(room.center());
+        const QSize size = hasBox ? asked.size() : this->size();
+        QRect place(QPoint(), size.boundedTo(kLargestWindow));
+        place.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+        place = PlaceOnScreen(*this, place, minimumSizeHint().expandedTo(LeastSize()));
         setGeometry(place);
         form_->box = {place.x(), place.y(), place.width(), place.height()};
     } else if (hasBox && !SameBox(form_->box, drawnBox_)) {
-        setGeometry(form_->box.left, form_->box.top, form_->box.width, form_->box.height);
+        setGeometry(asked);
     }
-    const QSize least(form_->leastWidth, form_->leastHeight);
+    const QSize least = LeastSize();
     if (!form_->limits && !least.isEmpty()) setMinimumSize(least);
     if (form_->limits) {
         setMinimumSize(QSize(form_->limits->minimumWidth, form_->limits->minimumHeight).expandedTo(least));
@@ -158,6 +154,10 @@ void FormWindow::DrawPlace() {
     }
     drawnState_ = form_->windowState;
     drawnBox_ = form_->box;
+}
+
+QSize FormWindow::LeastSize() const {
+    return QSize(form_->leastWidth, form_->leastHeight);
 }
 
 // The place that the window has when it is neither minimised nor maximised.

@@ -48,6 +48,7 @@ class FormWindow : public QWidget {
     void DrawFrame();
     void DrawPlace();
     void NotePlace();
+    QSize LeastSize() const;
 
     Form* form_;
     EventSink& sink_;

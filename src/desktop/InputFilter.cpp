@@ -1,5 +1,6 @@
 #include "desktop/InputFilter.h"
 
+#include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -10,6 +11,8 @@
 #include <QToolTip>
 #include <QUrl>
 #include <QWindow>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
@@ -57,6 +60,22 @@ bool TakesEnter(const Control* control) {
     if (control == nullptr || control->kind != ControlKind::TextBox) return false;
     const auto& box = static_cast<const TextBox&>(*control);
     return box.style != TextBoxStyle::SingleLine && !box.readOnly;
+}
+
+// How many tabs further such keys go, back where negative; 0 for any other.
+int TabSteps(const QKeyEvent& event) {
+    if (!event.modifiers().testFlag(Qt::ControlModifier) || event.modifiers().testFlag(Qt::AltModifier))
+        return 0;
+    switch (event.key()) {
+        case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+            return 1;
+        case Qt::Key_PageUp:
+        case Qt::Key_Backtab:
+            return -1;
+        default:
+            return 0;
+    }
 }
 
 EventKey KeyOf(const QKeyEvent& event) {
@@ -115,11 +134,12 @@ bool InputFilter::eventFilter(QObject* object, QEvent* event) {
             KeyReleased(*window, object, *static_cast<QKeyEvent*>(event));
             return false;
         case QEvent::Shortcut:
-            return Shortcut(*window, object);
+            return Shortcut(*window, object, *static_cast<QShortcutEvent*>(event));
         case QEvent::Wheel:
             return Wheel(*window, object);
         case QEvent::ContextMenu:
-            return Popup(*window, object, *static_cast<QContextMenuEvent*>(event));
+            return Popup(*window, qobject_cast<QWidget*>(object),
+                         static_cast<QContextMenuEvent*>(event)->globalPos());
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop:
@@ -178,7 +198,12 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
         return true;
     }
     const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    pressedKey_ = others == Qt::NoModifier && !shift ? event.key() : 0;
+    if (const int steps = TabSteps(event)) return TurnTab(window, steps);
     if (others != Qt::NoModifier) return false;
+    if (shift && event.key() == Qt::Key_F10) return PopupOfCurrent(window);
+    if (shift && event.key() == Qt::Key_F1) return TipOfCurrent(window);
     switch (event.key()) {
         case Qt::Key_F1:
             host_.Post({&form, nullptr, EventKind::Help});
@@ -189,6 +214,7 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter: {
             if (TakesEnter(control)) return false;
+            if (event.isAutoRepeat()) return true;  // a key held down is one click
             Button* button = control != nullptr && control->kind == ControlKind::Button
                                  ? static_cast<Button*>(control)
                                  : form.defaultButton;
@@ -198,6 +224,7 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
         }
         case Qt::Key_Escape:
             if (!Clickable(form.cancelButton)) return false;
+            if (event.isAutoRepeat()) return true;
             host_.Post({&form, form.cancelButton, EventKind::Click});
             return true;
         default:
@@ -207,6 +234,8 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
 
 void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& event) {
     if (object != window.focusWidget() || event.isAutoRepeat()) return;
+    const bool pressedHere = event.key() == std::exchange(pressedKey_, 0);
+    if (!pressedHere) return;
     Control* control = window.FocusControl();
     if (control == nullptr) return;
     const EventKey key = KeyOf(event);
@@ -226,10 +255,15 @@ bool InputFilter::DragFile(FormWindow& window, QDropEvent& event) {
 }
 
 // A mnemonic moves the focus too; those of menus go to their actions, which are no widgets.
-bool InputFilter::Shortcut(FormWindow& window, QObject* object) {
+bool InputFilter::Shortcut(FormWindow& window, QObject* object, const QShortcutEvent& event) {
     auto* widget = qobject_cast<QWidget*>(object);
     const Binder* binder = window.BinderOf(widget);
     if (binder == nullptr) return false;
+    // Where the menu bar and a pane have one mnemonic, it is the menu's.
+    if (QMenu* menu = event.isAmbiguous() ? window.Menus().MenuOfKey(event.key()) : nullptr) {
+        window.Menus().Bar()->setActiveAction(menu->menuAction());
+        return true;
+    }
     const Control* to = &binder->Of();
     if (to->kind == ControlKind::Label) {
         const auto& controls = to->form.Controls();
@@ -252,15 +286,47 @@ bool InputFilter::Wheel(FormWindow& window, QObject* object) {
     return control.kind == ControlKind::ComboBox && &control != window.FocusControl();
 }
 
-bool InputFilter::Popup(FormWindow& window, QObject* object, QContextMenuEvent& event) {
-    const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));
+bool InputFilter::Popup(FormWindow& window, const QWidget* widget, const QPoint& place) {
+    const Binder* binder = window.BinderOf(widget);
     if (binder == nullptr) return false;
     Control& control = binder->Of();
     if (control.kind != ControlKind::ListView && control.kind != ControlKind::TreeView) return false;
     Event popup{&control.form, &control, EventKind::Popup};
     host_.DeliverNow(popup);
-    if (popup.menu != nullptr && window.Shown() != nullptr)
-        window.Menus().Open(*popup.menu, event.globalPos());
+    if (popup.menu != nullptr && window.Shown() != nullptr) window.Menus().Open(*popup.menu, place);
+    return true;
+}
+
+bool InputFilter::PopupOfCurrent(FormWindow& window) {
+    const auto* view = qobject_cast<QAbstractItemView*>(window.focusWidget());
+    if (view == nullptr) return false;
+    const QRect row = view->visualRect(view->currentIndex());
+    return Popup(window, view, view->viewport()->mapToGlobal(row.center()));
+}
+
+bool InputFilter::TurnTab(FormWindow& window, int steps) {
+    const auto& controls = window.Shown()->Controls();
+    const auto found = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+        return control->kind == ControlKind::TabStrip && control->EffectivelyVisible();
+    });
+    if (found == controls.end()) return false;
+    auto& tabs = static_cast<TabStrip&>(**found);
+    const auto shown = std::find_if(tabs.pages.begin(), tabs.pages.end(),
+                                    [&](const auto& page) { return page.key == tabs.selectedKey; });
+    const auto count = static_cast<std::ptrdiff_t>(tabs.pages.size());
+    if (shown == tabs.pages.end() || !Leaves(window, &tabs)) return true;
+    const std::ptrdiff_t next = (shown - tabs.pages.begin() + steps + count) % count;
+    tabs.selectedKey = tabs.pages[static_cast<std::size_t>(next)].key;
+    host_.Post({&tabs.form, &tabs, EventKind::SelectTab});
+    return true;
+}
+
+bool InputFilter::TipOfCurrent(FormWindow& window) {
+    auto* view = qobject_cast<QAbstractItemView*>(window.focusWidget());
+    if (view == nullptr || !view->currentIndex().isValid()) return false;
+    const QPoint place = view->visualRect(view->currentIndex()).center();
+    QHelpEvent event(QEvent::ToolTip, place, view->viewport()->mapToGlobal(place));
+    if (!Hover(window, view->viewport(), event)) QCoreApplication::sendEvent(view->viewport(), &event);
     return true;
 }
 
@@ -269,12 +335,15 @@ bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) 
     const Binder* binder = window.BinderOf(widget);
     if (binder == nullptr) return false;
     Control& control = binder->Of();
-    Event hover{&control.form, &control, EventKind::Hover, binder->HoverValue(event.pos())};
+    // The scroll bars and headers of a view have no row under the pointer.
+    const auto* area = qobject_cast<QAbstractScrollArea*>(&binder->Widget());
+    const bool onContent = area == nullptr || area->viewport() == widget;
+    Event hover{&control.form, &control, EventKind::Hover, onContent ? binder->HoverValue(event.pos()) : -1};
     host_.DeliverNow(hover);
     if (window.Shown() == nullptr) return true;
     // The rows of a list have tips of their own.
     if (control.kind == ControlKind::ListView) return false;
-    QToolTip::showText(event.globalPos(), ToQString(control.toolTip), widget);
+    QToolTip::showText(event.globalPos(), TipText(control.toolTip), widget);
     return true;
 }
 

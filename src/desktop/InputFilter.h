@@ -5,6 +5,9 @@
 class QContextMenuEvent;
 class QDropEvent;
 class QHelpEvent;
+class QPoint;
+class QShortcutEvent;
+class QWidget;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -29,17 +32,23 @@ class InputFilter : public QObject {
     bool Release(QMouseEvent& event);
     bool Key(FormWindow& window, QObject* object, QKeyEvent& event);
     void KeyReleased(FormWindow& window, QObject* object, QKeyEvent& event);
-    bool Shortcut(FormWindow& window, QObject* object);
+    bool Shortcut(FormWindow& window, QObject* object, const QShortcutEvent& event);
     static bool Wheel(FormWindow& window, QObject* object);
-    bool Popup(FormWindow& window, QObject* object, QContextMenuEvent& event);
+    bool Popup(FormWindow& window, const QWidget* widget, const QPoint& place);
     bool DragFile(FormWindow& window, QDropEvent& event);
     bool Hover(FormWindow& window, QObject* object, QHelpEvent& event);
+    // The pop-up and the tip of a list's or tree's current row, for the keyboard.
+    bool PopupOfCurrent(FormWindow& window);
+    // Shows the tab `steps` behind the current one, round and round. False where the form has no tabs.
+    bool TurnTab(FormWindow& window, int steps);
+    bool TipOfCurrent(FormWindow& window);
     void FocusIn(FormWindow& window, QObject* object);
     // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.
     bool Leaves(FormWindow& window, const Control* to);
 
     DesktopHost& host_;
     int swallowedButton_ = 0;  // whose release follows a press that was dropped
+    int pressedKey_ = 0;       // the last key pressed here without another held
 };
 
 }  // namespace orlo

@@ -10,8 +10,8 @@ class LabelBinder : public Binder {
   public:
     LabelBinder(Label& label, QWidget& parent, EventSink& sink);
 
-    // The widget that the label's mnemonic goes to.
-    void SetBuddy(QWidget& widget) { shown_.setBuddy(&widget); }
+    // The widget that the label names. Its mnemonic goes there, where the widget takes the focus.
+    void SetBuddy(QWidget& widget);
 
   protected:
     void DrawContent() override;
@@ -19,6 +19,7 @@ class LabelBinder : public Binder {
   private:
     Label& label_;
     QLabel& shown_;
+    QWidget* named_ = nullptr;  // what doesn't take its name from its label by itself
     DrawnText caption_;
 };
 

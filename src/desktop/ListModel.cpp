@@ -36,13 +36,13 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     const std::int32_t place = list_.PlaceAt(index.row());
     switch (role) {
         case Qt::DisplayRole:
-            return ToQString(list_.Text(place, index.column()));
+            return ShownText(list_.Text(place, index.column()));
         case Qt::ForegroundRole:
             if (const auto colour = ScreenColour(list_.RowColour(place))) return QBrush(*colour);
             return QVariant();
         case Qt::ToolTipRole: {
             const std::string tip = list_.ToolTip(place);
-            return tip.empty() ? QVariant() : QVariant(ToQString(tip));
+            return tip.empty() ? QVariant() : QVariant(TipText(tip));
         }
         default:
             return QVariant();

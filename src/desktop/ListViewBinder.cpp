@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -23,7 +25,8 @@ constexpr int kLeastWidth = 70;
 constexpr int kRowRoom = 4;
 constexpr int kCellRoom = 12;
 constexpr int kMostCharacters = 30;
-constexpr std::int32_t kRowsMeasured = 100;
+constexpr std::int32_t kRowsMeasured = 200;
+constexpr int kSortKey = Qt::Key_F3;  // as a click on the header of the current cell's column
 
 // Paints a row as selected where the form says so.
 class RowDelegate : public QStyledItemDelegate {
@@ -35,6 +38,19 @@ class RowDelegate : public QStyledItemDelegate {
         QStyledItemDelegate::initStyleOption(option, index);
         const bool selected = index.row() < list_.Count() && list_.Selected(list_.PlaceAt(index.row()));
         option->state.setFlag(QStyle::State_Selected, selected);
+    }
+
+    // The row that keys act on has a line above and below while the list has the focus.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+        if (view == nullptr || !view->hasFocus() || view->currentIndex().row() != index.row()) return;
+        const bool selected = list_.Selected(list_.PlaceAt(index.row()));
+        painter->setPen(QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text), 1,
+                             Qt::DotLine));
+        painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     }
 
   private:
@@ -57,8 +73,26 @@ class ListTable : public QTableView {
     }
 
   protected:
+    // Keys move by whole rows.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
+        const int rows = model() == nullptr ? 0 : model()->rowCount();
+        if (rows == 0 || (action != MoveHome && action != MoveEnd))
+            return QTableView::moveCursor(action, modifiers);
+        return model()->index(action == MoveHome ? 0 : rows - 1, std::max(0, currentIndex().column()));
+    }
+
+    // A double click of another button does nothing.
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) QTableView::mouseDoubleClickEvent(event);
+    }
+
     // The toolkit's own copy takes one cell.
     void keyPressEvent(QKeyEvent* event) override {
+        const bool plain = event->modifiers() == Qt::NoModifier;
+        if (plain && event->key() == kSortKey && currentIndex().isValid()) {
+            Q_EMIT horizontalHeader()->sectionClicked(currentIndex().column());
+            return;
+        }
         if (!event->matches(QKeySequence::Copy)) return QTableView::keyPressEvent(event);
         const std::string text = list_.SelectedText();
         if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdString(text));
@@ -163,6 +197,7 @@ void ListViewBinder::DrawRows() {
     if (drawnContent_ == list_.contentRevision && drawnOrder_ == list_.orderRevision) return;
     if (model_.SameSize() && drawnOrder_ == list_.orderRevision) {
         model_.ContentChanged();
+        if (list_.Count() <= kRowsMeasured) FitColumns(Fit::Grow);
     } else {
         const int top = shown_.verticalScrollBar()->value();
         model_.Reset();
@@ -174,8 +209,8 @@ void ListViewBinder::DrawRows() {
     drawnOrder_ = list_.orderRevision;
 }
 
-// A column is as wide as the user made it, else as its caption and its first rows need.
-void ListViewBinder::FitColumns() {
+// A column is as wide as the user made it, else as its caption and some of its rows need.
+void ListViewBinder::FitColumns(Fit fit) {
     const QFontMetrics headerMetrics(shown_.horizontalHeader()->font());
     const QFontMetrics metrics(shown_.font());
     const int most = kMostCharacters * metrics.averageCharWidth();
@@ -186,10 +221,17 @@ void ListViewBinder::FitColumns() {
         int needed = std::max(
             kLeastWidth, headerMetrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom);
         for (std::int32_t row = 0; row < rows; ++row) {
-            const int text = metrics.horizontalAdvance(ToQString(list_.Text(list_.PlaceAt(row), column)));
+            // Spread over the list: sorting puts empty texts in front.
+            const auto position = static_cast<std::int32_t>(std::int64_t{row} * list_.Count() / rows);
+            const int text =
+                metrics.horizontalAdvance(ShownText(list_.Text(list_.PlaceAt(position), column)));
             needed = std::max(needed, std::min(text, most) + kCellRoom);
         }
-        shown_.setColumnWidth(column, kept != list_.columnWidths.end() ? kept->second : needed);
+        if (kept != list_.columnWidths.end()) {
+            shown_.setColumnWidth(column, kept->second);
+        } else if (fit == Fit::Anew || needed > shown_.columnWidth(column)) {
+            shown_.setColumnWidth(column, needed);
+        }
     }
 }
 
@@ -200,7 +242,7 @@ void ListViewBinder::DrawHeader() {
     if (keys != drawnKeys_ || firstRows) {
         drawnKeys_ = keys;
         fittedToRows_ = list_.Count() > 0;
-        FitColumns();
+        FitColumns(Fit::Anew);
     }
     QHeaderView& header = *shown_.horizontalHeader();
     const Qt::SortOrder order = list_.ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
@@ -269,6 +311,7 @@ void ListViewBinder::UserMoves(const QModelIndex& index) {
     if (!Takes(EventKind::SelectRow) || !model_.SameSize()) return GoBack();
     list_.current = index.isValid() ? list_.PlaceAt(index.row()) : -1;
     drawnCurrent_ = list_.current;
+    shown_.viewport()->update();
     AnnounceSelection();
 }
 

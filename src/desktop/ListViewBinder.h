@@ -28,7 +28,8 @@ class ListViewBinder : public Binder {
     void Connect();
     void DrawRows();
     void DrawHeader();
-    void FitColumns();
+    enum class Fit { Anew, Grow };
+    void FitColumns(Fit fit);
     void DrawSelection();
     void DrawCurrent();
     void UserSelects(const QItemSelection& selected, const QItemSelection& deselected);

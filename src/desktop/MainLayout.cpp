@@ -253,7 +253,10 @@ void DesignMainForm(MainForm& form) {
     form.leastHeight = least.height();
     form.innerWidth = inner.width();
     form.innerHeight = inner.height();
-    form.box = {0, 0, inner.width(), inner.height()};
+    QRect place(QPoint(), inner);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        place.moveCenter(screen->availableGeometry().center());
+    form.box = {place.x(), place.y(), place.width(), place.height()};
 }
 
 }  // namespace orlo

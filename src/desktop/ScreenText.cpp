@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QTextDocument>
 
 #include "core/Text.h"
 
@@ -11,6 +12,11 @@ namespace orlo {
 namespace {
 
 constexpr int kDarkBelow = 128;
+constexpr std::size_t kMostShown = 1000;  // bytes
+
+bool GoesOn(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
 
 }  // namespace
 
@@ -20,6 +26,20 @@ QString ToQString(std::string_view text) {
 
 std::string FromQString(const QString& text) {
     return FromScreen(text.toStdString());
+}
+
+QString ShownText(std::string_view text) {
+    if (text.size() <= kMostShown) return ToQString(text);
+    std::size_t end = kMostShown;
+    // Not within a character of several bytes, of which there are four at most.
+    while (end > kMostShown - 4 && GoesOn(text[end])) --end;
+    return ToQString(text.substr(0, end)) + QChar(0x2026);
+}
+
+QString TipText(std::string_view text) {
+    const QString tip = ShownText(text);
+    if (!Qt::mightBeRichText(tip)) return tip;
+    return "<span>" + tip.toHtmlEscaped().replace('\n', "<br>") + "</span>";
 }
 
 QString PathToQString(const std::string& path) {

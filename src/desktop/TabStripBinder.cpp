@@ -15,6 +15,10 @@ TabStripBinder::TabStripBinder(TabStrip& tabs, QWidget& parent, EventSink& sink)
         UserActs(EventKind::SelectTab,
                  [&] { tabs_.selectedKey = tabs_.pages[static_cast<std::size_t>(index)].key; });
     });
+    // A click on the tab that is shown gives the focus again. Told before the strip changes tabs.
+    QObject::connect(&shown_, &QTabBar::tabBarClicked, &life, [this](int index) {
+        if (index >= 0 && index == shown_.currentIndex()) UserActs(EventKind::SelectTab, [] {});
+    });
 }
 
 void TabStripBinder::DrawContent() {

@@ -1,6 +1,7 @@
 #include "desktop/TextBoxBinder.h"
 
 #include <QFontDatabase>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <algorithm>
@@ -9,11 +10,19 @@
 #include "desktop/ScreenText.h"
 
 namespace orlo {
+namespace {
+
+Qt::CursorShape FieldCursor(PointerShape shape) {
+    return shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::IBeamCursor;
+}
+
+}  // namespace
 
 LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
     : Binder(box, *new QLineEdit(&parent), sink), box_(box), shown_(static_cast<QLineEdit&>(Widget())) {
-    // Not `textChanged`, which a drawing causes too.
-    QObject::connect(&shown_, &QLineEdit::textEdited, &life, [this](const QString& text) {
+    // Not `textEdited`, which leaves out what a screen reader writes.
+    QObject::connect(&shown_, &QLineEdit::textChanged, &life, [this](const QString& text) {
+        if (drawing_) return;
         UserActs(EventKind::Change, [&] {
             box_.text = FromQString(text);
             text_.Changes(box_.text);
@@ -22,9 +31,15 @@ LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
 }
 
 void LineBinder::DrawContent() {
-    if (shown_.isReadOnly() != box_.readOnly) shown_.setReadOnly(box_.readOnly);
+    // A field that can't show the whole text would cut it.
+    const bool readOnly = box_.readOnly || box_.text.size() > static_cast<std::size_t>(shown_.maxLength());
+    if (shown_.isReadOnly() != readOnly) shown_.setReadOnly(readOnly);
     // What the user typed stands in the widget already, so that a drawing never touches it.
     if (text_.Changes(box_.text)) ShowText();
+}
+
+void LineBinder::DrawPointer(PointerShape shape) {
+    shown_.setCursor(FieldCursor(shape));
 }
 
 void LineBinder::GoBack() {
@@ -33,6 +48,7 @@ void LineBinder::GoBack() {
 
 // The cursor stays where it was.
 void LineBinder::ShowText() {
+    const QScopedValueRollback<bool> drawing(drawing_, true);
     const int cursor = shown_.cursorPosition();
     shown_.setText(ToQString(box_.text));
     shown_.setCursorPosition(std::min(cursor, static_cast<int>(shown_.text().size())));
@@ -41,7 +57,8 @@ void LineBinder::ShowText() {
 void LineBinder::TakeRequests() {
     if (!box_.selectAllRequest) return;
     box_.selectAllRequest = false;
-    shown_.selectAll();
+    // A selection is seen where the focus is; the Tab key selects all by itself.
+    if (shown_.window()->focusWidget() == &shown_) shown_.selectAll();
 }
 
 TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
@@ -64,6 +81,10 @@ TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
 void TextBinder::DrawContent() {
     if (shown_.isReadOnly() != box_.readOnly) shown_.setReadOnly(box_.readOnly);
     if (text_.Changes(box_.text)) ShowText();
+}
+
+void TextBinder::DrawPointer(PointerShape shape) {
+    shown_.viewport()->setCursor(FieldCursor(shape));
 }
 
 void TextBinder::GoBack() {

@@ -12,6 +12,7 @@ class LineBinder : public Binder {
   public:
     LineBinder(TextBox& box, QWidget& parent, EventSink& sink);
     void TakeRequests() override;
+    void DrawPointer(PointerShape shape) override;
 
   protected:
     void DrawContent() override;
@@ -23,6 +24,7 @@ class LineBinder : public Binder {
     TextBox& box_;
     QLineEdit& shown_;
     DrawnText text_;
+    bool drawing_ = false;
 };
 
 // A text box of many lines, whose ends are CR LF in the form.
@@ -30,6 +32,7 @@ class TextBinder : public Binder {
   public:
     TextBinder(TextBox& box, QWidget& parent, EventSink& sink);
     void TakeRequests() override;
+    void DrawPointer(PointerShape shape) override;
 
   protected:
     void DrawContent() override;

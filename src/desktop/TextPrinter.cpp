@@ -1,5 +1,7 @@
 #include "desktop/TextPrinter.h"
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -16,19 +18,36 @@ namespace {
 constexpr int kFontPoints = 10;
 constexpr int kTabColumns = 8;
 constexpr double kMarginMillimetres = 15;
+constexpr qsizetype kLongestPiece = 4000;
+constexpr qint64 kMostMilliseconds = 40;
 
 QFont PrintFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setFamilies(QStringList("Courier New") + font.families());
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     font.setPointSize(kFontPoints);
     return font;
 }
 
-QTextOption PrintOption(double columnWidth) {
+// How far the first tab of a line really goes.
+double FirstTab(const QFont& font, QPrinter& printer, const QTextOption& option) {
+    QTextLayout layout("\t.", font, &printer);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    return line.cursorToX(1);
+}
+
+// A layout may scale the distance of its tabs from a screen's to that of the paper, or not.
+QTextOption PrintOption(const QFont& font, QPrinter& printer, double columnWidth) {
+    const double wanted = kTabColumns * columnWidth;
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(kTabColumns * columnWidth);
+    option.setTabStopDistance(wanted);
+    const double real = FirstTab(font, printer, option);
+    if (real > 0) option.setTabStopDistance(wanted * wanted / real);
     return option;
 }
 
@@ -40,7 +59,7 @@ class PageWriter {
           painter_(&printer),
           font_(PrintFont()),
           metrics_(font_, &printer),
-          option_(PrintOption(metrics_.horizontalAdvance(QChar(' ')))),
+          option_(PrintOption(font_, printer, metrics_.horizontalAdvance(QChar(' ')))),
           page_(printer.pageLayout().paintRectPixels(printer.resolution()).size()) {}
 
     bool IsOpen() const { return painter_.isActive(); }
@@ -76,6 +95,21 @@ class PageWriter {
     double top_ = 0;
 };
 
+// The time to lay out a line grows with the square of its length.
+void WritePieces(PageWriter& pages, const QString& line) {
+    pages.Write(line.left(kLongestPiece));
+    for (qsizetype at = kLongestPiece; at < line.size(); at += kLongestPiece)
+        pages.Write(line.mid(at, kLongestPiece));
+}
+
+// The toolkit doesn't tell that a disk was full.
+bool EndsAsPdf(const QString& path) {
+    constexpr qint64 kTail = 32;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(std::max<qint64>(0, file.size() - kTail))) return false;
+    return file.read(kTail).contains("%%EOF");
+}
+
 }  // namespace
 
 std::unique_ptr<QPrinter> MakeTextPrinter() {
@@ -85,15 +119,22 @@ std::unique_ptr<QPrinter> MakeTextPrinter() {
     return printer;
 }
 
-bool PrintText(std::string_view text, QPrinter& printer) {
-    PageWriter pages(printer);
-    if (!pages.IsOpen()) return false;
-    while (!text.empty()) {
-        const std::string_view line = BeforeFirst(text, "\n");
-        pages.Write(ToQString(RemoveAll(line, '\r')));
-        text.remove_prefix(std::min(text.size(), line.size() + 1));
+bool PrintText(std::string_view text, QPrinter& printer, const std::function<void()>& betweenLines) {
+    {
+        PageWriter pages(printer);
+        if (!pages.IsOpen()) return false;
+        QElapsedTimer sinceCall;
+        sinceCall.start();
+        while (!text.empty()) {
+            const std::string_view line = BeforeFirst(text, "\n");
+            WritePieces(pages, ToQString(RemoveAll(line, '\r')));
+            text.remove_prefix(std::min(text.size(), line.size() + 1));
+            if (sinceCall.elapsed() < kMostMilliseconds) continue;
+            betweenLines();
+            sinceCall.start();
+        }
     }
-    return true;
+    return printer.outputFileName().isEmpty() || EndsAsPdf(printer.outputFileName());
 }
 
 }  // namespace orlo

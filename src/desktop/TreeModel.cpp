@@ -70,7 +70,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     if (node == nullptr) return QVariant();
     switch (role) {
         case Qt::DisplayRole:
-            return ToQString(node->text);
+            return ShownText(node->text);
         case Qt::ForegroundRole:
             if (const auto colour = ScreenColour(node->colour)) return QBrush(*colour);
             return QVariant();

@@ -1,7 +1,10 @@
 #include "desktop/TreeViewBinder.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -20,10 +23,33 @@ class NodeDelegate : public QStyledItemDelegate {
     }
 };
 
+// A blank turns the check mark, but is a part of the name while one is being typed.
+class NodeTree : public QTreeView {
+  public:
+    using QTreeView::QTreeView;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool typing = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+        const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+        const QString text = event->text();
+        if (plain && typing && event->key() == Qt::Key_Space) {
+            keyboardSearch(text);
+            typed_.start();
+            return;
+        }
+        if (plain && !text.isEmpty() && text.front().isPrint() && !text.front().isSpace()) typed_.start();
+        QTreeView::keyPressEvent(event);
+    }
+
+  private:
+    QElapsedTimer typed_;  // since the last character of a name
+};
+
 }  // namespace
 
 TreeViewBinder::TreeViewBinder(TreeView& tree, QWidget& parent, EventSink& sink)
-    : Binder(tree, *new QTreeView(&parent), sink),
+    : Binder(tree, *new NodeTree(&parent), sink),
       tree_(tree),
       shown_(static_cast<QTreeView&>(Widget())),
       model_(tree, [this](std::int32_t node) {

@@ -1,13 +1,14 @@
 // The desktop program: makes the services of this system and shows the main window until it is closed.
 
-#include <QApplication>
 #include <QMessageBox>
+#include <QSessionManager>
 #include <exception>
 #include <memory_resource>
 
 #include "core/Application.h"
 #include "core/Version.h"
 #include "desktop/AppIcon.h"
+#include "desktop/DesktopApplication.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/EdgeStyle.h"
 #include "desktop/MainLayout.h"
@@ -25,26 +26,31 @@ constexpr int kStartUpFailed = 1;
 // The windows go before the forms that they show.
 class AttachedHost {
   public:
-    AttachedHost(DesktopHost& host, Program& program) : host_(host) {
+    AttachedHost(DesktopApplication& application, DesktopHost& host, Program& program)
+        : application_(application), host_(host) {
         host_.Attach(program.pump, program.forms.frmProgress);
+        application_.onFailure = [&host](const std::string& reason) { host.TellFailure(reason); };
     }
     AttachedHost(const AttachedHost&) = delete;
     AttachedHost& operator=(const AttachedHost&) = delete;
-    ~AttachedHost() { host_.Detach(); }
+    ~AttachedHost() {
+        application_.onFailure = nullptr;
+        host_.Detach();
+    }
 
   private:
+    DesktopApplication& application_;
     DesktopHost& host_;
 };
 
 void NameApplication() {
     QCoreApplication::setApplicationName(ToQString(kApplicationTitle));
     QCoreApplication::setApplicationVersion(kVersionText);
-    QGuiApplication::setApplicationDisplayName(ToQString(kApplicationTitle));
     QGuiApplication::setDesktopFileName("orlo");
     QApplication::setWindowIcon(ApplicationIcon());
 }
 
-int RunDesktop() {
+int RunDesktop(DesktopApplication& application) {
     const auto files = MakeFileSystem();
     const auto userSettings = MakeUserSettings(*files, std::nullopt);
     const auto machineSettings = MakeMachineSettings(*files, std::string());
@@ -54,9 +60,15 @@ int RunDesktop() {
     Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
 
     Program program(services, FindProgramFolder(*files));
-    const AttachedHost attached(host, program);
+    const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
+    // The end of the user's session waits for the questions about what isn't saved.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &host, [&](QSessionManager& manager) {
+        if (program.forms.frmMain.closeRequest || !manager.allowsInteraction()) return;
+        if (!host.AskToClose(program.forms.frmMain)) manager.cancel();
+        manager.release();
+    });
     host.RunUntilClosed(program.forms.frmMain);
     return 0;
 }
@@ -68,11 +80,11 @@ int main(int count, char** words) {
     std::pmr::set_default_resource(&orlo::ListMemory());
     // Texts keep their size on screens that are scaled by a fraction.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(count, words);
+    orlo::DesktopApplication application(count, words);
     orlo::NameApplication();
     orlo::UseVisibleEdges();
     try {
-        return orlo::RunDesktop();
+        return orlo::RunDesktop(application);
     } catch (const std::exception& failure) {
         QMessageBox::critical(nullptr, orlo::ToQString(orlo::kApplicationTitle), failure.what());
         return orlo::kStartUpFailed;

@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "editors/FlightEditTimes.h"
+#include "mainwindow/BulkOperation.h"
 #include "mainwindow/PrintedLeg.h"
 
 namespace orlo {
@@ -24,7 +25,9 @@ std::string PrintedFlight(const FlightEditForm& form, const Session& session) {
 void PrintFlightEdit(Context& context) {
     WindowHost& windows = context.services.windows;
     if (!windows.ShowPrintDialog("Flight Editor - Print")) return;
-    windows.Print(PrintedFlight(context.forms.frmFlightEdit, context.session));
+    ForgetNotWritten(context);
+    const std::string text = PrintedFlight(context.forms.frmFlightEdit, context.session);
+    if (windows.Print(text) == PrintOutcome::Failed) ReportNotPrinted(context);
 }
 
 }  // namespace orlo

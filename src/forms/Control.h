@@ -85,6 +85,7 @@ struct Button : Control {
 struct Label : Control {
     Label(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::Label, in.form, in.parent, nameOf, captionOf) {}
+    bool plainCaption = false;  // each "&" in it is a character; shortened where it doesn't fit
 };
 
 enum class TextBoxStyle { SingleLine, MultiLine, FixedFont };
@@ -158,6 +159,7 @@ struct MenuEntry : Control {
     MenuEntry(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::MenuEntry, in.form, in.parent, nameOf, captionOf) {}
     bool checkable = false;
+    bool radio = false;  // one of a group of checkable ones below one parent
     bool checked = false;
     bool separatorBefore = false;
     bool popup = false;         // the root of a pop-up menu, not part of the menu bar

@@ -27,27 +27,16 @@ void Disable(std::initializer_list<Control*> controls) {
 }
 
 void SetUpMenus(MainForm& form) {
-    for (MenuEntry* entry : {&form.mnuToolsShowCompiler,
-                             &form.mnuToolsDebug,
-                             &form.mnuToolsUndoOn,
-                             &form.mnuToolsACCheck,
-                             &form.mnuTAOff,
-                             &form.mnuTA30,
-                             &form.mnuTA45,
-                             &form.mnuTA60,
-                             &form.mnuTA90,
-                             &form.mnuTA120,
-                             &form.mnuMaxTAOff,
-                             &form.mnuMaxTA1,
-                             &form.mnuMaxTA2,
-                             &form.mnuMaxTA4,
-                             &form.mnuMaxTA8,
-                             &form.mnuMaxTA12,
-                             &form.mnuMaxTA18,
-                             &form.mnuMaxTA24,
-                             &form.mnuToolsBackupPlan,
-                             &form.mnuToolsBackupAircraft}) {
+    for (MenuEntry* entry : {&form.mnuToolsShowCompiler, &form.mnuToolsDebug, &form.mnuToolsUndoOn,
+                             &form.mnuToolsACCheck, &form.mnuToolsBackupPlan, &form.mnuToolsBackupAircraft}) {
         entry->checkable = true;
+    }
+    for (MenuEntry* entry :
+         {&form.mnuTAOff, &form.mnuTA30, &form.mnuTA45, &form.mnuTA60, &form.mnuTA90, &form.mnuTA120,
+          &form.mnuMaxTAOff, &form.mnuMaxTA1, &form.mnuMaxTA2, &form.mnuMaxTA4, &form.mnuMaxTA8,
+          &form.mnuMaxTA12, &form.mnuMaxTA18, &form.mnuMaxTA24}) {
+        entry->checkable = true;
+        entry->radio = true;
     }
     for (MenuEntry* entry :
          {&form.mnuFileNewProject, &form.mnuRecentFlightPlan, &form.mnuFileExit, &form.mnuToolsShuffle,

@@ -7,7 +7,7 @@ namespace orlo {
 
 // The display of a long operation; the user can't close it.
 struct ProgressForm : Form {
-    ProgressForm() : Form("frmProgress", kApplicationTitle) {}
+    ProgressForm() : Form("frmProgress", kApplicationTitle) { lblProgress.plainCaption = true; }
 
     Label lblProgress{*this, "lblProgress", ""};
     ProgressBar pbProgress{*this, "pbProgress"};

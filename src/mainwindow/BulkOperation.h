@@ -43,7 +43,9 @@ void MarkPlanModified(Context& context);
 
 // Says in the status bar what could not be written; messages stay as they are.
 void ReportNotWritten(Context& context, std::string_view path);
-// Takes such a text away, before the next try.
+// The same for a print that failed.
+void ReportNotPrinted(Context& context);
+// Takes such texts away, before the next try.
 void ForgetNotWritten(Context& context);
 
 }  // namespace orlo

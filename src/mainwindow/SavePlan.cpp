@@ -46,6 +46,11 @@ void SaveFlightplanCommand(Context& context) {
 }
 
 void SaveFlightplanAs(Context& context) {
+    // After an open that failed there is nothing to write, least of all over the files that stand there.
+    if (!context.session.PlanLoaded) {
+        context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
+        return;
+    }
     FileDialog dialog;
     dialog.title = "Save Flightplan as...";
     dialog.filter = kTextFileFilter;

@@ -50,11 +50,11 @@ class LevelDrawer {
     // One level a leg, in the order of the legs; they hold until the next draw.
     const std::vector<std::string>& Draw(const FlightView& flight, LevelLimits limits) {
         levels_.resize(static_cast<std::size_t>(flight.LegCount));
-        End first;
-        End from;
+        PlanPositions::End first;
+        PlanPositions::End from;
         std::size_t number = 0;
         for (const LegView& leg : flight) {
-            const End to = Find(leg.Destination);
+            const PlanPositions::End to = Find(leg.Destination);
             if (number == 0) {
                 first = to;
             } else {
@@ -69,21 +69,15 @@ class LevelDrawer {
     }
 
   private:
-    struct End {
-        std::string_view code;
-        std::int32_t place = -1;
-    };
-
-    End Find(std::string_view code) {
+    PlanPositions::End Find(std::string_view code) {
         return {code, places_.Get(code, [this](std::string_view text) { return positions_.Place(text); })};
     }
 
     // A distance or course of -1 takes part like any other.
-    std::string DrawLevel(std::string_view flightRules, const End& from, const End& to, LevelLimits limits) {
-        const bool sameCode = from.code == to.code;
-        const std::int32_t distance = sameCode ? 0 : positions_.Distance(from.place, to.place);
-        const std::int32_t course = sameCode ? -1 : positions_.Course(from.place, to.place);
-        return SuggestFlightLevel(rules_, flightRules, distance, course, limits, false, random_);
+    std::string DrawLevel(std::string_view flightRules, const PlanPositions::End& from,
+                          const PlanPositions::End& to, LevelLimits limits) {
+        const RouteMeasure route = positions_.Measure(from, to);
+        return SuggestFlightLevel(rules_, flightRules, route.Distance, route.Course, limits, false, random_);
     }
 
     const std::vector<FlightLevelRule>& rules_;

@@ -70,6 +70,7 @@ std::string PrintedResults(Context& context, const FlightPrinter& printer) {
 void PrintFlights(Context& context) {
     Services& services = context.services;
     if (!services.windows.ShowPrintDialog("Export - Print")) return;
+    ForgetNotWritten(context);
     const std::int32_t count = context.forms.frmMain.lvExPreview.Count();
     {
         const BusyMainWindow busy(context);
@@ -77,9 +78,10 @@ void PrintFlights(Context& context) {
         const FlightPrinter printer(context.session);
         services.progress.SetMax(count);
         NextProgress(context, "Printing...", 0);
-        const bool printed = services.windows.Print(PrintedResults(context, printer));
+        const PrintOutcome outcome = services.windows.Print(PrintedResults(context, printer));
         services.progress.Close();
-        if (!printed) return;
+        if (outcome == PrintOutcome::Failed) ReportNotPrinted(context);
+        if (outcome != PrintOutcome::Printed) return;
     }
     ShowMessage(services.messages, Concat("Successfully printed ", count, " flights."), kMarkInformation,
                 &context.forms.frmMain);

@@ -5,6 +5,7 @@
 
 #include "core/Number.h"
 #include "core/Text.h"
+#include "core/TextMemo.h"
 #include "mainwindow/BulkOperation.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
@@ -67,38 +68,42 @@ SearchFields ReadFields(const Context& context, std::string_view departure, std:
 class LevelSearch {
   public:
     explicit LevelSearch(const Session& session)
-        : session_(session), positions_(session), installed_(InstalledPlacesByNumber(session)) {}
+        : session_(session),
+          positions_(session),
+          places_(session.PlanAirports.size()),
+          installed_(InstalledPlacesByNumber(session)) {}
 
-    bool HasWrongLevel(const FlightView& flight) const {
+    bool HasWrongLevel(const FlightView& flight) {
         const std::int32_t* place = installed_.Find(flight.ACNumber);
         if (place == nullptr || flight.LegCount == 0) return false;
         const FSAircraft& aircraft = session_.FSAircrafts[static_cast<std::size_t>(*place)];
         const LevelLimits limits{aircraft.MinFL, aircraft.MaxFL};
-        std::string_view from = flight.StartAirport();
-        std::int32_t fromPlace = positions_.Place(from);
+        PlanPositions::End from = Find(flight.StartAirport());
         for (const LegView& leg : flight) {
-            const std::int32_t toPlace = positions_.Place(leg.Destination);
-            if (from != leg.Destination && IsWrong(flight, leg, fromPlace, toPlace, limits)) return true;
-            from = leg.Destination;
-            fromPlace = toPlace;
+            const PlanPositions::End to = Find(leg.Destination);
+            if (IsWrong(flight, leg, positions_.Measure(from, to), limits)) return true;
+            from = to;
         }
         return false;
     }
 
   private:
-    bool IsWrong(const FlightView& flight, const LegView& leg, std::int32_t fromPlace, std::int32_t toPlace,
+    PlanPositions::End Find(std::string_view code) {
+        return {code, places_.Get(code, [this](std::string_view text) { return positions_.Place(text); })};
+    }
+
+    bool IsWrong(const FlightView& flight, const LegView& leg, const RouteMeasure& route,
                  LevelLimits limits) const {
-        const std::int32_t distance = positions_.Distance(fromPlace, toPlace);
-        const std::int32_t course = positions_.Course(fromPlace, toPlace);
-        if (distance == -1 || course == -1) return false;
+        if (route.Distance == -1 || route.Course == -1) return false;
         const auto level = ParseWholeNumber(leg.FlightLevel);
-        return !level || !CheckFlightLevel(session_.FlightLevelRules, flight.FlightType, distance, course,
-                                           limits, *level)
+        return !level || !CheckFlightLevel(session_.FlightLevelRules, flight.FlightType, route.Distance,
+                                           route.Course, limits, *level)
                               .Right;
     }
 
     const Session& session_;
     PlanPositions positions_;
+    TextMemo places_;
     KeyedIndex<std::int32_t> installed_;
 };
 
@@ -163,7 +168,7 @@ bool SearchByFields(Context& context, SearchProgress& progress, std::string_view
 
 void SearchWrongLevels(Session& session, SearchProgress& progress) {
     progress.Stage(kMatchingAircraft, 1);
-    const LevelSearch levels(session);
+    LevelSearch levels(session);
     progress.Stage(kSearching, 2);
     CollectResults(session,
                    [&](std::int32_t, const FlightView& flight) { return levels.HasWrongLevel(flight); });

@@ -21,6 +21,8 @@ struct FileDialog {
     std::string defaultExtension;
 };
 
+enum class PrintOutcome { Printed, GivenUp, Failed };
+
 // The front end as the logic sees it: windows, dialogs, timers and the processing of events.
 class WindowHost {
   public:
@@ -56,9 +58,9 @@ class WindowHost {
 
     // Asks for a printer. False on cancel.
     virtual bool ShowPrintDialog(std::string_view title) = 0;
-    // Prints the text on the printer chosen last, fixed-pitch, size 10. False when the user, who may look at
-    // the pages first, gives it up.
-    virtual bool Print(std::string_view text) = 0;
+    // Prints the text on the printer chosen last, fixed-pitch, size 10. The user may look at the pages first,
+    // and give it up.
+    virtual PrintOutcome Print(std::string_view text) = 0;
 
     // Opens a document with the system's default handler.
     virtual bool OpenDocument(const std::string& path, const std::string& workingFolder) = 0;

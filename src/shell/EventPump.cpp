@@ -116,4 +116,8 @@ void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
     main.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 
+void EventPump::TellFailure(std::string_view reason) {
+    context_.forms.frmMain.sbMain.text = Concat("The screen could not be drawn: ", reason, ".");
+}
+
 }  // namespace orlo

@@ -48,6 +48,9 @@ class EventPump {
     // Runs one event at once. False when it was dropped or its procedure refused it.
     bool Deliver(Event& event);
 
+    // Puts into the status bar that something failed outside any procedure.
+    void TellFailure(std::string_view reason);
+
     bool OperationRuns() const { return running_ > 0; }
 
     // A modal form opens a new round of events above the operation that shows it.

@@ -56,7 +56,9 @@ std::string HelpFolder(const Session& session) {
 
 void OpenHelp(Context& context, std::string_view page) {
     const std::string folder = HelpFolder(context.session);
-    context.services.windows.OpenDocument(JoinPath(folder, page), folder);
+    const std::string path = JoinPath(folder, page);
+    if (!context.services.windows.OpenDocument(path, folder))
+        context.forms.frmMain.sbMain.text = Concat("Nothing is set up that opens [", path, "].");
 }
 
 void OnAboutOk(Context& context, Event&) {

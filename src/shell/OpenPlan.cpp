@@ -61,26 +61,34 @@ void EraseOldPlan(Context& context) {
     form.tvMoveAircrafts.Clear();
 }
 
-// Reads all that a plan stands on. False at the first list that stays empty; its reader has said why.
-bool ReadPlan(Context& context) {
+// Reads all that a plan stands on. Gives the first list that stays empty, whose reader has said why if it
+// knows; nothing where all is there.
+std::string_view ReadPlan(Context& context) {
     Session& session = context.session;
     NextProgress(context, "Reading Airport configuration...", 2);
     ReadPlanAirports(session, context.services);
-    if (session.PlanAirportCount() == 0) return false;
+    if (session.PlanAirportCount() == 0) return "airports";
 
     NextProgress(context, "Reading Aircraft configuration...", 3);
     ReadPlanAircraft(session, context.services);
-    if (session.PlanAircraftCount() == 0) return false;
+    if (session.PlanAircraftCount() == 0) return "aircraft";
 
     NextProgress(context, "Reading Flightplan...", 4);
     ReadFlightplan(session, context.services);
-    if (session.FlightCount() == 0) return false;
+    if (session.FlightCount() == 0) return "flights";
 
     context.services.progress.SetMax(kOpenStages);
     NextProgress(context, "Detecting FS2002 Aircraft...", 5);
     ScanAircraft(session, context.services.files, SimulatorFolder(session, context.services.machineSettings),
                  true);
-    return session.FSAircraftCount() > 0;
+    return session.FSAircraftCount() == 0 ? "aircraft of the simulator" : std::string_view();
+}
+
+void TellNotLoaded(Context& context, std::string_view missing) {
+    MainForm& form = context.forms.frmMain;
+    RefreshShuffleLabel(form);
+    form.sbMain.text =
+        Concat("Flightplan not loaded: no ", missing, " found [", context.session.FlightplanPath, "].");
 }
 
 void ShowPlan(Context& context) {
@@ -132,8 +140,9 @@ void OpenFlightplan(Context& context, std::string path) {
     const BusyMainWindow busy(context);
     OpenProgress(context, "Cleaning Memory...", kOpenStages, 1);
     EraseOldPlan(context);
-    if (!ReadPlan(context)) {
+    if (const std::string_view missing = ReadPlan(context); !missing.empty()) {
         context.services.progress.Close();
+        TellNotLoaded(context, missing);
         return;
     }
     ShowPlan(context);

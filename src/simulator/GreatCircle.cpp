@@ -35,6 +35,21 @@ std::optional<double> CentralAngle(const GreatCirclePoint& from, const GreatCirc
                   from.CosLatitude * to.CosLatitude * std::cos(from.Longitude - to.Longitude));
 }
 
+std::int32_t DistanceOf(double angle) {
+    return static_cast<std::int32_t>(RoundHalfEven(std::fabs(angle * 180 * 60 / kPi)));
+}
+
+std::int32_t CourseOf(double angle, const GreatCirclePoint& from, const GreatCirclePoint& to) {
+    // Along a meridian only whole degrees count, so within one degree the course is always 0.
+    if (from.Longitude == to.Longitude) return from.Place.LatDegrees <= to.Place.LatDegrees ? 0 : 180;
+    auto course =
+        ArcCos((to.SinLatitude - from.SinLatitude * std::cos(angle)) / (std::sin(angle) * from.CosLatitude));
+    if (!course) return -1;
+    if (!(std::sin(to.Longitude - from.Longitude) < 0)) course = 2 * kPi - *course;
+    const auto degrees = static_cast<std::int32_t>(RoundHalfEven(std::fabs(*course * 180 / kPi)));
+    return degrees >= 360 ? degrees - 360 : degrees;
+}
+
 }  // namespace
 
 std::optional<double> ArcCos(double x) {
@@ -84,8 +99,7 @@ GreatCirclePoint PreparePoint(const Position& position) {
 
 std::int32_t GreatCircleDistance(const GreatCirclePoint& from, const GreatCirclePoint& to) {
     const auto angle = CentralAngle(from, to);
-    if (!angle) return -1;
-    return static_cast<std::int32_t>(RoundHalfEven(std::fabs(*angle * 180 * 60 / kPi)));
+    return angle ? DistanceOf(*angle) : -1;
 }
 
 std::int32_t GreatCircleDistance(const Position& from, const Position& to) {
@@ -94,19 +108,16 @@ std::int32_t GreatCircleDistance(const Position& from, const Position& to) {
 
 std::int32_t GreatCircleCourse(const GreatCirclePoint& from, const GreatCirclePoint& to) {
     const auto angle = CentralAngle(from, to);
-    if (!angle) return -1;
-    // Along a meridian only whole degrees count, so within one degree the course is always 0.
-    if (from.Longitude == to.Longitude) return from.Place.LatDegrees <= to.Place.LatDegrees ? 0 : 180;
-    auto course = ArcCos((to.SinLatitude - from.SinLatitude * std::cos(*angle)) /
-                         (std::sin(*angle) * from.CosLatitude));
-    if (!course) return -1;
-    if (!(std::sin(to.Longitude - from.Longitude) < 0)) course = 2 * kPi - *course;
-    const auto degrees = static_cast<std::int32_t>(RoundHalfEven(std::fabs(*course * 180 / kPi)));
-    return degrees >= 360 ? degrees - 360 : degrees;
+    return angle ? CourseOf(*angle, from, to) : -1;
 }
 
 std::int32_t GreatCircleCourse(const Position& from, const Position& to) {
     return GreatCircleCourse(PreparePoint(from), PreparePoint(to));
+}
+
+RouteMeasure MeasureRoute(const GreatCirclePoint& from, const GreatCirclePoint& to) {
+    const auto angle = CentralAngle(from, to);
+    return angle ? RouteMeasure{DistanceOf(*angle), CourseOf(*angle, from, to)} : RouteMeasure{};
 }
 
 }  // namespace orlo

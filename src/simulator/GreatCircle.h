@@ -50,4 +50,11 @@ std::int32_t GreatCircleDistance(const Position& from, const Position& to);
 std::int32_t GreatCircleCourse(const GreatCirclePoint& from, const GreatCirclePoint& to);
 std::int32_t GreatCircleCourse(const Position& from, const Position& to);
 
+// Both in one go, for passes over many legs.
+struct RouteMeasure {
+    std::int32_t Distance = -1;  // nautical miles
+    std::int32_t Course = -1;    // degrees
+};
+RouteMeasure MeasureRoute(const GreatCirclePoint& from, const GreatCirclePoint& to);
+
 }  // namespace orlo

@@ -33,6 +33,13 @@ std::int32_t PlanPositions::Course(std::int32_t fromPlace, std::int32_t toPlace)
     return from == nullptr || to == nullptr ? -1 : GreatCircleCourse(*from, *to);
 }
 
+RouteMeasure PlanPositions::Measure(const End& from, const End& to) const {
+    if (from.Code == to.Code) return {0, -1};
+    const GreatCirclePoint* fromPoint = PointOf(from.Place);
+    const GreatCirclePoint* toPoint = PointOf(to.Place);
+    return fromPoint == nullptr || toPoint == nullptr ? RouteMeasure{} : MeasureRoute(*fromPoint, *toPoint);
+}
+
 std::int32_t PlanPositions::Distance(std::string_view from, std::string_view to) const {
     return from == to ? 0 : Distance(Place(from), Place(to));
 }

@@ -24,6 +24,14 @@ class PlanPositions {
     std::int32_t Distance(std::int32_t fromPlace, std::int32_t toPlace) const;  // nautical miles
     std::int32_t Course(std::int32_t fromPlace, std::int32_t toPlace) const;    // degrees, 0 to 359
 
+    // An end of a leg, its code looked up. `Place` may come from a memo of Place(Code).
+    struct End {
+        std::string_view Code;
+        std::int32_t Place = -1;
+    };
+    // Distance and course between two ends, as the two questions below answer.
+    RouteMeasure Measure(const End& from, const End& to) const;
+
     // Between two codes. Equal codes, compared exactly, have the distance 0 and the course -1, whether they
     // are in the plan or not.
     std::int32_t Distance(std::string_view from, std::string_view to) const;

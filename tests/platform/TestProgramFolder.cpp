@@ -11,6 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::TemporaryFolder;
 
+// A program that is not installed: "share" is that of a checkout.
 class ProgramFolder : public testing::Test {
   protected:
     ProgramFolder() {
@@ -21,50 +22,87 @@ class ProgramFolder : public testing::Test {
         fs::permissions(folder.Path("home"), fs::perms(0777));
     }
 
-    // Whether a user without rights on "bin" gets `expected`.
-    int FindAsPlainUser(const std::vector<std::string>& shares, const std::string& expected) const {
+    // 0 when a user other than root gets `expected`.
+    int FindAsPlainUser(const std::string& expected) const {
         return test::RunAsPlainUser([&] {
             PosixFileSystem files;
             const std::string found =
-                FindProgramFolder(files, folder.Path("bin/orlo"), shares, folder.Path("home/data/orlo"));
+                FindProgramFolder(files, folder.Path("bin/orlo"), folder.Path("home/data/orlo"));
             return found == expected ? 0 : 1;
         });
     }
     void CloseBin() const { fs::permissions(folder.Path("bin"), fs::perms(0555)); }
+    void OpenBin() const { fs::permissions(folder.Path("bin"), fs::perms(0777)); }
+    void Install() const {
+        folder.Put("share/orlo/ORLO_AC.CFG", "installed classes");
+        folder.Put("share/orlo/Help/index.html", "installed help");
+        folder.Put("share/orlo/Help/pictures/about.png", "picture");
+    }
 
     TemporaryFolder folder;
 };
 
 TEST_F(ProgramFolder, IsTheExecutablesOwnWhereThatCanBeWritten) {
-    fs::permissions(folder.Path("bin"), fs::perms(0777));
-    EXPECT_EQ(FindAsPlainUser({folder.Path("share")}, folder.Path("bin")), 0);
+    OpenBin();
+    EXPECT_EQ(FindAsPlainUser(folder.Path("bin")), 0);
     EXPECT_FALSE(fs::exists(folder.Path("home/data")));
 }
 
 TEST_F(ProgramFolder, IsElseTheUsersOwnFilledOnce) {
     CloseBin();
-    const std::vector<std::string> shares = {folder.Path("missing"), folder.Path("share")};
-    EXPECT_EQ(FindAsPlainUser(shares, folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "classes");
     EXPECT_EQ(folder.Content("home/data/orlo/Help/index.html"), "help");
     EXPECT_EQ(folder.Entries("home/data"), 1u);
 
     // What the user changed or took away stays so.
+    folder.Put("share/ORLO_FL.CFG", "levels");
     folder.Put("home/data/orlo/ORLO_AC.CFG", "mine");
-    fs::remove(folder.Path("home/data/orlo/Help/index.html"));
-    EXPECT_EQ(FindAsPlainUser(shares, folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "mine");
-    EXPECT_EQ(folder.Entries("home/data/orlo/Help"), 0u);
+    EXPECT_FALSE(fs::exists(folder.Path("home/data/orlo/ORLO_FL.CFG")));
+}
+
+// Root can write where all programs are, and got that folder, in which there are no rule files.
+TEST_F(ProgramFolder, OfAnInstalledProgramIsTheUsersOwnEvenWhereItsFolderCanBeWritten) {
+    OpenBin();
+    Install();
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "installed classes");
+    EXPECT_EQ(folder.Content("home/data/orlo/Help/pictures/about.png"), "picture");
+}
+
+// The manual was copied once, and an update of the program left the old one.
+TEST_F(ProgramFolder, HasItsManualRenewedAndNothingElse) {
+    Install();
+    ASSERT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
+    const std::string user = "home/data/orlo/";
+    folder.Put(user + "Help/notes.html", "mine");
+    const auto before = fs::last_write_time(folder.Path(user + "Help/pictures/about.png"));
+
+    folder.Put("share/orlo/Help/index.html", "INSTALLED HELP");  // as long as the old one
+    folder.Put("share/orlo/Help/move.html", "a new page");
+    folder.Put("share/orlo/ORLO_AC.CFG", "new classes");
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(folder.Content(user + "Help/index.html"), "INSTALLED HELP");
+    EXPECT_EQ(folder.Content(user + "Help/move.html"), "a new page");
+    EXPECT_EQ(folder.Content(user + "Help/notes.html"), "mine");
+    EXPECT_EQ(fs::last_write_time(folder.Path(user + "Help/pictures/about.png")), before);
+    EXPECT_EQ(folder.Content(user + "ORLO_AC.CFG"), "installed classes");
+
+    // A manual that can't be renewed keeps nobody from working.
+    fs::permissions(folder.Path("share/orlo/Help/index.html"), fs::perms(0));
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
 }
 
 TEST_F(ProgramFolder, IsNotTakenBeforeItsCopyIsComplete) {
     CloseBin();
     folder.Put("share/secret.cfg", "x");
     fs::permissions(folder.Path("share/secret.cfg"), fs::perms(0));
-    EXPECT_EQ(FindAsPlainUser({folder.Path("share")}, ""), 0);
+    EXPECT_EQ(FindAsPlainUser(""), 0);
     EXPECT_FALSE(fs::exists(folder.Path("home/data/orlo")));
     fs::permissions(folder.Path("share/secret.cfg"), fs::perms(0644));
-    EXPECT_EQ(FindAsPlainUser({folder.Path("share")}, folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/secret.cfg"), "x");
     EXPECT_EQ(folder.Entries("home/data"), 1u);
 }
@@ -72,7 +110,7 @@ TEST_F(ProgramFolder, IsNotTakenBeforeItsCopyIsComplete) {
 TEST_F(ProgramFolder, OfAShareInACircleIsGivenUp) {
     CloseBin();
     fs::create_directory_symlink("..", folder.Path("share/Help/up"));
-    EXPECT_EQ(FindAsPlainUser({folder.Path("share")}, ""), 0);
+    EXPECT_EQ(FindAsPlainUser(""), 0);
 }
 
 TEST(ExecutablePath, NamesTheRunningProgram) {

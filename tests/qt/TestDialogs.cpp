@@ -89,7 +89,7 @@ int PagesOf(const std::string& text, const std::string& path) {
     const auto printer = MakeTextPrinter();
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setOutputFileName(QString::fromStdString(path));
-    if (!PrintText(text, *printer)) return 0;
+    if (!PrintText(text, *printer, [] {})) return 0;
     return static_cast<int>(ReadAll(path).count("/Type /Page\n"));
 }
 
@@ -112,6 +112,7 @@ TEST(Printing, PagesEndBetweenLinesAndLongLinesGoOn) {
     EXPECT_EQ(PagesOf(Concat(Lines(full - 2), words), path), 2);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 2), std::string(300, 'x')), path), 2);
     // A tab goes on to the next stop: eight columns for one byte.
+    EXPECT_EQ(PagesOf(Concat(Lines(full - 1), "\t\t\t", std::string(24, 'x')), path), 1);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(40, '\t'), "end"), path), 2);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(41, 'x')), path), 1);
     EXPECT_EQ(PagesOf("text", folders.Path("nowhere/out.pdf")), 0);
@@ -137,7 +138,7 @@ TEST_F(Dialogs, ADialogPrintsShowsAPreviewOrGivesUp) {
     });
     EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
     InDialog<QPrintPreviewDialog>([](QPrintPreviewDialog& shown) { shown.reject(); });
-    EXPECT_FALSE(desktop.host.Print("text"));
+    EXPECT_EQ(desktop.host.Print("text"), PrintOutcome::GivenUp);
     EXPECT_EQ(ReadAll(path), "");
 
     InDialog<QPrintDialog>([&](QPrintDialog& shown) {
@@ -145,20 +146,25 @@ TEST_F(Dialogs, ADialogPrintsShowsAPreviewOrGivesUp) {
         shown.accept();
     });
     EXPECT_TRUE(desktop.host.ShowPrintDialog("Export - Print"));
-    EXPECT_TRUE(desktop.host.Print("text"));
+    EXPECT_EQ(desktop.host.Print("text"), PrintOutcome::Printed);
     EXPECT_TRUE(ReadAll(path).startsWith("%PDF"));
 }
 
-TEST_F(Dialogs, AModalFormWhoseLoopFailsLeavesNothingModalBehind) {
+TEST_F(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
     SampleForm dialog("frmDialog");
+    bool open = false;
     QTimer::singleShot(50, [] { throw std::bad_alloc(); });
+    QTimer::singleShot(150, [&] {
+        open = dialog.visible;
+        dialog.closeRequest = true;
+        desktop.host.Post({});
+    });
     form.on["Click cmdGo"] = [&](Context& context, Event&) {
-        context.services.windows.ShowModal(dialog, &desktop.form);
+        context.services.windows.ShowModal(dialog, &form);
     };
     desktop.Click(form.cmdGo);
     DesktopProgram::Settle();
-    QTest::qWait(100);
-    EXPECT_FALSE(dialog.visible);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return open && !dialog.visible; }, 5000));
     EXPECT_EQ(desktop.program.pump.Windows().TopModal(), nullptr);
     EXPECT_FALSE(desktop.program.pump.OperationRuns());
     form.ran.clear();

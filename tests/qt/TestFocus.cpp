@@ -157,6 +157,7 @@ TEST_F(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
     EXPECT_TRUE(form.txtOther.selectAllRequest);
     name.deselect();
     form.txtOther.visible = true;
+    form.SetFocus(form.txtOther);
     desktop.CatchUp();
     EXPECT_EQ(other.selectedText(), "other");
     EXPECT_EQ(name.selectedText(), "");

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "desktop/DesktopApplication.h"
 
 int main(int count, char** words) {
     testing::InitGoogleTest(&count, words);
-    QApplication application(count, words);
+    orlo::DesktopApplication application(count, words);
     return RUN_ALL_TESTS();
 }

@@ -47,7 +47,7 @@ class FakeWindows : public WindowHost {
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
     bool printDialogAnswer = true;
-    bool printAnswer = true;
+    PrintOutcome printAnswer = PrintOutcome::Printed;
     std::function<void(Form&)> onModal;  // what happens while a modal form is shown
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
@@ -73,7 +73,7 @@ class FakeWindows : public WindowHost {
         return Take(inputs);
     }
     bool ShowPrintDialog(std::string_view) override { return printDialogAnswer; }
-    bool Print(std::string_view text) override {
+    PrintOutcome Print(std::string_view text) override {
         printed.emplace_back(text);
         return printAnswer;
     }

@@ -1,21 +1,20 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "services/FileSystem.h"
 
 namespace orlo {
 
-// The folder that holds the rule files, the cache and the logs: the executable's own where the user may write
-// there, else `userFolder`. One that does not exist yet is made and filled with a copy of the first of
-// `shareFolders` that exists; it appears only when the copy is complete. Empty when there is neither.
+// The folder that holds the rule files, the cache and the logs.
+// A program that is installed, with a folder "share/orlo" beside its executable's folder, has `userFolder`,
+// even where it might write to its own: root can write to the folder of all programs. Any other, a portable
+// one or one in a build's folder, has its executable's own folder where the user may write there, else
+// `userFolder`. A `userFolder` that does not exist yet is made and filled with a copy of "share/orlo", or, in
+// a checkout, of "share"; it appears only when the copy is complete. In one that exists the pages of "Help"
+// that differ from those there are replaced; nothing else in it is touched. Empty when there is no folder.
 std::string FindProgramFolder(FileSystem& files, const std::string& executablePath,
-                              const std::vector<std::string>& shareFolders, const std::string& userFolder);
-
-// Where the files of an installation stand that a user gets a copy of: in the folder "share" or "share/orlo"
-// beside the one of the executable.
-std::vector<std::string> ShareFolders(const std::string& executablePath);
+                              const std::string& userFolder);
 
 // What the system has to offer for it.
 bool CanWriteIn(const std::string& folder);

@@ -32,8 +32,7 @@ std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem& files, const std:
 }
 
 std::string FindProgramFolder(FileSystem& files) {
-    const std::string executable = ExecutablePath();
-    return FindProgramFolder(files, executable, ShareFolders(executable), UserDataFolder());
+    return FindProgramFolder(files, ExecutablePath(), UserDataFolder());
 }
 
 std::pmr::memory_resource& ListMemory() {

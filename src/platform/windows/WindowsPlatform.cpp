@@ -56,8 +56,7 @@ std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem&, const std::strin
 }
 
 std::string FindProgramFolder(FileSystem& files) {
-    const std::string executable = ExecutablePath();
-    return FindProgramFolder(files, executable, ShareFolders(executable), UserDataFolder());
+    return FindProgramFolder(files, ExecutablePath(), UserDataFolder());
 }
 
 // Large pages need a right here that users don't have.

@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "desktop/ScreenPlace.h"
+#include "desktop/ScreenText.h"
+#include "qt/DesktopProgram.h"
+
+namespace orlo {
+namespace {
+
+using test::DesktopProgram;
+using test::SampleForm;
+
+TEST(Reach, ABlankIsAPartOfANameThatIsBeingTypedAndElseACheckMark) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    form.tvNodes.Add(-1, "#A", "Air Cargo", Colour::WindowText);
+    form.tvNodes.Add(-1, "#B", "Air Dune", Colour::WindowText);
+    desktop.CatchUp();
+    desktop.Focus(form.tvNodes);
+    desktop.Type(form, "air d");
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.tvNodes.At(form.tvNodes.current).text, "Air Dune");
+    EXPECT_EQ(form.Ran("CheckNode tvNodes"), 0);
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    desktop.Type(form, " ");
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("CheckNode tvNodes"), 1);
+}
+
+TEST(Reach, AListIsUsedByKeysAlone) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    for (const char* name : {"b", "a", "c"}) form.lvRows.Add({"", "", "", Colour::WindowText, {name, ""}});
+    form.on["Popup lvRows"] = [&](Context&, Event& event) { event.menu = &form.mnuSelect; };
+    std::int32_t column = -1;
+    form.on["ClickColumn lvRows"] = [&](Context&, Event& event) { column = event.value; };
+    desktop.CatchUp();
+    desktop.Focus(form.lvRows);
+    desktop.Key(form, Qt::Key_End);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.lvRows.current, 2);
+    EXPECT_EQ(form.lvRows.SelectedPlaces(), std::vector{2});
+    desktop.Key(form, Qt::Key_Right);
+    desktop.Key(form, Qt::Key_F3);
+    DesktopProgram::Settle();
+    EXPECT_EQ(column, 1);
+
+    // Of the keys with another held none is a command.
+    desktop.Key(form, Qt::Key_Insert, Qt::ControlModifier);
+    desktop.Key(form, Qt::Key_Delete, Qt::ShiftModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("KeyUp lvRows"), 0);
+    desktop.Key(form, Qt::Key_Delete);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("KeyUp lvRows"), 1);
+
+    desktop.Key(form, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(desktop.WindowOf(form).findChild<QMenu*>("mnuSelectMenu")->isVisible());
+}
+
+TEST(Reach, AMenuOfTheBarGoesBeforeAControlOfTheSameLetter) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    form.mnuFile.caption = "&Gone";
+    desktop.CatchUp();
+    desktop.Key(form, Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(desktop.WindowOf(form).findChild<QMenu*>("mnuFileMenu")->isVisible());
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("Click cmdGo"), 0);
+}
+
+TEST(Reach, KeysAndAClickOnTheShownTabSelectTabs) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    const struct {
+        Qt::Key key;
+        const char* tab;
+    } kSteps[] = {
+        {Qt::Key_PageDown, "TWO"}, {Qt::Key_PageDown, "ONE"}, {Qt::Key_PageUp, "TWO"}, {Qt::Key_Tab, "ONE"}};
+    desktop.Focus(form.txtName);
+    for (const auto& step : kSteps) {
+        desktop.Key(form, step.key, Qt::ControlModifier);
+        DesktopProgram::Settle();
+        EXPECT_EQ(form.tabViews.selectedKey, step.tab);
+    }
+    EXPECT_EQ(form.Ran("SelectTab tabViews"), 4);
+    desktop.Click(form.tabViews);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.tabViews.selectedKey, "ONE");
+    EXPECT_EQ(form.Ran("SelectTab tabViews"), 5);
+}
+
+TEST(Reach, WhatAScreenReaderWritesStandsInTheForm) {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
+    QAccessibleInterface* field = QAccessible::queryAccessibleInterface(&desktop.Find<QWidget>(form.txtName));
+    ASSERT_NE(field, nullptr);
+    field->setText(QAccessible::Value, "spoken");
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.txtName.text, "spoken");
+    EXPECT_EQ(form.Ran("Change txtName"), 1);
+}
+
+TEST(Reach, TheFirstButtonIsTheDefaultWhateverTheDesktopsOrder) {
+    const struct {
+        int flags;
+        QMessageBox::StandardButton expected;
+    } kCases[] = {{kButtonsYesNoCancel, QMessageBox::Yes},
+                  {kButtonsYesNo, QMessageBox::Yes},
+                  {kButtonsYesNo | kDefaultSecondButton, QMessageBox::No},
+                  {kButtonsOk, QMessageBox::Ok}};
+    DesktopProgram desktop;
+    for (const auto& one : kCases) {
+        test::InDialog<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.standardButton(box.defaultButton()), one.expected);
+            box.defaultButton()->click();
+        });
+        desktop.host.ShowMessage("text", one.flags, "Orlo", &desktop.form);
+    }
+}
+
+TEST(Reach, ALongTextIsCutWithinNoCharacterAndNoTextIsMarkup) {
+    std::string text(999, 'x');
+    text.append("\xC3\xA9").append(1000000, 'y');
+    EXPECT_EQ(ShownText(text), QString(999, 'x') + QChar(0x2026));
+    EXPECT_EQ(ShownText(std::string(1000, 'x')), QString(1000, 'x'));
+    EXPECT_EQ(TipText("plain & simple"), "plain & simple");
+    EXPECT_EQ(TipText("<b>a</b>\nb"), "<span>&lt;b&gt;a&lt;/b&gt;<br>b</span>");
+}
+
+TEST(Reach, AWindowIsPutWhereItsTitleBarCanBeSeen) {
+    QWidget window;
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize least(100, 80);
+    const struct {
+        QRect place;
+        bool reachable;
+    } kCases[] = {
+        {QRect(room.center(), QSize(300, 200)), true},
+        {QRect(QPoint(room.right() - 20, 100), QSize(300, 200)), false},
+        {QRect(room.topLeft() - QPoint(0, 20), QSize(300, 200)), false},
+        {QRect(QPoint(3000, 100), QSize(2400, 1400)), false},
+        {QRect(room.topLeft() + QPoint(0, 40), QSize(9000, 9000)), true},
+    };
+    for (const auto& one : kCases) {
+        EXPECT_EQ(TitleBarReachable(window, one.place), one.reachable)
+            << one.place.x() << ' ' << one.place.y();
+        const QRect put = PlaceOnScreen(window, one.place, least);
+        EXPECT_TRUE(TitleBarReachable(window, put));
+        EXPECT_TRUE(room.contains(put));
+    }
+    // The least size may be larger than the screen; the corner with the menu is seen all the same.
+    const QRect large = PlaceOnScreen(window, QRect(-50, -50, 10, 10), room.size() + QSize(50, 50));
+    EXPECT_TRUE(TitleBarReachable(window, large));
+    EXPECT_EQ(large.left(), room.left());
+}
+
+}  // namespace
+}  // namespace orlo
