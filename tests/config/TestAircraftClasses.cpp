@@ -79,21 +79,6 @@ TEST(AircraftClasses, BuiltInValuesHoldWhereTheFileGivesNone) {
     EXPECT_EQ(parsed.lists->Profiles[kClassLargeJet], large);
     const ClassEntry entry{"A", 4, 3, 2, 1, -1, -1, "", -1, "", -1};
     EXPECT_EQ(parsed.lists->Entries[kClassLargeJet], std::vector<ClassEntry>{entry});
-
-    struct Case {
-        AircraftClass classCode;
-        std::int32_t maxFL, minFL, maxRange, minRange, speed;
-    };
-    for (const Case& c : std::initializer_list<Case>{{kClassMicroProp, 100, 0, 600, 0, 140},
-                                                     {kClassMidProp, 150, 0, 1100, 0, 200},
-                                                     {kClassLargeProp, 150, 80, 1000, 100, 250},
-                                                     {kClassMicroJet, 370, 100, 1000, 100, 400},
-                                                     {kClassSmallJet, 370, 100, 2100, 100, 430},
-                                                     {kClassHugeJet, 420, 250, 7000, 2000, 490}}) {
-        const ClassProfile expected{c.maxFL, c.minFL, c.maxRange, c.minRange, c.speed, 0, "", 0, "", 0};
-        EXPECT_EQ(parsed.lists->Profiles[c.classCode], expected) << c.classCode;
-        EXPECT_TRUE(parsed.lists->Entries[c.classCode].empty());
-    }
 }
 
 TEST(AircraftClasses, WrongCountsOfPartsAreRefusedWithTheirLine) {

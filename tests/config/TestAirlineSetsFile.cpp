@@ -56,8 +56,7 @@ TEST(AirlineSetsFile, AHeadThatOpensNoSetDropsItsLines) {
 
 TEST(AirlineSetsFile, BodyLinesAreAirlinesPatternsOrSkipped) {
     struct Case {
-        std::string_view line;
-        std::string_view expected;
+        std::string_view line, expected;
     };
     for (const Case& c : std::initializer_list<Case>{
              {"", "|"},

@@ -106,16 +106,5 @@ TEST(FlightList, AppendFromSharesOnOneArenaAndCopiesAcrossTwo) {
     EXPECT_EQ(apart.Unpack(2), first);
 }
 
-TEST(FlightList, AFlightMayHaveAnyNumberOfLegs) {
-    const Flight flight = MakeFlight(1, 200000);
-    FlightList list;
-    list.Append(MakeFlight(0, 1));
-    list.Append(flight);
-    list.Append(MakeFlight(2, 1));
-    EXPECT_EQ(list.Unpack(1), flight);
-    EXPECT_EQ(list.At(1).StartAirport(), "K199999");
-    EXPECT_EQ(list.Unpack(2), MakeFlight(2, 1));
-}
-
 }  // namespace
 }  // namespace orlo

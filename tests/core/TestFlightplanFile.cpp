@@ -89,18 +89,6 @@ TEST(FlightplanFile, TheCutOfACommentIsFoundWhereverItStandsInTheLine) {
     }
 }
 
-TEST(FlightplanFile, FieldsLandInTheirPlaces) {
-    test::FakeWorld world;
-    const Session session = ReadText(world, "\r\n" + kTwoLegs + "\n; comment\r" + kTwoLegs + "\r\n");
-    ASSERT_EQ(session.FlightCount(), 2);
-    const Flight flight = session.Flights.Unpack(1);
-    EXPECT_EQ(flight.ACNumber, "AC#1");
-    EXPECT_EQ(flight.FlightType, "IFR");
-    EXPECT_FALSE(flight.Removed);
-    EXPECT_EQ(flight.Legs[0], (Leg{"10:00:00", "11:00:00", true, "350", "F", "1234", "EDDF"}));
-    EXPECT_EQ(flight.Legs[1], (Leg{"12:00:00", "13:00:00", false, "340", "R", "0001", "EDDM"}));
-}
-
 TEST(FlightplanFile, AnUnreachableFileSaysSoAndLeavesNoFlights) {
     test::FakeWorld world;
     Session session;
@@ -148,23 +136,6 @@ TEST(FlightplanFile, RemovedFlightsGoToTheirOwnFileWhichASaveWithoutThemDeletes)
     WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, true);
     EXPECT_FALSE(world.files.FileExists(std::string(kRemovedPath)));
     EXPECT_EQ(FileOf(world, kBackupPath), kTwoLegs + "\r\n" + kTwoLegs + "\r\n") << "the first backup stays";
-}
-
-TEST(FlightplanFile, AFailedWriteLeavesTheOldFilesWhole) {
-    for (const char* failure : {"create", "full disk", "rename"}) {
-        SCOPED_TRACE(failure);
-        test::FakeWorld world;
-        Session session = ReadText(world, kTwoLegs + "\r\n");
-        Flight changed = session.Flights.Unpack(0);
-        changed.TailNumber = "N2";
-        session.Flights.Replace(0, changed);
-        world.files.failCreate = failure == std::string("create");
-        world.files.failAfterBytes = failure == std::string("full disk") ? 20 : -1;
-        world.files.failCommit = failure == std::string("rename");
-        EXPECT_FALSE(
-            WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, false).PlanWritten);
-        EXPECT_EQ(FileOf(world, kPlanPath), kTwoLegs + "\r\n");
-    }
 }
 
 }  // namespace

@@ -25,9 +25,7 @@ TEST(InitialisationFile, ValuesAreFoundBySectionAndKeyWithoutRegardToCase) {
         "atc_id=N1\r\n"
         "[General]\rmodel=a\n[GENERAL]\nmodel=b");
     struct Case {
-        std::string_view section;
-        std::string_view key;
-        std::string_view value;
+        std::string_view section, key, value;
     };
     const Case cases[] = {
         {"FLTSIM.0", "Title", "Boeing 747-400"},

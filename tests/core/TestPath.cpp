@@ -9,9 +9,7 @@ namespace {
 
 TEST(Path, PathsComeApartAtTheirLastSeparator) {
     struct Case {
-        std::string_view path;
-        std::string_view folder;
-        std::string_view name;
+        std::string_view path, folder, name;
     };
     const Case cases[] = {{"", "", ""},         {"plan.txt", "", "plan.txt"}, {"/plan.txt", "/", "plan.txt"},
                           {"/a/b", "/a", "b"},  {"a/b/", "a/b", ""},          {"/", "/", ""},

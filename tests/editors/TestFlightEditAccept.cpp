@@ -19,100 +19,52 @@ std::vector<Leg> LegsOf(std::string_view times) {
     return legs;
 }
 
-// All that is said, and whether the flight is accepted, when each warning is passed.
+// What is warned of when each warning is passed and the flight accepted.
 Texts Warnings(Editor& fake, const Flight& flight) {
     const std::string result = fake.Edit(
         flight, [&] { fake.Accept(); }, std::vector(20, Yes));
     EXPECT_NE(result, "");
     for (std::string& text : fake.said) {
-        EXPECT_TRUE(EndsWithNoCase(text, "\nContinue?")) << text;
-        text.resize(text.size() - std::string_view("\nContinue?").size());
+        constexpr std::string_view kStart = "Warning! ", kEnd = "\nContinue?";
+        EXPECT_TRUE(text.starts_with(kStart) && text.ends_with(kEnd)) << text;
+        text = text.substr(kStart.size(), text.size() - kStart.size() - kEnd.size());
     }
     return fake.said;
 }
 
 TEST(FlightEditAccept, StandsAndTotalsWarnJustBeyondTheirLimits) {
     constexpr std::int32_t kOff = kNoTurnAroundLimit;
+    const std::string early = "Departure is earlier than arrival for leg number 2.";
+    const std::string shortLeg = "Stand time is less than 30 minutes for leg number 2.";
+    const std::string shortEnd = "Stand time is less than 30 minutes for end of flight.";
+    const std::string longLeg = "Stand time is greater than 1 hours for leg number 2.";
+    const std::string longEnd = "Stand time is greater than 1 hours for end of flight";
+    const std::string total = "Total flight time exceeds maximum allowed time of ";
+    const std::string week = total + "one week.";
     struct Case {
-        std::string_view period;
-        std::string_view times;
+        std::string_view period, times;
         std::int32_t minimum;  // minutes
         std::int32_t maximum;  // hours
         Texts warnings;
     };
     const std::vector<Case> cases = {
         {"24Hr", "08:00:00-09:00:00 09:30:00-10:30:00", 30, kOff, {}},
-        {"24Hr",
-         "08:00:00-09:00:00 09:29:59-10:30:00",
-         30,
-         kOff,
-         {"Warning! Stand time is less than 30 minutes for leg number 2."}},
-        {"24Hr", "08:00:00-09:00:00 11:00:00-18:00:00 20:00:00-06:00:00", kOff, 2, {}},
-        {"24Hr",
-         "08:00:00-09:00:00 11:00:01-18:00:00 20:00:00-06:00:00",
-         kOff,
-         2,
-         {"Warning! Stand time is greater than 2 hours for leg number 2."}},
-        {"24Hr",
-         "22:00:00-23:00:00 00:00:00-01:00:00",
-         60,
-         1,
-         {"Warning! Stand time is greater than 1 hours for end of flight"}},
-        {"24Hr",
-         "08:00:00-09:00:00 09:30:00-07:45:00",
-         30,
-         kOff,
-         {"Warning! Stand time is less than 30 minutes for end of flight."}},
+        {"24Hr", "08:00:00-09:00:00 09:29:59-10:30:00", 30, kOff, {shortLeg}},
+        {"24Hr", "08:00:00-09:00:00 10:00:00-18:00:00 19:00:00-07:00:00", kOff, 1, {}},
+        {"24Hr", "08:00:00-09:00:00 10:00:01-18:00:00 19:00:00-07:00:00", kOff, 1, {longLeg}},
+        {"24Hr", "22:00:00-23:00:00 00:00:00-01:00:00", 60, 1, {longEnd}},
+        {"24Hr", "08:00:00-09:00:00 09:30:00-07:45:00", 30, kOff, {shortEnd}},
         {"2Hr", "08:00:00-08:30:00 09:00:00-09:59:59", kOff, kOff, {}},
-        {"2Hr",
-         "08:00:00-08:30:00 09:00:00-10:00:00",
-         kOff,
-         kOff,
-         {"Warning! Total flight time exceeds maximum allowed time of 2 hours."}},
-        {"3Hr",
-         "08:00:00-08:30:00 09:00:00-09:30:00",
-         kOff,
-         kOff,
-         {"Warning! Total flight time exceeds maximum allowed time of 0 hours."}},
-        {"24Hr",
-         "08:00:00-bad 09:00:00-10:00:00",
-         30,
-         1,
-         {"Warning! Stand time is greater than 1 hours for end of flight"}},
-
+        {"2Hr", "08:00:00-08:30:00 09:00:00-10:00:00", kOff, kOff, {total + "2 hours."}},
+        {"3Hr", "08:00:00-08:30:00 09:00:00-09:30:00", kOff, kOff, {total + "0 hours."}},
+        {"24Hr", "08:00:00-bad 09:00:00-10:00:00", 30, 1, {longEnd}},
         {"WEEK", "1/08:00:00-1/09:00:00 1/09:30:00-1/10:30:00", 30, kOff, {}},
-        {"WEEK",
-         "1/08:00:00-1/09:00:00 1/09:29:59-1/10:30:00",
-         30,
-         kOff,
-         {"Warning! Stand time is less than 30 minutes for leg number 2."}},
-        {"week",
-         "1/08:00:00-1/09:00:00 1/08:59:59-1/10:30:00",
-         30,
-         kOff,
-         {"Warning! Departure is earlier than arrival for leg number 2."}},
-        {"WEEK",
-         "1/08:00:00-1/09:00:00 1/11:00:00-1/12:00:00",
-         kOff,
-         1,
-         {"Warning! Stand time is greater than 1 hours for leg number 2.",
-          "Warning! Stand time is greater than 1 hours for end of flight."}},
-        {"WEEK",
-         "1/08:00:00-4/09:00:00 4/10:00:00-0/08:00:00 0/09:00:00-1/07:45:00",
-         30,
-         kOff,
-         {"Warning! Stand time is less than 30 minutes for end of flight."}},
-        {"WEEK",
-         "1/08:00:00-4/09:00:00 4/08:00:00-1/07:00:00",
-         kOff,
-         kOff,
-         {"Warning! Departure is earlier than arrival for leg number 2.",
-          "Warning! Total flight time exceeds maximum allowed time of one week."}},
-        {"WEEK",
-         "1/08:00:00-4/09:00:00 4/10:00:00-0/08:00:00 0/09:00:00-1/08:00:00",
-         kOff,
-         kOff,
-         {"Warning! Total flight time exceeds maximum allowed time of one week."}},
+        {"WEEK", "1/08:00:00-1/09:00:00 1/09:29:59-1/10:30:00", 30, kOff, {shortLeg}},
+        {"week", "1/08:00:00-1/09:00:00 1/08:59:59-1/10:30:00", 30, kOff, {early}},
+        {"WEEK", "1/08:00:00-1/09:00:00 1/11:00:00-1/12:00:00", kOff, 1, {longLeg, longEnd + "."}},
+        {"WEEK", "1/08:00:00-4/09:00:00 4/10:00:00-0/08:00:00 0/09:00:00-1/07:45:00", 30, kOff, {shortEnd}},
+        {"WEEK", "1/08:00:00-4/09:00:00 4/08:00:00-1/07:00:00", kOff, kOff, {early, week}},
+        {"WEEK", "1/08:00:00-4/09:00:00 4/10:00:00-0/08:00:00 0/09:00:00-1/08:00:00", kOff, kOff, {week}},
     };
     for (const Case& row : cases) {
         SCOPED_TRACE(row.times);
@@ -129,34 +81,30 @@ TEST(FlightEditAccept, StandsAndTotalsWarnJustBeyondTheirLimits) {
 
 TEST(FlightEditAccept, RangesAndLevelsOfAnInstalledAircraftAreCheckedLegByLeg) {
     struct Case {
-        std::int32_t minRange;
-        std::int32_t maxRange;
+        std::int32_t minRange, maxRange;
         std::string_view levels;  // of legs 1 (eastbound) and 2
         std::string_view aircraft;
         Texts warnings;
     };
+    const auto range = [](int leg, std::string_view limits) {
+        return Concat("Aircraft range limits reached for leg ", leg, " (", limits, ").");
+    };
+    const auto level = [](int leg, std::string_view band) {
+        return Concat("Flight Level might be incorrect for leg ", leg, ". Suggestion: ", band);
+    };
     const std::vector<Case> cases = {
         {300, 300, "090 080", "AC#1", {}},
-        {301,
-         500,
-         "090 080",
-         "AC#1",
-         {"Warning! Aircraft range limits reached for leg 1 (301nm - 500nm).",
-          "Warning! Aircraft range limits reached for leg 2 (301nm - 500nm)."}},
+        {301, 500, "090 080", "AC#1", {range(1, "301nm - 500nm"), range(2, "301nm - 500nm")}},
         {0,
          299,
          "090 090",
          "AC#1",
-         {"Warning! Aircraft range limits reached for leg 1 (0nm - 299nm).",
-          "Warning! Aircraft range limits reached for leg 2 (0nm - 299nm).",
-          "Warning! Flight Level might be incorrect for leg 2. Suggestion: FL060-260 +020"}},
+         {range(1, "0nm - 299nm"), range(2, "0nm - 299nm"), level(2, "FL060-260 +020")}},
         {-1,
          -1,
          "high 080",
          "AC#1",
-         {"Warning! Aircraft range limits reached for leg 1 (-1nm - -1nm).",
-          "Warning! Flight Level might be incorrect for leg 1. Suggestion: FL050-250 +020",
-          "Warning! Aircraft range limits reached for leg 2 (-1nm - -1nm)."}},
+         {range(1, "-1nm - -1nm"), level(1, "FL050-250 +020"), range(2, "-1nm - -1nm")}},
         {301, 500, "100 100", "AC#2", {}},
     };
     for (const Case& row : cases) {
@@ -181,8 +129,7 @@ TEST(FlightEditAccept, RangesAndLevelsOfAnInstalledAircraftAreCheckedLegByLeg) {
 
 TEST(FlightEditAccept, ANoSelectsTheLegOrThePeriodAndStoresNothing) {
     struct Case {
-        std::string_view period;
-        std::string_view times;
+        std::string_view period, times;
         std::size_t passed;  // warnings before the No
         std::int32_t selected;
         bool atPeriod;

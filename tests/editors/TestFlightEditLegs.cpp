@@ -29,42 +29,21 @@ TEST(FlightEditLegs, ANewLegComesBehindTheSelectedOneButBeforeTheLast) {
         std::vector<Leg> legs;
         std::int32_t selected;
         std::int32_t place;  // of the new leg
-        std::string_view departs;
-        std::string_view route;
+        std::string_view departs, route;
     };
-    const auto fixed = Editor::FixedLeg;
+    const auto pair = [](std::string_view depart, std::string_view arrive, std::string_view day = "") {
+        return std::vector{Editor::FixedLeg(depart, arrive, "BBBB"),
+                           Editor::FixedLeg(Concat(day, "12:00:00"), Concat(day, "13:00:00"), "AAAA")};
+    };
+    const std::vector<Leg> odd = {Editor::FixedLeg("08:00:00", "bad"), Editor::FreeLeg("12:00:00", "AAAA")};
+    constexpr std::string_view kThree = "BBBB@ BBBB@ AAAA@ ";
     const std::vector<Case> cases = {
-        {"24Hr",
-         {fixed("08:00:00", "09:15:30", "BBBB"), fixed("12:00:00", "13:00:00", "AAAA")},
-         0,
-         1,
-         "10:15:30",
-         "BBBB@ BBBB@ AAAA@ "},
-        {"24Hr",
-         {fixed("08:00:00", "23:30:00", "BBBB"), fixed("12:00:00", "13:00:00", "AAAA")},
-         1,
-         1,
-         "00:30:00",
-         "BBBB@ BBBB@ AAAA@ "},
-        {"week",
-         {fixed("6/20:00:00", "6/23:00:00", "BBBB"), fixed("1/12:00:00", "1/13:00:00", "AAAA")},
-         0,
-         1,
-         "0/00:00:00",
-         "BBBB@ BBBB@ AAAA@ "},
-        {"WEEK",
-         {fixed("2/20:00:00", "2/22:59:59", "BBBB"), fixed("4/12:00:00", "4/13:00:00", "AAAA")},
-         0,
-         1,
-         "2/23:59:59",
-         "BBBB@ BBBB@ AAAA@ "},
-        {"24Hr",
-         {fixed("08:00:00", "bad", "BBBB"), Editor::FreeLeg("12:00:00", "AAAA")},
-         0,
-         1,
-         "12:00:00",
-         "BBBB@ BBBB AAAA "},
-        {"24Hr", {fixed("08:00:00", "09:00:00", "BBBB")}, 0, 0, "10:00:00", "BBBB@ BBBB@ "},
+        {"24Hr", pair("08:00:00", "09:15:30"), 0, 1, "10:15:30", kThree},
+        {"24Hr", pair("08:00:00", "23:30:00"), 1, 1, "00:30:00", kThree},
+        {"week", pair("6/20:00:00", "6/23:00:00", "1/"), 0, 1, "0/00:00:00", kThree},
+        {"WEEK", pair("2/20:00:00", "2/22:59:59", "4/"), 0, 1, "2/23:59:59", kThree},
+        {"24Hr", odd, 0, 1, "12:00:00", "BBBB@ BBBB AAAA "},
+        {"24Hr", {Editor::FixedLeg("08:00:00", "09:00:00")}, 0, 0, "10:00:00", "BBBB@ BBBB@ "},
     };
     for (const Case& row : cases) {
         SCOPED_TRACE(Concat(row.period, " ", row.departs));
@@ -82,39 +61,11 @@ TEST(FlightEditLegs, ANewLegComesBehindTheSelectedOneButBeforeTheLast) {
         });
         const Leg& leg = fake.edited.Legs[static_cast<std::size_t>(row.place)];
         EXPECT_EQ(leg.DepartTime, row.departs);
-        if (leg.FixedETA) {
-            EXPECT_EQ(leg.ETA, row.departs);
-        } else {
-            EXPECT_EQ(leg.ETA, "12:15:00") << "a leg of no length takes 15 minutes";
-        }
+        // A free leg of no length takes 15 minutes.
+        EXPECT_EQ(leg.ETA, leg.FixedETA ? row.departs : "12:15:00");
         EXPECT_EQ(leg.FlightLevel, "210");
         EXPECT_EQ(leg.NumberMode, "F");
         EXPECT_EQ(RouteOf(fake.edited), row.route);
-    }
-}
-
-TEST(FlightEditLegs, OnlyALegInTheMiddleIsDeletedAndOnlyAfterAYes) {
-    const Flight flight =
-        Editor::FlightOf("24Hr", {Editor::FreeLeg("08:00:00", "BBBB"), Editor::FreeLeg("10:00:00", "CCCC"),
-                                  Editor::FreeLeg("12:00:00", "AAAA")});
-    for (const MessageAnswer answer : {No, Yes}) {
-        Editor fake;
-        fake.Edit(flight,
-                  [&] {
-                      for (const std::int32_t row : {0, 2, 1}) {
-                          fake.ClickRow(fake.editor.lvLegs, row);
-                          EXPECT_EQ(fake.editor.cmdDelete.enabled, row == 1);
-                          fake.ReleaseKey(fake.editor.lvLegs, kKeyDelete);
-                      }
-                      ASSERT_EQ(fake.editor.lvLegs.Count(), answer == Yes ? 2 : 3);
-                      if (answer == No) return;
-                      EXPECT_EQ(fake.Row(1), "BBBB AAAA 12:00:00 13:00:00 0001 FL100");
-                      EXPECT_EQ(fake.editor.lvLegs.current, 1);
-                      EXPECT_EQ(fake.editor.txtTime.text, "12:00:00");
-                      EXPECT_FALSE(fake.editor.cmdDelete.enabled);
-                  },
-                  {answer});
-        EXPECT_EQ(fake.said, Texts{"Are you sure to delete the leg?"});
     }
 }
 
@@ -145,8 +96,7 @@ TEST(FlightEditLegs, AirportsChangeTheLegsThatMeetThereAndTheirArrivals) {
 
 TEST(FlightEditLegs, TypedTimesAreTakenInTheZoneAndTheArrivalFollows) {
     struct Case {
-        std::string_view period;
-        std::string_view zone;
+        std::string_view period, zone;
         std::string_view day;  // empty: not chosen
         std::string_view time;
         std::string_view shown;   // in the row, departure and arrival
@@ -181,29 +131,6 @@ TEST(FlightEditLegs, TypedTimesAreTakenInTheZoneAndTheArrivalFollows) {
     }
 }
 
-TEST(FlightEditLegs, AnotherZoneChangesWhatIsShownAndNoFlight) {
-    Editor fake;
-    const Flight flight = Editor::FlightOf("WEEK", {Editor::FixedLeg("6/23:30:00", "0/00:30:00", "BBBB"),
-                                                    Editor::FixedLeg("3/10:00:00", "noon", "AAAA")});
-    fake.session.FEditZone = "GMT +01:00";
-    fake.Edit(flight, [&] {
-        EXPECT_EQ(fake.editor.cmZone.Text(), "GMT +01:00");
-        EXPECT_EQ(fake.Row(0), "AAAA BBBB 0/00:30:00 0/01:30:00 0001 FL100");
-        EXPECT_EQ(fake.editor.cmDay.Text(), "Sunday");
-        EXPECT_EQ(fake.editor.txtETA.text, "01:30:00");
-        fake.Choose(fake.editor.cmZone, "GMT -05:00");
-        EXPECT_EQ(fake.Row(0), "AAAA BBBB 6/18:30:00 6/19:30:00 0001 FL100");
-        EXPECT_EQ(fake.Row(1), "BBBB AAAA 3/05:00:00 noon 0001 FL100");
-        EXPECT_EQ(fake.editor.cmDay.Text(), "Saturday");
-        EXPECT_EQ(fake.editor.txtTime.text, "18:30:00");
-        fake.Press(fake.editor.ckFlightTimes);
-        fake.Press(fake.editor.ckFlightLevel);
-        fake.Accept();
-    });
-    EXPECT_EQ(fake.edited, flight);
-    EXPECT_EQ(fake.session.FEditZone, "GMT -05:00");
-}
-
 TEST(FlightEditLegs, AFixedArrivalStaysUntilItIsTypedOrSetFree) {
     Editor fake;
     fake.session.FEditZone = "GMT +02:00";
@@ -226,50 +153,12 @@ TEST(FlightEditLegs, AFixedArrivalStaysUntilItIsTypedOrSetFree) {
               });
 }
 
-TEST(FlightEditLegs, PeriodsGainAndLoseTheDays) {
-    struct Case {
-        std::string_view from;
-        std::string_view day;
-        std::string_view to;
-        MessageAnswer answer;
-        std::string_view period;  // afterwards
-        std::string_view times;
-    };
-    const std::vector<Case> cases = {
-        {"24Hr", "", "8Hr", No, "8Hr", "12:00:00-13:00:00 "},
-        {"3Hr", "", "WEEK", No, "WEEK", "0/12:00:00-0/13:00:00 "},
-        {"WEEK", "4/", "24Hr", Yes, "24Hr", "12:00:00-13:00:00 "},
-        {"WEEK", "4/", "24Hr", No, "WEEK", "4/12:00:00-4/13:00:00 "},
-        {"week", "4/", "WEEK", No, "week", "4/12:00:00-4/13:00:00 "},
-    };
-    for (const Case& row : cases) {
-        SCOPED_TRACE(Concat(row.from, " to ", row.to));
-        Editor fake;
-        fake.SwitchChecksOff();
-        const std::string day(row.day);
-        fake.Edit(Editor::FlightOf(row.from, {Editor::FixedLeg(day + "12:00:00", day + "13:00:00")}),
-                  [&] {
-                      fake.Choose(fake.editor.cmPeriod, row.to);
-                      EXPECT_TRUE(EqualNoCase(fake.editor.cmPeriod.Text(), row.period));
-                      EXPECT_EQ(fake.editor.cmDay.visible, EqualNoCase(row.period, "WEEK"));
-                      EXPECT_EQ(fake.editor.lblDay.visible, fake.editor.cmDay.visible);
-                      fake.Accept();
-                  },
-                  {row.answer});
-        EXPECT_EQ(fake.edited.Period, row.period);
-        EXPECT_EQ(TimesOf(fake.edited), row.times);
-        const bool asks = row.from == "WEEK";
-        EXPECT_EQ(fake.said, asks ? Texts{"Are you sure to remove the weekly flight?"} : Texts{});
-    }
-}
-
 TEST(FlightEditLegs, InvalidTextsAreNotStoredAndKeepTheFocus) {
     constexpr std::string_view kTime = "Invalid time format (hh:mm[:ss])";
     constexpr std::string_view kLevel = "Flight Level has to be a value between 10 and 999";
     constexpr std::string_view kPercent = "Percent has to be a value between 1 and 99.";
     struct Case {
-        std::string_view field;
-        std::string_view text;
+        std::string_view field, text;
         std::string_view message;  // empty: valid
         std::string_view stored;
     };

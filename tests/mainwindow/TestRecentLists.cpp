@@ -10,25 +10,18 @@ namespace {
 TEST(RecentLists, PathsMoveAsTheyAreOpened) {
     using Paths = std::array<std::string, 5>;
     struct Case {
-        const char* name;
         Paths before;
         const char* path;
         Paths after;
     };
     const std::vector<Case> cases = {
-        {"the first path", {}, "/a", {"/a"}},
-        {"a new path pushes the fifth out",
-         {"/1", "/2", "/3", "/4", "/5"},
-         "/6",
-         {"/6", "/1", "/2", "/3", "/4"}},
-        {"the third moves to the top in its new spelling",
-         {"/1", "/2", "/c", "/4", "/5"},
-         "/C",
-         {"/C", "/1", "/2", "/4", "/5"}},
-        {"the top stays as it is", {"/a", "/2"}, "/A", {"/a", "/2"}},
+        {{}, "/a", {"/a"}},
+        {{"/1", "/2", "/3", "/4", "/5"}, "/6", {"/6", "/1", "/2", "/3", "/4"}},
+        {{"/1", "/2", "/c", "/4", "/5"}, "/C", {"/C", "/1", "/2", "/4", "/5"}},  // in its new spelling
+        {{"/a", "/2"}, "/A", {"/a", "/2"}},                                      // the top stays as it is
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(c.path);
         test::FakeProgram fake;
         fake.session.RecentFlightplans = c.before;
         AddRecentFlightplan(fake.context, c.path);

@@ -39,12 +39,7 @@ struct SearchWorld : FakeProgram {
 
     void AddAirport(std::string code, std::string region, std::string country, std::string latitude,
                     std::string longitude) {
-        PlanAirport planAirport;
-        planAirport.ICAO = code;
-        planAirport.Latitude = latitude;
-        planAirport.Longitude = longitude;
-        session.PlanAirportIndex.Add(code, session.PlanAirportCount());
-        session.PlanAirports.push_back(planAirport);
+        AddPlanAirport(code, std::move(latitude), std::move(longitude));
         AirportRecord record;
         record.ICAO = std::move(code);
         record.Region = std::move(region);
@@ -53,7 +48,7 @@ struct SearchWorld : FakeProgram {
     }
 
     void Add(const std::string& line, bool removed = false) {
-        if (!AppendFlightplanLine(line, session.Flights)) throw std::runtime_error(line);
+        AddFlight(line);
         session.Flights.SetRemoved(session.FlightCount() - 1, removed);
     }
 

@@ -45,13 +45,5 @@ TEST(AirlineSkeleton, WithoutSceneryItSaysSoAndWritesNothing) {
     EXPECT_TRUE(fake.form.enabled);
 }
 
-TEST(AirlineSkeleton, TheCommandWritesIntoTheProgramFolder) {
-    test::FakeProgram fake;
-    fake.session.Airports = {Place("Europe", "France")};
-    fake.Press(fake.form.mnuToolsAirlinesCFG);
-    EXPECT_TRUE(fake.world.files.FileExists("/program/New ORLO_AL.CFG"));
-    EXPECT_EQ(fake.world.messages.shown.back().second, "Successfully generated 'New ORLO_AL.CFG'.");
-}
-
 }  // namespace
 }  // namespace orlo

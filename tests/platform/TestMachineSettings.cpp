@@ -47,8 +47,7 @@ constexpr std::string_view kRegistry = R"(WINE REGISTRY Version 2
 
 TEST(WineRegistry, TextValuesAreFoundAndDecoded) {
     struct Case {
-        std::string_view key;
-        std::string_view name;
+        std::string_view key, name;
         std::optional<std::string> value;
     };
     const std::string_view fs = "software\\wow6432node\\MICROSOFT\\Microsoft Games\\Flight Simulator\\8.0";

@@ -24,8 +24,7 @@ TEST(PosixFileSystem, NamesAreFoundWithoutRegardToCase) {
     folder.Put("\xC4\x9A.txt", "E caron");
     PosixFileSystem files;
     struct Case {
-        std::string path;
-        std::string resolved;
+        std::string path, resolved;
         std::optional<std::string> content;
     };
     const std::string caron = "\xC4\x9A.txt";

@@ -24,19 +24,6 @@ TEST(SystemRandom, AFixedSeedRepeatsItsValuesAtEverySeeding) {
     EXPECT_NE(other.Next(), first);
 }
 
-TEST(SystemRandom, ValuesFillTheRangeFromZeroToBelowOneEvenly) {
-    SystemRandom random(1);
-    std::array<int, 10> tenths{};
-    constexpr int kDraws = 100000;
-    for (int i = 0; i < kDraws; ++i) {
-        const double value = random.Next();
-        ASSERT_GE(value, 0.0);
-        ASSERT_LT(value, 1.0);
-        ++tenths[static_cast<std::size_t>(value * 10)];
-    }
-    for (const int count : tenths) EXPECT_NEAR(count, kDraws / 10, kDraws / 100);
-}
-
 TEST(SystemClock, TellsLocalTime) {
     EXPECT_EQ(test::RunInChild([] {
                   setenv("TZ", "XXX-5:30", 1);  // five and a half hours ahead

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/Text.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/UserFolders.h"
@@ -16,32 +17,13 @@ const std::string kPath = "/home/settings.txt";
 TEST(TextSettingsStore, EveryValueAndNameSurvivesWritingAndReading) {
     std::string all;
     for (int i = 0; i < 256; ++i) all.push_back(static_cast<char>(i));
-    const std::string texts[] = {"",
-                                 "30",
-                                 " ",
-                                 "  both  ",
-                                 "\ttab\t",
-                                 "\"",
-                                 "\"quoted\"",
-                                 "\"open",
-                                 "a\"b",
-                                 "a=b",
-                                 "=",
-                                 "[x]",
-                                 ";c",
-                                 "#c",
-                                 "\\",
-                                 "C:\\new\\0",
-                                 "\\n\"",
-                                 "line\nend",
-                                 "line\r\nend",
-                                 all,
-                                 "\xEF\xBB\xBF",
-                                 "\xE4\xFF",
-                                 "x\\",
-                                 "]",
-                                 std::string("\0", 1),
-                                 std::string(100000, 'v')};
+    std::vector<std::string> texts = {all, std::string("\0", 1), std::string(100000, 'v'), "line\r\nend"};
+    for (const std::string_view text : SplitText(
+             "|30| |  both  |\ttab\t|\"|\"quoted\"|\"open|a\"b|a=b|=|[x]|;c|#c|\\|C:\\new\\0|\\n\"|line\nend|"
+             "\xEF\xBB\xBF|\xE4\xFF|x\\|]",
+             '|')) {
+        texts.emplace_back(text);
+    }
     test::MemoryFileSystem files;
     TextSettingsStore written(files, kPath);
     for (const std::string& text : texts) {

@@ -9,7 +9,6 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <array>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -18,7 +17,7 @@
 
 #include "core/Text.h"
 #include "desktop/DesktopHost.h"
-#include "desktop/FormWindow.h"
+#include "qt/UserHands.h"
 #include "shell/Program.h"
 #include "support/FakeHosts.h"
 
@@ -78,83 +77,38 @@ struct SampleForm : Form {
     }
 };
 
-template <EventKind Kind>
-constexpr std::string_view kKindName = "?";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Click> = "Click";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Change> = "Change";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Leave> = "Leave";
-template <>
-inline constexpr std::string_view kKindName<EventKind::SelectTab> = "SelectTab";
-template <>
-inline constexpr std::string_view kKindName<EventKind::CheckNode> = "CheckNode";
-template <>
-inline constexpr std::string_view kKindName<EventKind::SelectRow> = "SelectRow";
-template <>
-inline constexpr std::string_view kKindName<EventKind::DoubleClick> = "DoubleClick";
-template <>
-inline constexpr std::string_view kKindName<EventKind::ClickColumn> = "ClickColumn";
-template <>
-inline constexpr std::string_view kKindName<EventKind::KeyUp> = "KeyUp";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Popup> = "Popup";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Hover> = "Hover";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Close> = "Close";
-template <>
-inline constexpr std::string_view kKindName<EventKind::Help> = "Help";
-template <>
-inline constexpr std::string_view kKindName<EventKind::DropFile> = "DropFile";
+// In the order of EventKind.
+constexpr std::string_view kKindNames[] = {
+    "Click", "Change", "Leave", "SelectTab",  "CheckNode", "SelectRow", "DoubleClick", "ClickColumn", "KeyUp",
+    "Popup", "Hover",  "Timer", "SystemMenu", "Help",      "DropFile",  "Resize",      "Close"};
 
 // Notes the event and runs what the test wants to run.
-template <EventKind Kind>
-void Note(Context& context, Event& event) {
+inline void Note(Context& context, Event& event) {
     auto& form = static_cast<SampleForm&>(*event.form);
-    const std::string what =
-        Concat(kKindName<Kind>, " ", event.control != nullptr ? event.control->name : "form");
+    const std::string what = Concat(kKindNames[static_cast<std::size_t>(event.kind)], " ",
+                                    event.control != nullptr ? event.control->name : "form");
     form.ran.push_back(what);
     const auto found = form.on.find(what);
     if (found != form.on.end()) found->second(context, event);
 }
 
-template <EventKind Kind>
-constexpr EventEntry Noted(std::string_view control) {
-    return {control, Kind, Note<Kind>};
-}
-
 inline EventTable SampleEvents() {
     using enum EventKind;
-    static constexpr std::array kEvents = {
-        Noted<Close>(""),
-        Noted<Help>(""),
-        Noted<DropFile>(""),
-        Noted<KeyUp>(""),
-        Noted<Click>("mnuTick"),
-        Noted<Click>("mnuSelectAll"),
-        Noted<SelectTab>("tabViews"),
-        Noted<Change>("txtName"),
-        Noted<Leave>("txtName"),
-        Noted<KeyUp>("txtName"),
-        Noted<Change>("txtOther"),
-        Noted<Change>("txtNotes"),
-        Noted<Change>("cmZone"),
-        Noted<Change>("cmFree"),
-        Noted<Click>("ckSwitch"),
-        Noted<Click>("opFirst"),
-        Noted<Click>("opSecond"),
-        Noted<SelectRow>("lvRows"),
-        Noted<DoubleClick>("lvRows"),
-        Noted<ClickColumn>("lvRows"),
-        Noted<Popup>("lvRows"),
-        Noted<KeyUp>("lvRows"),
-        Noted<CheckNode>("tvNodes"),
-        Noted<Hover>("tvNodes"),
-        Noted<Click>("cmdGo"),
-        Noted<Click>("cmdStop"),
-    };
+    static const std::vector<EventEntry> kEvents = [] {
+        std::vector<EventEntry> events;
+        const auto add = [&](EventKind kind, std::initializer_list<std::string_view> controls) {
+            for (const std::string_view control : controls) events.push_back({control, kind, Note});
+        };
+        for (const EventKind kind : {Close, Help, DropFile, KeyUp}) add(kind, {""});
+        for (const EventKind kind : {SelectRow, DoubleClick, ClickColumn, Popup, KeyUp})
+            add(kind, {"lvRows"});
+        for (const EventKind kind : {Change, Leave, KeyUp}) add(kind, {"txtName"});
+        for (const EventKind kind : {CheckNode, Hover}) add(kind, {"tvNodes"});
+        add(Click, {"mnuTick", "mnuSelectAll", "ckSwitch", "opFirst", "opSecond", "cmdGo", "cmdStop"});
+        add(Change, {"txtOther", "txtNotes", "cmZone", "cmFree"});
+        add(SelectTab, {"tabViews"});
+        return events;
+    }();
     return kEvents;
 }
 
@@ -185,18 +139,10 @@ struct DesktopProgram {
     // Draws what the test itself has written into the form.
     void CatchUp() { host.CatchUp(WindowOf(form)); }
 
-    static FormWindow& WindowOf(const Form& of) {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            auto* window = dynamic_cast<FormWindow*>(widget);
-            if (window != nullptr && window->Shown() == &of) return *window;
-        }
-        throw std::runtime_error("no window of that form");
-    }
+    static FormWindow& WindowOf(const Form& of) { return test::WindowOf(of); }
     template <typename Widget>
     static Widget& Find(const Control& control) {
-        auto* found = WindowOf(control.form).findChild<Widget*>(QString::fromStdString(control.name));
-        if (found == nullptr) throw std::runtime_error("no widget of that control");
-        return *found;
+        return dynamic_cast<Widget&>(WidgetOf(control));
     }
 
     // By way of the system's window, as a real mouse and keyboard do.
@@ -220,6 +166,11 @@ struct DesktopProgram {
         Find<QWidget>(control).setFocus();
         EXPECT_EQ(form.focus, &control);
     }
+};
+
+struct DesktopTest : testing::Test {
+    DesktopProgram desktop;
+    SampleForm& form = desktop.form;
 };
 
 // Runs in the dialog that opens next.

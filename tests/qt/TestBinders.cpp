@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenu>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTableView>
@@ -16,7 +15,7 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
-using test::SampleForm;
+using Binders = test::DesktopTest;
 
 constexpr std::int32_t kManyRows = 1000000;
 
@@ -30,9 +29,7 @@ QPoint RowPlace(const QTableView& table, int row) {
     return table.viewport()->mapTo(&table, table.visualRect(table.model()->index(row, 0)).center());
 }
 
-TEST(Binders, AChangeByCodeIsDrawnAndFiresNoHandler) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Binders, AChangeByCodeIsDrawnAndFiresNoHandler) {
     AddRows(form.lvRows, 3);
     desktop.CatchUp();
     form.caption = "Other";
@@ -79,107 +76,7 @@ TEST(Binders, AChangeByCodeIsDrawnAndFiresNoHandler) {
     EXPECT_EQ(form.ran, std::vector<std::string>{});
 }
 
-// An act of the user's, its event, and what the form says when the event runs.
-struct Act {
-    const char* event;
-    std::function<void(DesktopProgram&)> act;
-    std::function<bool(const SampleForm&)> written;
-};
-
-TEST(Binders, AnActOfTheUserWritesTheFormAndThenRunsItsHandlerOnce) {
-    const std::vector<Act> acts = {
-        {"Click cmdGo", [](DesktopProgram& d) { d.Click(d.form.cmdGo); },
-         [](const SampleForm&) { return true; }},
-        {"Click ckSwitch", [](DesktopProgram& d) { d.Click(d.form.ckSwitch); },
-         [](const SampleForm& form) { return form.ckSwitch.checked; }},
-        {"Click opSecond", [](DesktopProgram& d) { d.Click(d.form.opSecond); },
-         [](const SampleForm& form) { return form.opSecond.checked && !form.opFirst.checked; }},
-        {"Click opFirst", [](DesktopProgram& d) { d.Click(d.form.opFirst); },
-         [](const SampleForm& form) { return form.opFirst.checked && !form.opSecond.checked; }},
-        {"Change cmZone",
-         [](DesktopProgram& d) {
-             d.Focus(d.form.cmZone);
-             d.Key(d.form, Qt::Key_Down);
-         },
-         [](const SampleForm& form) { return form.cmZone.index == 1; }},
-        {"SelectTab tabViews",
-         [](DesktopProgram& d) {
-             auto& tabs = d.Find<QTabBar>(d.form.tabViews);
-             d.ClickAt(tabs, tabs.tabRect(1).center());
-         },
-         [](const SampleForm& form) { return form.tabViews.selectedKey == "TWO"; }},
-        // The check mark of a menu entry is the procedure's to turn.
-        {"Click mnuTick",
-         [](DesktopProgram& d) { d.WindowOf(d.form).findChild<QAction*>("mnuTick")->trigger(); },
-         [](const SampleForm& form) { return !form.mnuTick.checked; }},
-        {"CheckNode tvNodes",
-         [](DesktopProgram& d) {
-             auto& tree = d.Find<QTreeView>(d.form.tvNodes);
-             d.Focus(d.form.tvNodes);
-             tree.expandAll();
-             tree.setCurrentIndex(tree.model()->index(1, 0, tree.model()->index(0, 0)));
-             d.Key(d.form, Qt::Key_Space);
-         },
-         [](const SampleForm& form) {
-             return form.tvNodes.At(2).checked && !form.tvNodes.At(1).checked && form.tvNodes.current == 2;
-         }},
-        {"SelectRow lvRows",
-         [](DesktopProgram& d) {
-             auto& table = d.Find<QTableView>(d.form.lvRows);
-             d.ClickAt(table, RowPlace(table, 1));
-         },
-         [](const SampleForm& form) {
-             return form.lvRows.current == 1 && form.lvRows.SelectedPlaces() == std::vector{1};
-         }},
-        {"ClickColumn lvRows",
-         [](DesktopProgram& d) {
-             auto& table = d.Find<QTableView>(d.form.lvRows);
-             d.ClickAt(table, QPoint(table.columnWidth(0) + 20, 10));
-         },
-         [](const SampleForm& form) { return !form.lvRows.sorted; }},
-        {"KeyUp lvRows",
-         [](DesktopProgram& d) {
-             d.Focus(d.form.lvRows);
-             d.Key(d.form, Qt::Key_Delete);
-         },
-         [](const SampleForm&) { return true; }},
-    };
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    AddRows(form.lvRows, 3);
-    desktop.CatchUp();
-    for (const Act& act : acts) {
-        SCOPED_TRACE(act.event);
-        bool written = false;
-        form.ran.clear();
-        form.on[act.event] = [&](Context&, Event&) { written = act.written(form); };
-        act.act(desktop);
-        DesktopProgram::Settle();
-        EXPECT_EQ(form.ran, std::vector<std::string>{act.event});
-        EXPECT_TRUE(written);
-    }
-    EXPECT_FALSE(desktop.WindowOf(form).findChild<QAction*>("mnuTick")->isChecked());
-}
-
-TEST(Binders, ADoubleClickComesBehindItsSelection) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    AddRows(form.lvRows, 5);
-    desktop.CatchUp();
-    auto& table = desktop.Find<QTableView>(form.lvRows);
-    std::int32_t row = -1;
-    form.on["DoubleClick lvRows"] = [&](Context&, Event& event) { row = event.value; };
-    const QPoint place = table.mapTo(table.window(), RowPlace(table, 3));
-    QTest::mouseClick(table.window()->windowHandle(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(table.window()->windowHandle(), Qt::LeftButton, {}, place);
-    DesktopProgram::Settle();
-    EXPECT_EQ(form.ran, (std::vector<std::string>{"SelectRow lvRows", "DoubleClick lvRows"}));
-    EXPECT_EQ(row, form.lvRows.PlaceAt(3));
-}
-
-TEST(Binders, AMillionRowsAreSelectedAsOneRange) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Binders, AMillionRowsAreSelectedAsOneRange) {
     AddRows(form.lvRows, kManyRows);
     desktop.CatchUp();
     auto& table = desktop.Find<QTableView>(form.lvRows);
@@ -215,9 +112,7 @@ TEST(Binders, AMillionRowsAreSelectedAsOneRange) {
 }
 
 // Every other row of many is half a million ranges, which the toolkit can't hold.
-TEST(Binders, ASelectionInPiecesIsKeptByTheForm) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Binders, ASelectionInPiecesIsKeptByTheForm) {
     AddRows(form.lvRows, 100000);
     const auto selectEveryOther = [&] {
         for (std::int32_t i = 0; i < form.lvRows.Count(); ++i) form.lvRows.Select(i, i % 2 == 1);
@@ -248,24 +143,7 @@ TEST(Binders, ASelectionInPiecesIsKeptByTheForm) {
     EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 100000u);
 }
 
-TEST(Binders, RangesOfAListAreThoseOfItsDisplayedOrder) {
-    SampleForm form;
-    ListView& list = form.lvRows;
-    for (const char* text : {"d", "b", "a", "c"}) list.Add({"", "", "", Colour::WindowText, {text}});
-    list.SortByColumn(0);
-    const std::vector<PositionRange> ranges = {{-3, 0}, {2, 9}};
-    list.SelectOnly(ranges);
-    EXPECT_EQ(list.SelectedPlaces(), (std::vector{2, 3, 0}));
-    ASSERT_EQ(list.SelectedRanges().size(), 2u);
-    EXPECT_EQ(list.SelectedRanges()[1].first, 2);
-    EXPECT_EQ(list.SelectedRanges()[1].last, 3);
-    list.Clear();
-    EXPECT_TRUE(list.SelectedRanges().empty());
-}
-
-TEST(Binders, ATreeShowsChecksGroupsAndColours) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Binders, ATreeShowsChecksGroupsAndColours) {
     TreeView& tree = form.tvNodes;
     auto& shown = desktop.Find<QTreeView>(tree);
     const QModelIndex group = shown.model()->index(0, 0);
@@ -303,21 +181,7 @@ TEST(Binders, ATreeShowsChecksGroupsAndColours) {
     EXPECT_TRUE(form.Ran("CheckNode tvNodes") == 1);
 }
 
-TEST(Binders, TipsAndPopUpMenusAskTheirProcedures) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    AddRows(form.lvRows, 1);
-    desktop.CatchUp();
-    form.on["Popup lvRows"] = [&](Context&, Event& event) { event.menu = &form.mnuSelect; };
-    auto& table = desktop.Find<QTableView>(form.lvRows);
-    QContextMenuEvent ask(QContextMenuEvent::Mouse, QPoint(5, 5), table.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(table.viewport(), &ask);
-    auto* menu = desktop.WindowOf(form).findChild<QMenu*>("mnuSelectMenu");
-    ASSERT_TRUE(menu->isVisible());
-    QTest::keyClick(menu, Qt::Key_A);
-    DesktopProgram::Settle();
-    EXPECT_EQ(form.Ran("Click mnuSelectAll"), 1);
-
+TEST_F(Binders, TipsAskTheirProcedure) {
     std::vector<std::int32_t> nodes;
     form.on["Hover tvNodes"] = [&](Context&, Event& event) { nodes.push_back(event.value); };
     auto& tree = desktop.Find<QTreeView>(form.tvNodes);
@@ -328,13 +192,12 @@ TEST(Binders, TipsAndPopUpMenusAskTheirProcedures) {
     EXPECT_EQ(nodes, (std::vector{0, -1}));
 }
 
-TEST(Binders, EveryControlOfTheKnownFormsHasItsWidgetNameAndBuddy) {
-    DesktopProgram desktop;
+TEST_F(Binders, EveryControlOfTheKnownFormsHasItsWidgetNameAndBuddy) {
     Forms& forms = desktop.program.forms;
-    for (Form* form : {static_cast<Form*>(&forms.frmMain), static_cast<Form*>(&forms.frmAbout)}) {
-        desktop.host.ShowForm(*form);
-        FormWindow& window = desktop.WindowOf(*form);
-        for (const Control* control : form->Controls()) {
+    for (Form* of : {static_cast<Form*>(&forms.frmMain), static_cast<Form*>(&forms.frmAbout)}) {
+        desktop.host.ShowForm(*of);
+        FormWindow& window = desktop.WindowOf(*of);
+        for (const Control* control : of->Controls()) {
             SCOPED_TRACE(control->name);
             const QString name = QString::fromStdString(control->name);
             if (control->kind == ControlKind::MenuEntry) {
@@ -349,7 +212,7 @@ TEST(Binders, EveryControlOfTheKnownFormsHasItsWidgetNameAndBuddy) {
                 EXPECT_EQ(window.findChild<QLabel*>(QString::fromStdString(label->name))->buddy(), widget);
             }
         }
-        desktop.host.UnloadForm(*form);
+        desktop.host.UnloadForm(*of);
     }
 }
 

@@ -18,6 +18,7 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
+using Dialogs = test::DesktopTest;
 using test::InDialog;
 using test::SampleForm;
 
@@ -33,8 +34,7 @@ struct Folders {
     std::string Path(const char* name) const { return Concat(root.path().toStdString(), "/", name); }
 };
 
-TEST(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
-    DesktopProgram desktop;
+TEST_F(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
     const Folders folders;
     FileDialog dialog;
     dialog.title = "Open";
@@ -67,8 +67,7 @@ TEST(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
     }
 }
 
-TEST(Dialogs, AFolderDialogGivesAFolder) {
-    DesktopProgram desktop;
+TEST_F(Dialogs, AFolderDialogGivesAFolder) {
     const Folders folders;
     for (const bool accepted : {true, false}) {
         InDialog<QFileDialog>([&](QFileDialog& shown) {
@@ -119,8 +118,7 @@ TEST(Printing, PagesEndBetweenLinesAndLongLinesGoOn) {
     EXPECT_EQ(PagesOf("text", folders.Path("nowhere/out.pdf")), 0);
 }
 
-TEST(Printing, ADialogPrintsShowsAPreviewOrGivesUp) {
-    DesktopProgram desktop;
+TEST_F(Dialogs, ADialogPrintsShowsAPreviewOrGivesUp) {
     const Folders folders;
     const std::string path = folders.Path("exports/out.pdf");
     const auto fillIn = [&](QPrintDialog& shown) {
@@ -152,8 +150,7 @@ TEST(Printing, ADialogPrintsShowsAPreviewOrGivesUp) {
     EXPECT_TRUE(ReadAll(path).startsWith("%PDF"));
 }
 
-TEST(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
-    DesktopProgram desktop;
+TEST_F(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
     SampleForm dialog("frmDialog");
     bool open = false;
     QTimer::singleShot(50, [] { throw std::bad_alloc(); });
@@ -162,18 +159,18 @@ TEST(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
         dialog.closeRequest = true;
         desktop.host.Post({});
     });
-    desktop.form.on["Click cmdGo"] = [&](Context& context, Event&) {
-        context.services.windows.ShowModal(dialog, &desktop.form);
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        context.services.windows.ShowModal(dialog, &form);
     };
-    desktop.Click(desktop.form.cmdGo);
+    desktop.Click(form.cmdGo);
     DesktopProgram::Settle();
     EXPECT_TRUE(QTest::qWaitFor([&] { return open && !dialog.visible; }, 5000));
     EXPECT_EQ(desktop.program.pump.Windows().TopModal(), nullptr);
     EXPECT_FALSE(desktop.program.pump.OperationRuns());
-    desktop.form.ran.clear();
-    desktop.Click(desktop.form.ckSwitch);
+    form.ran.clear();
+    desktop.Click(form.ckSwitch);
     DesktopProgram::Settle();
-    EXPECT_EQ(desktop.form.Ran("Click ckSwitch"), 1);
+    EXPECT_EQ(form.Ran("Click ckSwitch"), 1);
 }
 
 }  // namespace

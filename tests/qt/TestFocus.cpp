@@ -11,6 +11,7 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
+using Focus = test::DesktopTest;
 using test::SampleForm;
 
 void Refuse(Context&, Event& event) {
@@ -55,7 +56,7 @@ const std::vector<Way>& WaysOut() {
     return kWays;
 }
 
-TEST(Focus, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
+TEST(Leaving, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
     for (const Way& way : WaysOut()) {
         SCOPED_TRACE(way.name);
         DesktopProgram desktop;
@@ -88,7 +89,7 @@ TEST(Focus, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
     }
 }
 
-TEST(Focus, MenusEnterEscapeAndTheCloseBoxAreNoLeaves) {
+TEST(Leaving, MenusEnterEscapeAndTheCloseBoxAreNoLeaves) {
     const std::vector<Way> ways = {
         {"a menu",
          [](DesktopProgram& d) {
@@ -121,9 +122,7 @@ TEST(Focus, MenusEnterEscapeAndTheCloseBoxAreNoLeaves) {
     }
 }
 
-TEST(Focus, ALeaveMayShowItsMessageAndTheNextClickWorks) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Focus, ALeaveMayShowItsMessageAndTheNextClickWorks) {
     form.on["Leave txtName"] = [&](Context& context, Event& event) {
         QTimer::singleShot(50, [] { QApplication::activeModalWidget()->close(); });
         context.services.messages.ShowMessage("Number should be a numeric value.", kMarkExclamation, "Orlo",
@@ -142,9 +141,7 @@ TEST(Focus, ALeaveMayShowItsMessageAndTheNextClickWorks) {
     EXPECT_EQ(form.Ran("Leave txtName"), 1);
 }
 
-TEST(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
     auto& name = desktop.Find<QLineEdit>(form.txtName);
     auto& other = desktop.Find<QLineEdit>(form.txtOther);
     form.txtName.text = "name";
@@ -182,9 +179,7 @@ TEST(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
     EXPECT_TRUE(form.ran.empty());
 }
 
-TEST(Focus, TheTabKeyFollowsTheOrderOfTheControls) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Focus, TheTabKeyFollowsTheOrderOfTheControls) {
     desktop.Focus(form.tabViews);
     std::vector<std::string> order;
     for (int i = 0; i < 10; ++i) {

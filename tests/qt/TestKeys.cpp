@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QTableView>
 #include <QUrl>
 
@@ -16,16 +17,15 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
-using test::SampleForm;
+using Keys = test::DesktopTest;
+using Typing = test::DesktopTest;
 
 void AddNames(ListView& list) {
     for (const char* name : {"Delta", "Alpha", "Malm\xF6", "Bravo"})
         list.Add({"", "", "", Colour::WindowText, {name, "a\tb"}});
 }
 
-TEST(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Focus(form.cmdGo);
     desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
     DesktopProgram::Settle();
@@ -51,9 +51,7 @@ TEST(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     EXPECT_TRUE(form.ran.empty());
 }
 
-TEST(Keys, F1AsksForHelpWhereverTheFocusIs) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, F1AsksForHelpWhereverTheFocusIs) {
     for (Control* control :
          std::initializer_list<Control*>{&form.txtName, &form.cmFree, &form.lvRows, &form.cmdGo}) {
         desktop.Focus(*control);
@@ -64,9 +62,7 @@ TEST(Keys, F1AsksForHelpWhereverTheFocusIs) {
     }
 }
 
-TEST(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     auto& combo = desktop.Find<QComboBox>(form.cmFree);
     form.cmFree.index = 1;
     desktop.CatchUp();
@@ -95,9 +91,7 @@ TEST(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     EXPECT_EQ(form.cmFree.Text(), "Red");
 }
 
-TEST(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
     AddNames(form.lvRows);
     desktop.CatchUp();
     desktop.Focus(form.lvRows);
@@ -123,9 +117,7 @@ TEST(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), copied);
 }
 
-TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     desktop.Find<QTableView>(form.lvRows).horizontalHeader()->resizeSection(0, 231);
     desktop.host.UnloadForm(form);
     DesktopProgram::Settle();
@@ -135,26 +127,7 @@ TEST(Keys, AWidthThatTheUserChoseStaysForTheNextWindow) {
     EXPECT_EQ(form.lvRows.columnWidths.count("B"), 0u) << "drawing a width chooses none";
 }
 
-TEST(Keys, TheCurrentRowIsSeenAfterSorting) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    for (int i = 0; i < 2000; ++i)
-        form.lvRows.Add({"", "", "", Colour::WindowText, {std::to_string(5000 - i), "x"}});
-    form.on["ClickColumn lvRows"] = [&](Context&, Event& event) {
-        form.lvRows.SortByColumn(event.value);
-        form.lvRows.ensureVisibleRequest = true;
-    };
-    desktop.CatchUp();
-    auto& table = desktop.Find<QTableView>(form.lvRows);
-    desktop.ClickAt(table, QPoint(20, 10));
-    DesktopProgram::Settle();
-    ASSERT_EQ(form.lvRows.PositionOf(form.lvRows.current), 1999);
-    EXPECT_TRUE(table.viewport()->rect().contains(table.visualRect(table.currentIndex()).center()));
-}
-
-TEST(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     std::string path;
     form.on["DropFile form"] = [&](Context&, Event& event) { path = event.path; };
     const auto drop = [](QWidget& widget, const QMimeData& data) {
@@ -187,12 +160,91 @@ TEST(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     EXPECT_EQ(form.Ran("DropFile form"), 2);
 }
 
-TEST(Keys, APathInAMenuKeepsItsAmpersands) {
-    DesktopProgram desktop;
-    desktop.form.mnuTick.plainCaption = true;
-    desktop.form.mnuTick.caption = "/R&D/plan.txt";
+TEST_F(Keys, APathInAMenuKeepsItsAmpersands) {
+    form.mnuTick.plainCaption = true;
+    form.mnuTick.caption = "/R&D/plan.txt";
     desktop.CatchUp();
     EXPECT_EQ(desktop.WindowOf(desktop.form).findChild<QAction*>("mnuTick")->text(), "/R&&D/plan.txt");
+}
+
+TEST_F(Typing, TypingWhileTheWindowIsRedrawnLosesNoCharacter) {
+    form.on["Change txtName"] = [&](Context& context, Event&) {
+        form.sbState.text = Concat("Typed ", form.txtName.text);
+        form.lvRows.Add({"", "", "", Colour::Black, {form.txtName.text, "x"}});
+        form.txtOther.text = form.txtName.text;
+        context.services.windows.ProcessEvents();
+    };
+    desktop.Focus(form.txtName);
+    std::string typed;
+    for (int i = 0; i < 200; ++i) {
+        const char character = static_cast<char>('a' + i % 26);
+        typed.push_back(character);
+        QTest::keyClick(desktop.WindowOf(form).windowHandle(), character);
+        if (i % 7 == 0) DesktopProgram::Settle();
+        EXPECT_EQ(form.txtName.text, typed);
+    }
+    DesktopProgram::Settle();
+    EXPECT_EQ(desktop.Find<QLineEdit>(form.txtName).text().toStdString(), typed);
+    EXPECT_EQ(desktop.Find<QLineEdit>(form.txtOther).text().toStdString(), typed);
+    EXPECT_EQ(form.Ran("Change txtName"), 200);
+}
+
+TEST_F(Typing, AHandlerThatChangesTheFieldIsSeenBeforeTheNextKey) {
+    form.on["Change txtName"] = [&](Context&, Event&) { form.txtName.text = UpperText(form.txtName.text); };
+    desktop.Focus(form.txtName);
+    desktop.Type(form, "abc");
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.txtName.text, "ABC");
+    auto& line = desktop.Find<QLineEdit>(form.txtName);
+    EXPECT_EQ(line.text(), "ABC");
+
+    line.setCursorPosition(1);
+    desktop.Type(form, "xy");
+    DesktopProgram::Settle();
+    EXPECT_EQ(line.text(), "AXYBC");
+    EXPECT_EQ(line.cursorPosition(), 3);
+}
+
+TEST_F(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
+    form.txtName.text = "Malm\xF6";
+    desktop.CatchUp();
+    auto& line = desktop.Find<QLineEdit>(form.txtName);
+    EXPECT_EQ(line.text(), QString::fromUtf8("Malm\xC3\xB6"));
+    EXPECT_EQ(form.txtName.text, "Malm\xF6");
+    desktop.Focus(form.txtName);
+    line.setCursorPosition(0);
+    desktop.Type(form, "x");
+    EXPECT_EQ(form.txtName.text, "xMalm\xF6");
+
+    form.txtNotes.text = "one\r\ntwo";
+    desktop.CatchUp();
+    auto& notes = desktop.Find<QPlainTextEdit>(form.txtNotes);
+    EXPECT_EQ(notes.toPlainText(), "one\ntwo");
+    desktop.Focus(form.txtNotes);
+    desktop.Key(form, Qt::Key_Return);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.txtNotes.text, "\r\none\r\ntwo");
+    EXPECT_EQ(form.Ran("Change txtNotes"), 1);
+    EXPECT_EQ(form.Ran("Click cmdGo"), 0);
+}
+
+TEST_F(Typing, KeysTypedWhileAnOperationRunsReachNoField) {
+    desktop.Focus(form.txtName);
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        form.enabled = false;
+        desktop.Type(form, "lost");
+        context.services.windows.ProcessEvents();
+        form.enabled = true;
+    };
+    desktop.Key(form, Qt::Key_Return);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("Click cmdGo"), 1);
+    EXPECT_EQ(form.txtName.text, "");
+    EXPECT_EQ(form.focus, &form.txtName);
+    desktop.Type(form, "kept");
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.txtName.text, "kept");
+    EXPECT_EQ(form.Ran("Change txtName"), 4);
 }
 
 }  // namespace

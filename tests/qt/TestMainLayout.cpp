@@ -68,12 +68,6 @@ struct MainWindow {
     }
 };
 
-std::vector<ControlBox> BoxesOf(const Form& form) {
-    std::vector<ControlBox> boxes;
-    for (const Control* control : form.Controls()) boxes.push_back(control->box);
-    return boxes;
-}
-
 struct Shown {
     const Control* control;
     QRect place;  // in the window
@@ -112,19 +106,6 @@ void ExpectApartAndWhole(const Form& form, const std::string& when) {
         const int least = showsCaption ? natural.width() : 0;
         EXPECT_GE(shown[i].place.width(), least) << control.name << ", " << when;
     }
-}
-
-TEST(MainLayout, AWindowOfItsOpeningSizeHasTheBoxesThatItOpenedWith) {
-    MainWindow main;
-    const int width = main.form.innerWidth;
-    const int height = main.form.innerHeight;
-    const std::vector<ControlBox> opened = BoxesOf(main.form);
-    EXPECT_EQ(main.Window().size(), QSize(width, height));
-    main.ResizeTo(width + 101, height + 33);
-    EXPECT_NE(BoxesOf(main.form), opened);
-    EXPECT_EQ(test::DesktopProgram::Find<QWidget>(main.form.cmdShuffle).x(), main.form.cmdShuffle.box.left);
-    main.ResizeTo(width, height);
-    EXPECT_EQ(BoxesOf(main.form), opened);
 }
 
 TEST(MainLayout, NothingOverlapsIsCutOrLeavesItsPaneAtAnySizeAndFont) {

@@ -2,121 +2,63 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QFileDialog>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QProcess>
 #include <QTemporaryDir>
 
-#include "platform/Platform.h"
-#include "platform/common/SystemRandom.h"
 #include "qt/DesktopProgram.h"
-#include "shell/StartUp.h"
+#include "qt/RealProgram.h"
 
 namespace orlo {
 namespace {
 
 using test::DesktopProgram;
 
-constexpr std::string_view kSettings = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
+std::string WorldOnce() {
+    static const QTemporaryDir kRoot;
+    static const std::string kWorld = [] {
+        std::string path = PathFromQString(kRoot.filePath("world"));
+        EXPECT_TRUE(test::MakeSampleWorld(path, 20));
+        return path;
+    }();
+    return kWorld;
+}
 
-struct World {
-    QTemporaryDir root;
-    World() { EXPECT_EQ(QProcess::execute(ORLO_SAMPLE_WORLD_TOOL, {root.path()}), 0); }
-    std::string Path(const char* name) const { return Concat(root.path().toStdString(), "/", name); }
-    static const World& Made() {
-        static const World kMade;
-        return kMade;
-    }
+struct StartedProgram : test::RealProgram {
+    const SplashForm& splash = program.forms.frmSplash;
+
+    StartedProgram() : RealProgram(WorldOnce()) { EXPECT_TRUE(StartUp(program.context)); }
 };
 
-struct MainProgram {
-    const World& world = World::Made();
-    std::unique_ptr<FileSystem> files = MakeFileSystem();
-    std::unique_ptr<Clock> clock = MakeClock();
-    test::FakeSettings settings;
-    test::FakeSettings machine;
-    SystemRandom random;
-    DesktopHost host;
-    Services services{*files, settings, machine, host, host, host, random, *clock};
-    Program program{services, world.Path("Program")};
-    MainForm& form = program.forms.frmMain;
-
-    MainProgram() {
-        settings.Set(kSettings, "SimulatorFolder", world.Path("Simulator"));
-        settings.Set("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Recent Flightplans", "1",
-                     world.Path("Plan/R&D.txt"));
-        settings.Set(kSettings, "ACCheck", "0");
-        host.Attach(program.pump, program.forms.frmProgress);
-        EXPECT_TRUE(StartUp(program.context));
-    }
-    ~MainProgram() { host.Detach(); }
-    void EndSplash() {
-        CloseSplash(program.context);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&DesktopProgram::WindowOf(form)));
-    }
-    bool WaitForPlan() {
-        return QTest::qWaitFor([this] { return program.session.PlanLoaded && form.enabled; }, 20000);
-    }
-};
-
-TEST(MainWindow, APlanOpensByItsShortcutAndTheCloseBoxEndsTheProgramWithItsSettings) {
-    MainProgram desktop;
-    desktop.EndSplash();
-    const std::string plan = desktop.world.Path("Plan/FlightPlans.txt");
-    test::InDialog<QFileDialog>([&](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Open Flightplan");
-        test::Choose(dialog, plan);
-    });
-    DesktopProgram::Key(desktop.form, Qt::Key_O, Qt::ControlModifier);
-    ASSERT_TRUE(desktop.WaitForPlan());
-    EXPECT_TRUE(desktop.form.sbMain.text.starts_with("Flightplan loaded with "));
-    EXPECT_GT(desktop.form.tvShuffleAircraft.Count(), 0);
-    DesktopProgram::Settle();
-    auto& window = DesktopProgram::WindowOf(desktop.form);
-    EXPECT_EQ(window.findChild<QAction*>("mnuRecentFlightPlan1")->text().toStdString(), plan);
-    EXPECT_EQ(window.findChild<QAction*>("mnuRecentFlightPlan2")->text().toStdString(),
-              desktop.world.Path("Plan/R&&D.txt"));
-
+TEST(MainWindow, TheCloseBoxEndsTheProgramAndStoresThePlaceOfTheWindow) {
+    StartedProgram desktop;
+    CloseSplash(desktop.program.context);
+    FormWindow& window = DesktopProgram::WindowOf(desktop.form);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     window.setGeometry(40, 30, 700, 500);
     QTimer::singleShot(50, [&] { window.close(); });
     desktop.host.RunUntilClosed(desktop.form);
-    EXPECT_EQ(desktop.settings.Get(kSettings, "SimulatorFolder"), desktop.world.Path("Simulator"));
-    EXPECT_EQ(desktop.settings.Get(kSettings, "MainLeft"), "40");
-    EXPECT_EQ(desktop.program.session.FlightCount(), 0);
-}
-
-TEST(MainWindow, APlanDroppedOnItOpens) {
-    MainProgram desktop;
-    desktop.EndSplash();
-    Event drop{&desktop.form, nullptr, EventKind::DropFile};
-    drop.path = desktop.world.Path("Plan/FlightPlans.txt");
-    desktop.host.Post(drop);
-    EXPECT_TRUE(desktop.WaitForPlan());
-    EXPECT_EQ(desktop.program.session.FlightplanPath, drop.path);
+    EXPECT_EQ(desktop.userSettings->Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "MainLeft"),
+              "40");
 }
 
 TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
     struct Way {
         const char* name;
-        std::function<void(MainProgram&)> act;
+        std::function<void(StartedProgram&)> act;
     };
     const std::vector<Way> ways = {
-        {"time", [](MainProgram& d) { d.host.StartTimer(kSplashTimer, 1); }},
-        {"a letter", [](MainProgram& d) { DesktopProgram::Key(d.program.forms.frmSplash, Qt::Key_X); }},
-        {"Escape", [](MainProgram& d) { DesktopProgram::Key(d.program.forms.frmSplash, Qt::Key_Escape); }},
-        {"a key with Alt",
-         [](MainProgram& d) { DesktopProgram::Key(d.program.forms.frmSplash, Qt::Key_F, Qt::AltModifier); }},
-        {"a click", [](MainProgram& d) { DesktopProgram::Click(d.program.forms.frmSplash.picSplash); }},
+        {"time", [](StartedProgram& d) { d.host.StartTimer(kSplashTimer, 1); }},
+        {"a letter", [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_X); }},
+        {"Escape", [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_Escape); }},
+        {"Alt and a key",
+         [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_F, Qt::AltModifier); }},
+        {"a click", [](StartedProgram& d) { DesktopProgram::Click(d.splash.picSplash); }},
     };
     for (const Way& way : ways) {
         SCOPED_TRACE(way.name);
-        MainProgram desktop;
-        const SplashForm& splash = desktop.program.forms.frmSplash;
-        ASSERT_TRUE(splash.visible);
-        const FormWindow& window = DesktopProgram::WindowOf(splash);
+        StartedProgram desktop;
+        ASSERT_TRUE(desktop.splash.visible);
+        const FormWindow& window = DesktopProgram::WindowOf(desktop.splash);
         EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
         EXPECT_NEAR(window.windowOpacity(), 192 / 255.0, 0.01);
         const QPoint off =
@@ -124,7 +66,7 @@ TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
         EXPECT_LE(off.manhattanLength(), 4);
         way.act(desktop);
         DesktopProgram::Settle();
-        EXPECT_FALSE(splash.visible);
+        EXPECT_FALSE(desktop.splash.visible);
         EXPECT_FALSE(desktop.host.TimerArmed(kSplashTimer));
         EXPECT_TRUE(desktop.form.visible);
     }
@@ -132,30 +74,16 @@ TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
 
 // A dialog that the splash owned would go with it.
 TEST(MainWindow, ADialogOutlivesTheSplash) {
-    MainProgram desktop;
+    StartedProgram desktop;
     desktop.host.StartTimer(kSplashTimer, 20);
     bool stands = false;
     QTimer::singleShot(150, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        stands = box != nullptr && !desktop.program.forms.frmSplash.visible;
+        stands = box != nullptr && !desktop.splash.visible;
         if (box != nullptr) box->close();
     });
     desktop.host.ShowNotBuilt("cmdMove");
     EXPECT_TRUE(stands);
-}
-
-TEST(MainWindow, AboutIsModalOverTheMainWindowAndItsButtonClosesIt) {
-    MainProgram desktop;
-    desktop.EndSplash();
-    const AboutForm& about = desktop.program.forms.frmAbout;
-    bool modal = false;
-    QTimer::singleShot(100, [&] {
-        modal = desktop.program.pump.Windows().TopModal() == &about;
-        EXPECT_EQ(DesktopProgram::WindowOf(about).parentWidget(), &DesktopProgram::WindowOf(desktop.form));
-        DesktopProgram::Key(about, Qt::Key_Return);
-    });
-    DesktopProgram::WindowOf(desktop.form).findChild<QAction*>("mnuHelpAbout")->trigger();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return modal && !about.visible; }, 2000));
 }
 
 }  // namespace

@@ -119,11 +119,11 @@ void ExpectSame(const Outcome& window, const Outcome& console) {
     EXPECT_EQ(window.files.size(), console.files.size());
 }
 
-// A script of the console's own tests without what the window's driver doesn't do: prints on paper, and what
-// tells about the form rather than the screen.
-std::string ConsoleTest(const std::string& name) {
-    QFile file(QString::fromStdString(Concat(ORLO_SOURCE_DIR, "/tests/scripts/", name, ".txt")));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+// A script, those of the console's own tests without what the window's driver doesn't do: prints on paper,
+// and what tells about the form rather than the screen.
+std::string ScriptOf(const std::string& path) {
+    QFile file(QString::fromStdString(Concat(ORLO_SOURCE_DIR, "/tests/", path, ".txt")));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
     std::string kept;
     const std::string text = file.readAll().toStdString();
     for (const std::string_view line : SplitText(text, '\n')) {
@@ -135,80 +135,13 @@ std::string ConsoleTest(const std::string& name) {
     return kept;
 }
 
-// From an open plan to a saved one, with what stands in the window after each step.
-constexpr const char* kDayOfWork = R"(
-reply no
-choose Plan/FlightPlans.txt
-click mnuFileLoad
-show sbMain
-set cmShufflerView Airlines
-show tvShuffleAircraft
-node tvShuffleAircraft "Sample Air Cascade" off
-node tvShuffleAircraft "Sample Air Liberty" off
-node tvShuffleAircraft "Sample Air Liberty" on
-show lblShuffleAircraft
-set ckRemoveMinus on
-set txtStartNumber 300
-click cmdShuffle
-set cmShufflerView "UI Manufacturer"
-show tvShuffleAircraft
-set tabMain EXPORT
-set txtExCountry states
-key txtExAirline Enter
-show lblExPreview
-sort lvExPreview Registration
-sort lvExPreview Registration
-show lvExPreview
-set cmExZone "GMT -08:00"
-show lvExPreview
-dblclick lvExPreview 1
-set txtPercent 0
-set txtPercent 44
-set txtReg N-EDITED
-reply yes
-click cmdOK
-show lvExPreview
-select lvExPreview 0,2
-reply no
-key lvExPreview Delete
-reply yes
-key lvExPreview Delete
-rows lvExPreview
-show lblExPreview
-click mnuFileSave
-enabled mnuFileSave
-enabled mnuToolsUndo
-click mnuToolsUndo
-enabled mnuToolsUndo
-enabled mnuFileSave
-click cmdPreview
-show lvExPreview
-set tabMain SHUFFLE
-show tvShuffleAircraft
-click cmdShuffle
-reply cancel
-quit
-echo "still here"
-reply cancel
-click mnuRecentFlightPlan1
-reply yes
-click mnuRecentFlightPlan1
-show sbMain
-enabled mnuFileSave
-click cmdShuffle
-reply yes
-quit
-echo "never reached"
-)";
-
 TEST(RealWindow, SaysAndWritesWhatTheConsoleDoes) {
     World world;
-    for (const char* name : {"open-shuffle-save", "search", "flight-editor", "exit-questions"}) {
-        SCOPED_TRACE(name);
-        ExpectSame(RunInWindow(world, ConsoleTest(name)), RunOnConsole(world, ConsoleTest(name)));
+    for (const char* path : {"scripts/open-shuffle-save", "scripts/search", "scripts/flight-editor",
+                             "scripts/exit-questions", "qt/day-of-work"}) {
+        SCOPED_TRACE(path);
+        ExpectSame(RunInWindow(world, ScriptOf(path)), RunOnConsole(world, ScriptOf(path)));
     }
-    SCOPED_TRACE("a day of work");
-    ExpectSame(RunInWindow(world, kDayOfWork), RunOnConsole(world, kDayOfWork));
 }
 
 // By shortcuts, mnemonics, and the menus from one to the next.

@@ -20,7 +20,6 @@
 
 #include "console/ControlPrinting.h"
 #include "core/Text.h"
-#include "desktop/FormWindow.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo::test {
@@ -88,7 +87,7 @@ std::string ListSeen(const ListView& list) {
 
 }  // namespace
 
-QWidget& WindowOf(const Form& form) {
+FormWindow& WindowOf(const Form& form) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         auto* window = dynamic_cast<FormWindow*>(widget);
         if (window != nullptr && window->Shown() == &form) return *window;
@@ -209,7 +208,7 @@ void ClickColumn(const ListView& list, std::int32_t column) {
 }
 
 void GoTo(const Control& control) {
-    auto& window = static_cast<FormWindow&>(WindowOf(control.form));
+    FormWindow& window = WindowOf(control.form);
     for (int i = 0; i < kMostTabs && window.FocusControl() != &control; ++i) PressKeys(window, "Tab");
     if (window.FocusControl() != &control)
         throw std::runtime_error(Concat("the tab key doesn't reach ", control.name));

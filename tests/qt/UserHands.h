@@ -4,18 +4,17 @@
 #include <QWidget>
 #include <string>
 
+#include "desktop/FormWindow.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
 #include "forms/TreeView.h"
-
-class QWindow;
 
 namespace orlo::test {
 
 // What a user does to a control by mouse and keyboard, by way of the system's window. Each throws
 // std::runtime_error where the control can't be seen. All return before the events that they cause have run.
 
-QWidget& WindowOf(const Form& form);
+FormWindow& WindowOf(const Form& form);
 QWidget& WidgetOf(const Control& control);
 
 void ClickAt(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,

@@ -19,15 +19,13 @@
 #include "console/ScriptText.h"
 #include "core/Number.h"
 #include "core/Text.h"
-#include "desktop/FormWindow.h"
 #include "qt/UserHands.h"
 
 namespace orlo::test {
 namespace {
 
 constexpr int kStepMilliseconds = 5;
-constexpr int kMostSteps = 4000;  // that a command may take
-constexpr int kAnswerMilliseconds = 5;
+constexpr int kMostSteps = 4000;         // that a command may take
 constexpr int kPressMilliseconds = 150;  // for which a button pressed by its mnemonic stays down
 constexpr const char* kAnswered = "answered";
 
@@ -41,29 +39,13 @@ constexpr std::array<ButtonWord, 4> kButtons = {{{QMessageBox::Yes, MessageAnswe
                                                  {QMessageBox::Ok, MessageAnswer::Ok, "ok"},
                                                  {QMessageBox::Cancel, MessageAnswer::Cancel, "cancel"}}};
 
-std::string_view MarkWord(QMessageBox::Icon mark) {
-    switch (mark) {
-        case QMessageBox::Critical:
-            return "critical";
-        case QMessageBox::Question:
-            return "question";
-        case QMessageBox::Warning:
-            return "exclamation";
-        case QMessageBox::Information:
-            return "information";
-        default:
-            return "none";
-    }
-}
+// By the toolkit's icons.
+constexpr const char* kMarkWords[] = {"none", "information", "exclamation", "critical", "question"};
 
 std::int32_t Number(const std::string& word) {
     const auto number = ParseWholeNumber(word);
     if (!number) throw std::runtime_error(word + " is no number");
     return *number;
-}
-
-bool IsOn(const std::string& word) {
-    return word == "on";
 }
 
 }  // namespace
@@ -73,7 +55,7 @@ WindowScript::WindowScript(RealProgram& real, const std::string& script) : real_
 }
 
 std::string WindowScript::Run() {
-    answering_.start(kAnswerMilliseconds);
+    answering_.start(kStepMilliseconds);
     QTimer::singleShot(0, this, [this] { Step(); });
     real_.host.RunUntilClosed(real_.form);
     answering_.stop();
@@ -98,7 +80,7 @@ void WindowScript::Step() {
     }
     waited_ = 0;
     // What was caused by the last command runs first, and is seen.
-    real_.host.CatchUp(static_cast<FormWindow&>(WindowOf(top)));
+    real_.host.CatchUp(WindowOf(top));
     if (step != step_ || !real_.program.pump.TakesInput(top)) return;
     const QScopedValueRollback<const Form*> acting(actingIn_, &top);
     try {
@@ -137,8 +119,7 @@ void WindowScript::RunCommand(const Words& words) {
     const std::map<std::string_view, std::function<void()>> commands = {
         {"click", [&] { Click(Find(word(1))); }},
         {"set", [&] { Set(Find(word(1)), word(2)); }},
-        {"type", [&] { ReplaceText(Find(word(1)), word(2)); }},
-        {"node", [&] { Node(tree(), word(2), IsOn(word(3))); }},
+        {"node", [&] { Node(tree(), word(2), word(3) == "on"); }},
         {"select", [&] { Select(list(), word(2)); }},
         {"dblclick", [&] { DoubleClickRow(list(), Number(word(2))); }},
         {"sort", [&] { Sort(list(), word(2)); }},
@@ -153,7 +134,6 @@ void WindowScript::RunCommand(const Words& words) {
              for (std::size_t i = 1; i < words.size(); ++i) PressKeys(WindowOf(TopForm()), word(i));
              QTest::qWait(kPressMilliseconds);
          }},
-        {"close", [&] { WindowOf(TopForm()).close(); }},
         {"quit", [&] { quitting_ = true; }},
         {"reply", [&] { Reply(word(1)); }},
         {"choose", [&] { answers_.paths.push_back(path()); }},
@@ -192,17 +172,20 @@ void WindowScript::Click(Control& control) {
 }
 
 void WindowScript::Set(Control& control, const std::string& text) {
+    const auto turn = [&](bool checked) {
+        if (checked != (text == "on")) Click(control);
+    };
     switch (control.kind) {
         case ControlKind::TextBox:
             return SetText(control, text);
         case ControlKind::ComboBox:
             return SetCombo(static_cast<ComboBox&>(control), text);
         case ControlKind::CheckBox:
-            return SetSwitch(control, static_cast<CheckBox&>(control).checked, text);
+            return turn(static_cast<CheckBox&>(control).checked);
         case ControlKind::OptionButton:
-            return SetSwitch(control, static_cast<OptionButton&>(control).checked, text);
+            return turn(static_cast<OptionButton&>(control).checked);
         case ControlKind::MenuEntry:
-            return SetSwitch(control, static_cast<MenuEntry&>(control).checked, text);
+            return turn(static_cast<MenuEntry&>(control).checked);
         case ControlKind::TabStrip: {
             const auto& tabs = static_cast<TabStrip&>(control);
             const auto found = std::find_if(tabs.pages.begin(), tabs.pages.end(),
@@ -216,13 +199,9 @@ void WindowScript::Set(Control& control, const std::string& text) {
 
 void WindowScript::SetText(Control& field, const std::string& text) {
     ReplaceText(field, text);
-    auto& window = static_cast<FormWindow&>(WindowOf(field.form));
+    FormWindow& window = WindowOf(field.form);
     PressKeys(window, "Tab");
     if (window.FocusControl() == &field) said_ << "kept " << field.name << '\n';
-}
-
-void WindowScript::SetSwitch(Control& control, bool checked, const std::string& word) {
-    if (checked != IsOn(word)) Click(control);
 }
 
 void WindowScript::SetCombo(ComboBox& combo, const std::string& text) {
@@ -291,7 +270,7 @@ void WindowScript::AnswerMessage(QMessageBox& box) {
     }
     for (const ButtonWord& button : kButtons) {
         if (answer != button.answer) continue;
-        said_ << "message " << MarkWord(box.icon()) << " \"" << PrintedMessage(FromQString(box.text()))
+        said_ << "message " << kMarkWords[box.icon()] << " \"" << PrintedMessage(FromQString(box.text()))
               << "\" -> " << button.word << '\n';
         const QKeySequence keys = QKeySequence::mnemonic(box.button(button.button)->text());
         PressKeys(box, keys.isEmpty() ? "Esc" : keys.toString().toStdString());

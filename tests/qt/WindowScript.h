@@ -43,7 +43,6 @@ class WindowScript : public QObject {
     void Click(Control& control);
     void Set(Control& control, const std::string& text);
     void SetText(Control& field, const std::string& text);
-    void SetSwitch(Control& control, bool checked, const std::string& word);
     void SetCombo(ComboBox& combo, const std::string& text);
     void Node(const TreeView& tree, const std::string& text, bool on);
     void Select(const ListView& list, const std::string& rows);

@@ -31,12 +31,6 @@ TEST(EventPump, EventsThatNoUserCouldCauseAreDropped) {
     EXPECT_FALSE(fake.session.DebugOn) << "two clicks arrived";
 }
 
-TEST(EventPump, ACommandThatIsNotBuiltYetSaysSo) {
-    test::FakeProgram fake;
-    fake.Press(fake.form.mnuToolsResizeGates);
-    EXPECT_EQ(fake.world.windows.notBuilt, std::vector<std::string>{"mnuToolsResizeGates"});
-}
-
 TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {
     test::FakeProgram fake;
     fake.form.enabled = false;

@@ -23,27 +23,6 @@ void ReadAll(test::FakeProgram& fake) {
     ReadWindowPlace(fake.context);
 }
 
-TEST(Settings, AnEmptyStoreGivesTheDefaults) {
-    test::FakeProgram fake;
-    fake.world.windows.keepsWindowPlace = true;
-    ReadAll(fake);
-    const Session& session = fake.session;
-    EXPECT_TRUE(session.BackupPlan && session.BackupAircraft && session.Undo && session.ACCheck);
-    EXPECT_FALSE(session.DebugOn || session.ShowCompiler);
-    EXPECT_TRUE(fake.form.ckOverwriteTailNumber.checked && fake.form.ckCheckFL.checked &&
-                fake.form.ckIFRVFR.checked && fake.form.ckCheckVisitedAirports.checked);
-    EXPECT_FALSE(fake.form.ckRemoveMinus.checked);
-    EXPECT_EQ(session.TATime, 30);
-    EXPECT_EQ(session.MaxTATime, 24);
-    EXPECT_TRUE(fake.form.mnuTA30.checked && fake.form.mnuMaxTA24.checked);
-    EXPECT_EQ(session.StartNumber, 1);
-    EXPECT_EQ(fake.form.txtStartNumber.text, "1");
-    EXPECT_TRUE(fake.form.txtStartNumber.selectAllRequest);
-    EXPECT_EQ(fake.form.cmTTZone.Text(), "GMT");
-    EXPECT_FALSE(fake.form.mnuRecentFlightPlan.enabled);
-    EXPECT_TRUE(fake.form.centreRequest);
-}
-
 TEST(Settings, BooleansReadInBothForms) {
     struct Case {
         const char* stored;
@@ -71,51 +50,6 @@ TEST(Settings, ATurnAroundThatIsNoneOfTheMenuIsOff) {
     WriteSettings(fake.context);
     EXPECT_EQ(fake.world.userSettings.Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "TATime"),
               "999999");
-}
-
-TEST(Settings, TheExitWritesExactlyTheseInThisOrder) {
-    test::FakeProgram fake;
-    ReadAll(fake);
-    WriteSettings(fake.context);
-    const std::vector<std::string> expected = {"TATime",
-                                               "MaxTATime",
-                                               "BackupPlan",
-                                               "BackupAircraft",
-                                               "StartNumber",
-                                               "DebugOn",
-                                               "ShowCompiler",
-                                               "Undo",
-                                               "ACCheck",
-                                               "1",
-                                               "2",
-                                               "3",
-                                               "4",
-                                               "5",
-                                               "1",
-                                               "2",
-                                               "3",
-                                               "4",
-                                               "5",
-                                               "TTZone",
-                                               "EXZone",
-                                               "FEditZone",
-                                               "GenerateTailNumber",
-                                               "RemoveMinus",
-                                               "CheckFL",
-                                               "ChangeIFRVFR",
-                                               "CheckVisitedAirports",
-                                               "CheckAircraftRange",
-                                               "CheckFlightLevels",
-                                               "CheckFlightTimes"};
-    EXPECT_EQ(fake.world.userSettings.written, expected);
-
-    fake.world.userSettings.written.clear();
-    fake.world.windows.keepsWindowPlace = true;
-    fake.form.windowState = WindowState::Minimised;
-    WriteSettings(fake.context);
-    EXPECT_EQ(fake.world.userSettings.written[0], "MainState");
-    EXPECT_EQ(fake.world.userSettings.written[1], "TATime")
-        << "a minimised window keeps the place stored before";
 }
 
 TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) {
@@ -159,6 +93,16 @@ TEST(Settings, AMinimisedWindowComesBackNormal) {
     EXPECT_FALSE(fake.form.centreRequest);
     EXPECT_EQ(fake.form.box.height, 500);
     EXPECT_EQ(fake.form.box.left, 20);
+
+    fake.form.windowState = WindowState::Minimised;
+    WriteSettings(fake.context);
+    EXPECT_EQ(fake.world.userSettings.written[0], "MainState");
+    EXPECT_EQ(fake.world.userSettings.written[1], "TATime") << "the place stored before is kept";
+
+    test::FakeProgram first;
+    first.world.windows.keepsWindowPlace = true;
+    ReadAll(first);
+    EXPECT_TRUE(first.form.centreRequest);
 }
 
 }  // namespace

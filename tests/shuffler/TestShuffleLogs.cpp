@@ -85,78 +85,24 @@ TEST(ShuffleLogs, EachSetTellsWhatItWasGiven) {
     ShuffleWorld made;
     FillWorld(made);
     made.Shuffle();
-    const std::string expected = R"(R
-No Airline: 
-Total flights: 2
-	Aircraft (1):
-		Sledge: 2 flights
-	R
-
-R
-Region: Global
-Airlines: 3
-Total flights: 2
-R
-
-	R
-	Airline: Alpha
-	Total flights: 0
-	Planed Percent: 33
-	Achieved Percent: 0.00
-	Aircraft (1):
-		Jet One: 0 flights
-	R
-
-	R
-	Airline: Beta
-	Total flights: 2
-	Planed Percent: 33
-	Achieved Percent: 100.00
-	Aircraft (1):
-		Boat: 2 flights
-	R
-
-	R
-	Airline: Alpha
-	Total flights: 0
-	Planed Percent: 33
-	Achieved Percent: 0.00
-	Aircraft (1):
-		Jet One: 0 flights
-	R
-
-R
-City: North/One/Empty
-Airlines: 0
-Total flights: 0
-R
-
-R
-Airport: ONE1
-Airlines: 2
-Total flights: 1
-R
-
-	R
-	Airline: Alpha
-	Total flights: 1
-	Planed Percent: 100
-	Achieved Percent: 100.00
-	Aircraft (1):
-		Jet One: 1 flights
-	R
-
-	R
-	Airline: Gamma
-	Total flights: 0
-	Planed Percent: 0
-	Achieved Percent: 0.00
-	Aircraft (0):
-	R
-
-)";
-    const std::string rule(66, '-');
-    EXPECT_EQ(ReplaceAll(Lines(made.world.files.files["/plan/Shuffle Result.log"]), rule, "R"), expected);
+    // Lines end in "|", and "=" is a rule.
+    const auto airline = [](std::string_view name, int flights, int planned, std::string_view achieved,
+                            std::string_view aircraft) {
+        return Concat("\t=|\tAirline: ", name, "|\tTotal flights: ", flights, "|\tPlaned Percent: ", planned,
+                      "|\tAchieved Percent: ", achieved, "|\tAircraft (", aircraft.empty() ? 0 : 1, "):|",
+                      aircraft, "\t=||");
+    };
+    const std::string expected = Concat(
+        "=|No Airline: |Total flights: 2|\tAircraft (1):|\t\tSledge: 2 flights|\t=||",
+        "=|Region: Global|Airlines: 3|Total flights: 2|=||",
+        airline("Alpha", 0, 33, "0.00", "\t\tJet One: 0 flights|"),
+        airline("Beta", 2, 33, "100.00", "\t\tBoat: 2 flights|"),
+        airline("Alpha", 0, 33, "0.00", "\t\tJet One: 0 flights|"),
+        "=|City: North/One/Empty|Airlines: 0|Total flights: 0|=||",
+        "=|Airport: ONE1|Airlines: 2|Total flights: 1|=||",
+        airline("Alpha", 1, 100, "100.00", "\t\tJet One: 1 flights|"), airline("Gamma", 0, 0, "0.00", ""));
+    const std::string log = Lines(made.world.files.files["/plan/Shuffle Result.log"]);
+    EXPECT_EQ(ReplaceAll(ReplaceAll(log, std::string(66, '-'), "="), "\n", "|"), expected);
 }
 
 TEST(ShuffleLogs, WithoutLoggingOldLogsStayAndAFullDiskHarmsNothing) {

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
+#include "core/FlightplanFile.h"
 #include "shell/Program.h"
 #include "support/FakeHosts.h"
 
@@ -20,6 +24,14 @@ struct FakeProgram {
     FakeProgram() {
         program.pump.Windows().Show(form);
         world.windows.onModal = [this](Form& shown) { RunModal(shown); };
+    }
+
+    void AddFlight(std::string_view line) {
+        if (!AppendFlightplanLine(line, session.Flights)) throw std::runtime_error(std::string(line));
+    }
+    void AddPlanAirport(const std::string& code, std::string latitude, std::string longitude) {
+        session.PlanAirportIndex.Add(code, session.PlanAirportCount());
+        session.PlanAirports.push_back({code, std::move(latitude), std::move(longitude), "0"});
     }
 
     bool Press(Control& control) {

@@ -20,11 +20,9 @@ struct FlightEditProgram : FakeProgram {
 
     FlightEditProgram() {
         session.PlanLoaded = true;
-        for (const auto& [code, longitude] :
-             {std::pair{"AAAA", "E0* 00.00'"}, {"BBBB", "E5* 00.00'"}, {"CCCC", "E10* 00.00'"}}) {
-            session.PlanAirportIndex.Add(code, session.PlanAirportCount());
-            session.PlanAirports.push_back({code, "N0* 00.00'", longitude, "0"});
-        }
+        AddPlanAirport("AAAA", "N0* 00.00'", "E0* 00.00'");
+        AddPlanAirport("BBBB", "N0* 00.00'", "E5* 00.00'");
+        AddPlanAirport("CCCC", "N0* 00.00'", "E10* 00.00'");
         session.PlanAircrafts = {{"AC#1", "Jet (fast)", "300"}, {"AC#2", "Glider", "100"}};
         FSAircraft jet;
         jet.Title = "JET (FAST)";

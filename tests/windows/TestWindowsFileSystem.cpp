@@ -4,7 +4,6 @@
 
 #include "TemporaryFolder.h"
 #include "core/TextLines.h"
-#include "platform/windows/ProgramFolder.h"
 #include "platform/windows/WindowsHandle.h"
 
 namespace orlo {
@@ -95,19 +94,6 @@ TEST(WindowsFileSystem, ReadOnlyFilesStayAsTheyAre) {
     EXPECT_EQ(folder.Content(L"a.txt"), "new");
 }
 
-TEST(WindowsFileSystem, AFileInPlaceIsTruncatedAtOnceAndWrittenWithoutACommit) {
-    const TemporaryFolder folder;
-    folder.Put(L"Shuffle.log", "old lines");
-    WindowsFileSystem files;
-    {
-        const auto file = files.CreateInPlace(folder.Path("Shuffle.log"));
-        ASSERT_TRUE(file);
-        EXPECT_EQ(folder.Content(L"Shuffle.log"), "");
-        EXPECT_TRUE(file->Write("new"));
-    }
-    EXPECT_EQ(folder.Content(L"Shuffle.log"), "new");
-}
-
 TEST(WindowsFileSystem, DevicesFoldersAndPathsBehindFilesAreNoFiles) {
     const TemporaryFolder folder;
     folder.Put(L"a.txt", "a");
@@ -165,13 +151,6 @@ TEST(WindowsFileSystem, ARelativePathStandsInTheWorkingFolder) {
     EXPECT_EQ(files.FullPath(folder.Path("a.txt")), folder.Path("a.txt"));
     EXPECT_EQ(files.FullPath("NUL"), "NUL");
     std::filesystem::current_path(before);
-}
-
-TEST(WindowsFileSystem, OnlyAFolderThatStandsCanBeWrittenIn) {
-    const TemporaryFolder folder;
-    EXPECT_TRUE(CanWriteIn(folder.Path()));
-    EXPECT_FALSE(CanWriteIn(folder.Path("missing")));
-    EXPECT_EQ(folder.Entries(), 0u);
 }
 
 }  // namespace

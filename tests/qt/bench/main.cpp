@@ -7,19 +7,21 @@
 // list of a million rows.
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
 #include <memory_resource>
 
 #include "core/Text.h"
 #include "desktop/EdgeStyle.h"
-#include "desktop/FormWindow.h"
 #include "qt/RealProgram.h"
 #include "qt/UserHands.h"
-#include "qt/bench/LoopWatch.h"
 
 namespace orlo::bench {
 namespace {
@@ -82,6 +84,70 @@ void PrintStartTimes(const QString& world) {
     std::printf("start: empty window %.0f ms, main window %.0f ms (medians of %d)\n", empty[kStarts / 2],
                 program[kStarts / 2], kStarts);
 }
+
+// How long the loop of events waits while an operation runs: a timer that wants to fire every 10 ms is late
+// by as much as a paint would be.
+class LoopWatch : public QObject {
+  public:
+    explicit LoopWatch(const ProgressForm& progress) : progress_(progress) {
+        timer_.setTimerType(Qt::PreciseTimer);
+        connect(&timer_, &QTimer::timeout, this, [this] { Tick(); });
+    }
+
+    void Start() {
+        waits_.clear();
+        whole_.start();
+        last_.start();
+        before_ = Stage();
+        timer_.start(kTickMilliseconds);
+    }
+
+    void NoteDone() { done_ = whole_.elapsed(); }
+
+    // Prints the time from Start to NoteDone, and until now the longest waits, each with the stages around
+    // it.
+    void Print(const char* operation) {
+        Tick();
+        timer_.stop();
+        std::printf("%-10s %7lld ms\n", operation, done_);
+        std::sort(waits_.begin(), waits_.end(),
+                  [](const Wait& a, const Wait& b) { return a.milliseconds > b.milliseconds; });
+        for (std::size_t i = 0; i < std::min<std::size_t>(waits_.size(), kWaitsPrinted); ++i) {
+            std::printf("    wait %5lld ms at %6lld: %s -> %s\n", waits_[i].milliseconds, waits_[i].end,
+                        waits_[i].from.c_str(), waits_[i].to.c_str());
+        }
+        std::fflush(stdout);
+    }
+
+  private:
+    static constexpr int kTickMilliseconds = 10;
+    static constexpr std::size_t kWaitsPrinted = 3;
+    struct Wait {
+        long long milliseconds;
+        long long end;  // since Start
+        std::string from;
+        std::string to;
+    };
+
+    std::string Stage() const {
+        if (!progress_.visible) return "(no progress)";
+        return progress_.lblProgress.caption + ' ' + std::to_string(progress_.pbProgress.value) + '/' +
+               std::to_string(progress_.pbProgress.maximum);
+    }
+    void Tick() {
+        std::string now = Stage();
+        waits_.push_back({last_.restart(), whole_.elapsed(), before_, now});
+        before_ = std::move(now);
+    }
+
+    const ProgressForm& progress_;
+    QTimer timer_;
+    QElapsedTimer whole_;
+    QElapsedTimer last_;
+    long long done_ = 0;
+    std::string before_;
+    std::vector<Wait> waits_;
+};
 
 // Answers what comes up by its default button.
 class Answering : public QObject {
@@ -156,7 +222,7 @@ void PrintListTimes(const std::string& world) {
     test::ClickTab(real.form.tabMain, 2);
     QTest::qWait(100);
     ListView& list = real.form.lvExPreview;
-    auto& window = static_cast<FormWindow&>(test::WindowOf(real.form));
+    FormWindow& window = test::WindowOf(real.form);
     auto& table = static_cast<QTableView&>(test::WidgetOf(list));
     const auto time = [&](const char* name, const std::function<void()>& act) {
         QElapsedTimer passed;
