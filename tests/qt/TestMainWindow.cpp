@@ -42,11 +42,11 @@ TEST(MainWindow, TheCloseBoxEndsTheProgramAndStoresThePlaceOfTheWindow) {
 }
 
 TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
-    struct Way {
+    struct Closing {
         const char* name;
         std::function<void(StartedProgram&)> act;
     };
-    const std::vector<Way> ways = {
+    const std::vector<Closing> ways = {
         {"time", [](StartedProgram& d) { d.host.StartTimer(kSplashTimer, 1); }},
         {"a letter", [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_X); }},
         {"Escape", [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_Escape); }},
@@ -54,7 +54,7 @@ TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
          [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_F, Qt::AltModifier); }},
         {"a click", [](StartedProgram& d) { DesktopProgram::Click(d.splash.picSplash); }},
     };
-    for (const Way& way : ways) {
+    for (const Closing& way : ways) {
         SCOPED_TRACE(way.name);
         StartedProgram desktop;
         ASSERT_TRUE(desktop.splash.visible);
