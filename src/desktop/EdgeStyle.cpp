@@ -1,6 +1,7 @@
 #include "desktop/EdgeStyle.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScopedValueRollback>
 #include <QStyleOption>
@@ -10,6 +11,12 @@ namespace {
 
 constexpr int kDarkBelow = 128;
 constexpr QColor kEdgeGround(0xB0, 0xB0, 0xB0);  // from which the style darkens the edge
+constexpr QColor kSeparator(0x50, 0x50, 0x50);   // between the entries of a menu
+constexpr int kSeparatorGap = 5;                 // beside it
+
+bool IsDark(const QStyleOption& option) {
+    return option.palette.color(QPalette::Window).lightness() < kDarkBelow;
+}
 
 bool HasEdge(QStyle::PrimitiveElement element) {
     switch (element) {
@@ -29,12 +36,25 @@ class EdgeStyle : public QProxyStyle {
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
-        const bool dark = option->palette.color(QPalette::Window).lightness() < kDarkBelow;
-        if (!dark || !HasEdge(element)) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (!IsDark(*option) || !HasEdge(element))
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
         // In place, since a copy would cut off what the kind of option holds besides.
         const QScopedValueRollback<QPalette> palette(const_cast<QStyleOption*>(option)->palette);
         const_cast<QStyleOption*>(option)->palette.setColor(QPalette::Window, kEdgeGround);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        const bool separator = element == CE_MenuItem && item != nullptr &&
+                               item->menuItemType == QStyleOptionMenuItem::Separator;
+        if (!separator || !IsDark(*option)) return QProxyStyle::drawControl(element, option, painter, widget);
+        const int middle = option->rect.center().y();
+        painter->fillRect(option->rect, option->palette.base());
+        painter->setPen(kSeparator);
+        painter->drawLine(option->rect.left() + kSeparatorGap, middle, option->rect.right() - kSeparatorGap,
+                          middle);
     }
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

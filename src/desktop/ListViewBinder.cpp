@@ -24,7 +24,7 @@ constexpr int kHeaderRoom = 24;
 constexpr int kLeastWidth = 70;
 constexpr int kRowRoom = 4;
 constexpr int kCellRoom = 12;
-constexpr int kMostCharacters = 30;
+constexpr int kMostCharacters = 36;
 constexpr std::int32_t kRowsMeasured = 200;
 constexpr int kSortKey = Qt::Key_F3;  // as a click on the header of the current cell's column
 
