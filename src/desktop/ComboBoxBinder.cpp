@@ -28,7 +28,7 @@ int ComboModel::rowCount(const QModelIndex& parent) const {
 QVariant ComboModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     if (role != Qt::DisplayRole || row >= combo_.entries.size()) return QVariant();
-    return ToQString(combo_.entries[row].text);
+    return ShownText(combo_.entries[row].text);
 }
 
 ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink)

@@ -133,8 +133,9 @@ void SetUp(QFileDialog& shown, const FileDialog& dialog, const QString& lastFold
         shown.setNameFilters(filters);
         shown.selectNameFilter(filters[std::clamp<qsizetype>(dialog.filterIndex - 1, 0, filters.size() - 1)]);
     }
-    for (const QString& folder : {FolderOf(dialog.startFile), FolderOf(dialog.startFolder), lastFolder}) {
-        if (folder.isEmpty() || !QFileInfo(folder).isDir()) continue;
+    for (const QString& folder :
+         {FolderOf(dialog.startFile), FolderOf(dialog.startFolder), FolderOf(PathFromQString(lastFolder))}) {
+        if (folder.isEmpty()) continue;
         shown.setDirectory(folder);
         break;
     }
@@ -151,11 +152,12 @@ std::string ChosenPath(QFileDialog& shown, QString& lastFolder) {
 // A file is found without regard to case; the dialog asks only about one of exactly that name.
 bool MayReplace(QFileDialog& dialog, const std::string& path) {
     const QFileInfo chosen(PathToQString(path));
+    if (chosen.exists()) return true;
     const QStringList names = chosen.dir().entryList(QDir::Files | QDir::Hidden);
     const auto other = std::find_if(names.begin(), names.end(), [&](const QString& name) {
         return name.compare(chosen.fileName(), Qt::CaseInsensitive) == 0;
     });
-    if (other == names.end() || names.contains(chosen.fileName())) return true;
+    if (other == names.end()) return true;
     const QString question = QString("\"%1\" already exists.\nDo you want to replace it?").arg(*other);
     return QMessageBox::warning(&dialog, dialog.windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
                                 QMessageBox::No) == QMessageBox::Yes;

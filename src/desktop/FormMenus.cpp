@@ -60,7 +60,8 @@ void FormMenus::JoinGroup(const MenuEntry& entry, QAction& action) {
 QMenu* FormMenus::MenuOfKey(const QKeySequence& key) const {
     for (const Drawn& drawn : drawn_) {
         const bool inBar = drawn.menu != nullptr && drawn.entry->parent == nullptr && !drawn.entry->popup;
-        if (inBar && drawn.action->isVisible() && QKeySequence::mnemonic(drawn.action->text()) == key)
+        if (inBar && drawn.action->isVisible() && drawn.action->isEnabled() &&
+            QKeySequence::mnemonic(drawn.action->text()) == key)
             return drawn.menu;
     }
     return nullptr;

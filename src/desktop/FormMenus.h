@@ -24,7 +24,7 @@ class FormMenus {
     // Null where the form has no menu but pop-ups.
     QMenuBar* Bar() const { return bar_; }
     void Draw();
-    // The menu of the bar that such a key opens, for example Alt+F; null for none.
+    // The enabled menu of the bar that such a key opens, for example Alt+F; null for none.
     QMenu* MenuOfKey(const QKeySequence& key) const;
     // Opens a pop-up menu at a place of the screen; does not wait for a choice.
     void Open(const MenuEntry& root, const QPoint& place);

@@ -199,7 +199,10 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
     }
     const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    pressedKey_ = others == Qt::NoModifier && !shift ? event.key() : 0;
+    if (const EventKey key = KeyOf(event); key == kKeyDelete || key == kKeyInsert) {
+        pressedKey_ = others == Qt::NoModifier && !shift ? key : kKeyOther;
+        pressedOn_ = control;
+    }
     if (const int steps = TabSteps(event)) return TurnTab(window, steps);
     if (others != Qt::NoModifier) return false;
     if (shift && event.key() == Qt::Key_F10) return PopupOfCurrent(window);
@@ -234,12 +237,11 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
 
 void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& event) {
     if (object != window.focusWidget() || event.isAutoRepeat()) return;
-    const bool pressedHere = event.key() == std::exchange(pressedKey_, 0);
-    if (!pressedHere) return;
-    Control* control = window.FocusControl();
-    if (control == nullptr) return;
     const EventKey key = KeyOf(event);
-    if (key == kKeyDelete || key == kKeyInsert) host_.Post({&control->form, control, EventKind::KeyUp, key});
+    if (key != kKeyDelete && key != kKeyInsert) return;
+    Control* control = window.FocusControl();
+    const bool pressedHere = std::exchange(pressedKey_, kKeyOther) == key && pressedOn_ == control;
+    if (control != nullptr && pressedHere) host_.Post({&control->form, control, EventKind::KeyUp, key});
 }
 
 // A file is the window's, wherever it is dropped; its source keeps it. What else is dragged goes to the
@@ -262,6 +264,7 @@ bool InputFilter::Shortcut(FormWindow& window, QObject* object, const QShortcutE
     // Where the menu bar and a pane have one mnemonic, it is the menu's.
     if (QMenu* menu = event.isAmbiguous() ? window.Menus().MenuOfKey(event.key()) : nullptr) {
         window.Menus().Bar()->setActiveAction(menu->menuAction());
+        if (!menu->actions().isEmpty()) menu->setActiveAction(menu->actions().front());
         return true;
     }
     const Control* to = &binder->Of();
@@ -298,8 +301,9 @@ bool InputFilter::Popup(FormWindow& window, const QWidget* widget, const QPoint&
 }
 
 bool InputFilter::PopupOfCurrent(FormWindow& window) {
-    const auto* view = qobject_cast<QAbstractItemView*>(window.focusWidget());
+    auto* view = qobject_cast<QAbstractItemView*>(window.focusWidget());
     if (view == nullptr) return false;
+    view->scrollTo(view->currentIndex());
     const QRect row = view->visualRect(view->currentIndex());
     return Popup(window, view, view->viewport()->mapToGlobal(row.center()));
 }
@@ -316,14 +320,17 @@ bool InputFilter::TurnTab(FormWindow& window, int steps) {
     const auto count = static_cast<std::ptrdiff_t>(tabs.pages.size());
     if (shown == tabs.pages.end() || !Leaves(window, &tabs)) return true;
     const std::ptrdiff_t next = (shown - tabs.pages.begin() + steps + count) % count;
+    const Event event{&tabs.form, &tabs, EventKind::SelectTab};
+    if (!host_.Accepts(event)) return true;
     tabs.selectedKey = tabs.pages[static_cast<std::size_t>(next)].key;
-    host_.Post({&tabs.form, &tabs, EventKind::SelectTab});
+    host_.Post(event);
     return true;
 }
 
 bool InputFilter::TipOfCurrent(FormWindow& window) {
     auto* view = qobject_cast<QAbstractItemView*>(window.focusWidget());
     if (view == nullptr || !view->currentIndex().isValid()) return false;
+    view->scrollTo(view->currentIndex());
     const QPoint place = view->visualRect(view->currentIndex()).center();
     QHelpEvent event(QEvent::ToolTip, place, view->viewport()->mapToGlobal(place));
     if (!Hover(window, view->viewport(), event)) QCoreApplication::sendEvent(view->viewport(), &event);

@@ -2,14 +2,16 @@
 
 #include <QObject>
 
+#include "forms/Event.h"
+
 class QContextMenuEvent;
 class QDropEvent;
 class QHelpEvent;
+class QKeyEvent;
+class QMouseEvent;
 class QPoint;
 class QShortcutEvent;
 class QWidget;
-class QKeyEvent;
-class QMouseEvent;
 
 namespace orlo {
 
@@ -39,16 +41,18 @@ class InputFilter : public QObject {
     bool Hover(FormWindow& window, QObject* object, QHelpEvent& event);
     // The pop-up and the tip of a list's or tree's current row, for the keyboard.
     bool PopupOfCurrent(FormWindow& window);
+    bool TipOfCurrent(FormWindow& window);
     // Shows the tab `steps` behind the current one, round and round. False where the form has no tabs.
     bool TurnTab(FormWindow& window, int steps);
-    bool TipOfCurrent(FormWindow& window);
     void FocusIn(FormWindow& window, QObject* object);
     // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.
     bool Leaves(FormWindow& window, const Control* to);
 
     DesktopHost& host_;
     int swallowedButton_ = 0;  // whose release follows a press that was dropped
-    int pressedKey_ = 0;       // the last key pressed here without another held
+    // Delete or Insert, pressed alone and not released yet, and where.
+    EventKey pressedKey_ = kKeyOther;
+    const Control* pressedOn_ = nullptr;
 };
 
 }  // namespace orlo

@@ -46,6 +46,7 @@ class RowDelegate : public QStyledItemDelegate {
         QStyledItemDelegate::paint(painter, option, index);
         const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
         if (view == nullptr || !view->hasFocus() || view->currentIndex().row() != index.row()) return;
+        if (index.row() >= list_.Count()) return;  // gone since the last drawing
         const bool selected = list_.Selected(list_.PlaceAt(index.row()));
         painter->setPen(QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text), 1,
                              Qt::DotLine));

@@ -1,5 +1,6 @@
 #include "desktop/TabStripBinder.h"
 
+#include <QGuiApplication>
 #include <QSignalBlocker>
 
 #include "desktop/ScreenText.h"
@@ -17,7 +18,8 @@ TabStripBinder::TabStripBinder(TabStrip& tabs, QWidget& parent, EventSink& sink)
     });
     // A click on the tab that is shown gives the focus again. Told before the strip changes tabs.
     QObject::connect(&shown_, &QTabBar::tabBarClicked, &life, [this](int index) {
-        if (index >= 0 && index == shown_.currentIndex()) UserActs(EventKind::SelectTab, [] {});
+        const bool left = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        if (left && index >= 0 && index == shown_.currentIndex()) UserActs(EventKind::SelectTab, [] {});
     });
 }
 

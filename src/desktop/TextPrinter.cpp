@@ -134,7 +134,7 @@ bool PrintText(std::string_view text, QPrinter& printer, const std::function<voi
             sinceCall.start();
         }
     }
-    return printer.outputFileName().isEmpty() || EndsAsPdf(printer.outputFileName());
+    return printer.outputFormat() != QPrinter::PdfFormat || EndsAsPdf(printer.outputFileName());
 }
 
 }  // namespace orlo

@@ -38,12 +38,12 @@ class NodeTree : public QTreeView {
             typed_.start();
             return;
         }
-        if (plain && !text.isEmpty() && text.front().isPrint() && !text.front().isSpace()) typed_.start();
+        if (plain && !text.isEmpty() && text.front().isLetterOrNumber()) typed_.start();
         QTreeView::keyPressEvent(event);
     }
 
   private:
-    QElapsedTimer typed_;  // since the last character of a name
+    QElapsedTimer typed_;  // since the last letter or digit of a name
 };
 
 }  // namespace

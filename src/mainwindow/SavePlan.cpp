@@ -47,7 +47,7 @@ void SaveFlightplanCommand(Context& context) {
 
 void SaveFlightplanAs(Context& context) {
     // After an open that failed there is nothing to write, least of all over the files that stand there.
-    if (!context.session.PlanLoaded) {
+    if (context.session.FlightCount() == 0 || context.session.PlanAircraftCount() == 0) {
         context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
         return;
     }

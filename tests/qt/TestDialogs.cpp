@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -67,6 +68,32 @@ TEST_F(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
     }
 }
 
+TEST_F(Dialogs, ASaveDialogAsksAboutANameThatDiffersOnlyInCase) {
+    const Folders folders;
+    const std::string path = folders.Path("exports/Plan.txt");
+    QFile file(QString::fromStdString(path));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    FileDialog dialog;
+    dialog.overwritePrompt = true;
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        bool asked = false;
+        InDialog<QFileDialog>([&](QFileDialog& shown) {
+            InDialog<QMessageBox>([&](QMessageBox& box) {
+                asked = true;
+                // After a No the dialog opens again.
+                if (answer == QMessageBox::No)
+                    InDialog<QFileDialog>([](QFileDialog& again) { again.reject(); });
+                box.button(answer)->click();
+            });
+            test::Choose(shown, folders.Path("exports/PLAN.TXT"));
+        });
+        const std::string chosen = desktop.host.ShowSaveDialog(dialog);
+        EXPECT_TRUE(asked);
+        EXPECT_EQ(chosen, answer == QMessageBox::Yes ? folders.Path("exports/PLAN.TXT") : "");
+    }
+}
+
 TEST_F(Dialogs, AFolderDialogGivesAFolder) {
     const Folders folders;
     for (const bool accepted : {true, false}) {
@@ -116,6 +143,9 @@ TEST(Printing, PagesEndBetweenLinesAndLongLinesGoOn) {
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(40, '\t'), "end"), path), 2);
     EXPECT_EQ(PagesOf(Concat(Lines(full - 1), std::string(41, 'x')), path), 1);
     EXPECT_EQ(PagesOf("text", folders.Path("nowhere/out.pdf")), 0);
+    if (QFile::exists("/dev/full")) {
+        EXPECT_EQ(PagesOf("text", "/dev/full"), 0);
+    }
 }
 
 TEST_F(Dialogs, ADialogPrintsShowsAPreviewOrGivesUp) {

@@ -58,6 +58,21 @@ TEST(Reach, AListIsUsedByKeysAlone) {
     desktop.Key(form, Qt::Key_Delete);
     DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("KeyUp lvRows"), 1);
+    // A quick hand presses the next key before it lets go of the last.
+    QWindow* window = DesktopProgram::WindowOf(form).windowHandle();
+    QTest::keyPress(window, Qt::Key_Delete);
+    QTest::keyPress(window, Qt::Key_Down);
+    QTest::keyRelease(window, Qt::Key_Delete);
+    QTest::keyRelease(window, Qt::Key_Down);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("KeyUp lvRows"), 2);
+    // A key that was pressed elsewhere is no command here.
+    desktop.Focus(form.txtName);
+    QTest::keyPress(window, Qt::Key_Delete);
+    desktop.Focus(form.lvRows);
+    QTest::keyRelease(window, Qt::Key_Delete);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.Ran("KeyUp lvRows"), 2);
 
     desktop.Key(form, Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_TRUE(desktop.WindowOf(form).findChild<QMenu*>("mnuSelectMenu")->isVisible());
@@ -89,6 +104,13 @@ TEST(Reach, KeysAndAClickOnTheShownTabSelectTabs) {
         EXPECT_EQ(form.tabViews.selectedKey, step.tab);
     }
     EXPECT_EQ(form.Ran("SelectTab tabViews"), 4);
+    // A field that refuses to be left keeps its tab.
+    form.on["Leave txtName"] = [](Context&, Event& event) { event.refused = true; };
+    desktop.Focus(form.txtName);
+    desktop.Key(form, Qt::Key_PageDown, Qt::ControlModifier);
+    DesktopProgram::Settle();
+    EXPECT_EQ(form.tabViews.selectedKey, "ONE");
+    form.on.clear();
     desktop.Click(form.tabViews);
     DesktopProgram::Settle();
     EXPECT_EQ(form.tabViews.selectedKey, "ONE");
@@ -118,7 +140,7 @@ TEST(Reach, TheFirstButtonIsTheDefaultWhateverTheDesktopsOrder) {
     for (const auto& one : kCases) {
         test::InDialog<QMessageBox>([&](QMessageBox& box) {
             EXPECT_EQ(box.standardButton(box.defaultButton()), one.expected);
-            box.defaultButton()->click();
+            box.accept();
         });
         desktop.host.ShowMessage("text", one.flags, "Orlo", &desktop.form);
     }

@@ -6,6 +6,7 @@
 namespace orlo {
 namespace {
 
+constexpr std::string_view kRuleFile = "ORLO_AC.CFG";
 constexpr int kDeepestFolder = 16;  // links can lead a walk in circles
 
 bool IsCopy(FileSystem& files, const std::string& source, const std::string& target) {
@@ -41,7 +42,8 @@ void RenewHelp(FileSystem& files, const std::string& share, const std::string& u
 
 std::string UserProgramFolder(FileSystem& files, const std::string& share, const std::string& userFolder) {
     if (userFolder.empty()) return {};
-    const bool hasShare = !share.empty() && files.FolderExists(share);
+    // A folder "share" of others is not ours to copy.
+    const bool hasShare = !share.empty() && files.FileExists(JoinPath(share, kRuleFile));
     if (files.FolderExists(userFolder)) {
         if (hasShare) RenewHelp(files, share, userFolder);
         return userFolder;
