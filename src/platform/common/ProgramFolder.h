@@ -11,8 +11,9 @@ namespace orlo {
 // even where it might write to its own: root can write to the folder of all programs. Any other, a portable
 // one or one in a build's folder, has its executable's own folder where the user may write there, else
 // `userFolder`. A `userFolder` that does not exist yet is made and filled with a copy of "share/orlo", or, in
-// a checkout, of "share", where that holds the rule files; it appears only when the copy is complete. In one that exists the pages of "Help"
-// that differ from those there are replaced; nothing else in it is touched. Empty when there is no folder.
+// a checkout, of "share", where that holds the rule files; it appears only when the copy is complete. In one
+// that exists the pages of "Help" that differ from those there are replaced; nothing else in it is touched.
+// Empty when there is no folder.
 std::string FindProgramFolder(FileSystem& files, const std::string& executablePath,
                               const std::string& userFolder);
 
