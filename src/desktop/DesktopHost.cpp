@@ -249,6 +249,8 @@ void DesktopHost::Shut(Form& form) {
     // After a modal window even where the system has not said yet that it was the active one.
     const bool active = window->isActiveWindow() || window->windowModality() != Qt::NonModal;
     QWidget* owner = active ? window->parentWidget() : nullptr;
+    // One that belongs to another stands over it each time.
+    if (window->parentWidget() != nullptr) form.box = WindowBox();
     window->Release();
     window->hide();
     // Not every system gives the focus back.

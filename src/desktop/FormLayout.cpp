@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLayout>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -99,11 +100,17 @@ class ContainerLayout {
         if (column_ == columns_) EndRow();
         const int at = column_++ * kGridColumns;
         if (label != nullptr) {
-            grid_.addWidget(label, row_, at);
-            grid_.addWidget(&field, row_, at + 1);
+            AddLowered(*label, at);
+            AddLowered(field, at + 1);
         } else {
             grid_.addWidget(&field, row_, at, 1, 2);
         }
+    }
+    // A frame as small as a field, with its title above. What follows in the row stands on the line of its
+    // content.
+    void AddSmallFrame(QWidget& frame) {
+        AddField(nullptr, frame);
+        lowered_ = frame.fontMetrics().height();
     }
     void AddWideField(QWidget& label, QWidget& field) {
         EndRow();
@@ -128,15 +135,26 @@ class ContainerLayout {
     }
 
   private:
+    void AddLowered(QWidget& widget, int column) {
+        if (lowered_ == 0) return grid_.addWidget(&widget, row_, column);
+        auto* box = new QVBoxLayout;
+        box->setSpacing(0);
+        box->addSpacing(lowered_);
+        box->addWidget(&widget);
+        grid_.addLayout(box, row_, column);
+    }
+
     void EndRow() {
         if (column_ > 0) ++row_;
         column_ = 0;
+        lowered_ = 0;
     }
 
     QGridLayout& grid_;
     int columns_;
     int row_ = 0;
     int column_ = 0;
+    int lowered_ = 0;  // pixels, behind a small frame in the row
 };
 
 // How many controls from this one on satisfy the condition.
@@ -179,7 +197,9 @@ std::size_t AddNext(ContainerLayout& layout, const Children& children, std::size
         control.kind == ControlKind::Picture && at > 0 && children[at - 1]->kind == ControlKind::Picture;
     if (takesTurn) {
         layout.AddTurn(shown);
-    } else if (IsTick(control) || StandsBesideItsLabel(control) || IsSmallFrame(control, widgetOf)) {
+    } else if (IsSmallFrame(control, widgetOf)) {
+        layout.AddSmallFrame(shown);
+    } else if (IsTick(control) || StandsBesideItsLabel(control)) {
         layout.AddField(nullptr, shown);
     } else {
         layout.AddRow(shown, FillsThePane(control));

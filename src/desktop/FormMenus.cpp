@@ -7,6 +7,11 @@
 #include "desktop/ScreenText.h"
 
 namespace orlo {
+namespace {
+
+constexpr qsizetype kMostCharacters = 120;
+
+}  // namespace
 
 FormMenus::FormMenus(Form& form, QWidget& window, EventSink& sink) : window_(window), sink_(sink) {
     for (Control* control : form.Controls()) {
@@ -69,7 +74,13 @@ QMenu* FormMenus::MenuOfKey(const QKeySequence& key) const {
 
 QString FormMenus::CaptionOf(const MenuEntry& entry) {
     const QString caption = ToQString(entry.caption);
-    return entry.plainCaption ? QString(caption).replace("&", "&&") : caption;
+    if (!entry.plainCaption) return caption;
+    // Of a long path the ends tell most.
+    const bool fits = caption.size() <= kMostCharacters;
+    const QString shown =
+        fits ? caption
+             : caption.left(kMostCharacters / 3) + QChar(0x2026) + caption.right(kMostCharacters * 2 / 3);
+    return QString(shown).replace("&", "&&");
 }
 
 // The check marks follow what the procedure makes of the choice.

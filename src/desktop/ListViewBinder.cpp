@@ -64,6 +64,13 @@ class ListTable : public QTableView {
     ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
 
+    // A row is shown without a move sideways, unless it is the column that is wanted.
+    void scrollTo(const QModelIndex& index, ScrollHint hint) override {
+        const int left = horizontalScrollBar()->value();
+        QTableView::scrollTo(index, hint);
+        if (!alongColumns_) horizontalScrollBar()->setValue(left);
+    }
+
     // The toolkit's own toggles with the key held that calls it.
     void selectAll() override {
         if (model() == nullptr || model()->rowCount() == 0 || model()->columnCount() == 0) return;
@@ -94,6 +101,8 @@ class ListTable : public QTableView {
             Q_EMIT horizontalHeader()->sectionClicked(currentIndex().column());
             return;
         }
+        const QScopedValueRollback<bool> alongColumns(
+            alongColumns_, event->key() == Qt::Key_Left || event->key() == Qt::Key_Right);
         if (!event->matches(QKeySequence::Copy)) return QTableView::keyPressEvent(event);
         const std::string text = list_.SelectedText();
         if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdString(text));
@@ -107,6 +116,7 @@ class ListTable : public QTableView {
 
   private:
     const ListView& list_;
+    bool alongColumns_ = false;  // while a key moves from column to column
     mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
 
@@ -201,8 +211,11 @@ void ListViewBinder::DrawRows() {
         if (list_.Count() <= kRowsMeasured) FitColumns(Fit::Grow);
     } else {
         const int top = shown_.verticalScrollBar()->value();
+        const int left = shown_.horizontalScrollBar()->value();
+        currentColumn_ = std::max(0, shown_.currentIndex().column());
         model_.Reset();
         shown_.verticalScrollBar()->setValue(top);
+        shown_.horizontalScrollBar()->setValue(left);
         drawnSelection_ = -1;
         drawnCurrent_ = -1;
     }
@@ -269,7 +282,9 @@ void ListViewBinder::DrawCurrent() {
     if (drawnCurrent_ == list_.current) return;
     drawnCurrent_ = list_.current;
     const int position = list_.current < 0 ? -1 : list_.PositionOf(list_.current);
-    shown_.selectionModel()->setCurrentIndex(model_.index(position, 0), QItemSelectionModel::NoUpdate);
+    const bool hasCurrent = shown_.currentIndex().isValid();
+    const int column = hasCurrent ? shown_.currentIndex().column() : currentColumn_;
+    shown_.selectionModel()->setCurrentIndex(model_.index(position, column), QItemSelectionModel::NoUpdate);
 }
 
 void ListViewBinder::TakeRequests() {

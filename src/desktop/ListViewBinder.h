@@ -48,6 +48,7 @@ class ListViewBinder : public Binder {
     std::int64_t drawnOrder_ = -1;
     std::int64_t drawnSelection_ = -1;
     std::int32_t drawnCurrent_ = -1;
+    int currentColumn_ = 0;  // before the rows were drawn anew
     bool drawing_ = false;
     bool inPieces_ = false;  // the toolkit doesn't hold the whole selection
     bool announced_ = false;

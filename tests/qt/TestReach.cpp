@@ -49,6 +49,13 @@ TEST(Reach, AListIsUsedByKeysAlone) {
     desktop.Key(form, Qt::Key_F3);
     DesktopProgram::Settle();
     EXPECT_EQ(column, 1);
+    // The column stays when the rows are drawn anew.
+    form.lvRows.SortByColumn(0);
+    desktop.CatchUp();
+    desktop.Key(form, Qt::Key_F3);
+    DesktopProgram::Settle();
+    EXPECT_EQ(column, 1);
+    EXPECT_EQ(form.Ran("ClickColumn lvRows"), 2);
 
     // Of the keys with another held none is a command.
     desktop.Key(form, Qt::Key_Insert, Qt::ControlModifier);

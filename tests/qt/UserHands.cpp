@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
@@ -59,12 +60,26 @@ void ClickAction(QMenu& menu, QAction& action) {
     ClickAt(menu, place.center());
 }
 
+// By the scroll bar, as far as is needed to see the start of the column.
+void ShowColumn(QTableView& table, int column) {
+    const QHeaderView& header = *table.horizontalHeader();
+    QScrollBar& bar = *table.horizontalScrollBar();
+    const auto seen = [&] {
+        const int start = header.sectionViewportPosition(column);
+        return start >= 0 && start + header.sectionSize(column) / 2 < header.viewport()->width();
+    };
+    if (seen()) return;
+    bar.setValue(bar.minimum());
+    while (!seen() && bar.value() < bar.maximum()) bar.triggerAction(QScrollBar::SliderSingleStepAdd);
+}
+
 // Shows the row and returns its middle, in the list.
 QPoint PlaceOfRow(const ListView& list, std::int32_t position) {
     auto& table = As<QTableView>(list);
     const QModelIndex index = table.model()->index(position, 0);
     if (!index.isValid()) throw std::runtime_error(Concat(list.name, " shows no row ", position));
     table.scrollTo(index);
+    ShowColumn(table, 0);
     return table.viewport()->mapTo(&table, table.visualRect(index).center());
 }
 
@@ -201,7 +216,7 @@ void DoubleClickRow(const ListView& list, std::int32_t position) {
 
 void ClickColumn(const ListView& list, std::int32_t column) {
     auto& table = As<QTableView>(list);
-    if (table.model()->rowCount() > 0) table.scrollTo(table.model()->index(0, column));
+    ShowColumn(table, column);
     QHeaderView& header = *table.horizontalHeader();
     const int left = header.sectionViewportPosition(column);
     ClickAt(*header.viewport(), QPoint(left + header.sectionSize(column) / 3, header.height() / 2));
