@@ -42,10 +42,10 @@ void Measure(benchmark::State& state, Correct correct) {
 
 void BM_CopyRows(benchmark::State& state) {
     Measure(state, [](Session& session) {
-        FlightList copy;
-        copy.Reserve(session.FlightCount());
-        for (std::int32_t i = 0; i < session.FlightCount(); ++i) copy.AppendFrom(session.Flights, i);
-        session.Flights = std::move(copy);
+        session.Flights.Rewrite([](std::int32_t, const FlightView& flight, LentFlight& changed) {
+            changed = flight;
+            return true;
+        });
     });
 }
 

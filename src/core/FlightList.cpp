@@ -1,159 +1,102 @@
 #include "core/FlightList.h"
 
 #include <algorithm>
-#include <cassert>
+#include <cstring>
+
+#include "core/FieldScan.h"
+#include "core/FlightArena.h"
+#include "core/FlightRow.h"
 
 namespace orlo {
 namespace {
 
-// In front of each row's fields.
-struct RowHead {
-    std::uint32_t legCount;
-    std::uint32_t length;  // bytes of the fields
-};
+// More of them are brought together, so that a run of small changes costs no further chunk each.
+constexpr std::size_t kMostArenas = 16;
 
-constexpr std::size_t kRowAlignment = 8;
-constexpr std::size_t kFirstChunk = 16 * 1024;
-constexpr std::size_t kMostInSmallChunks = 256 * 1024;
-constexpr std::size_t kLargeChunk = 4 * 1024 * 1024;
-constexpr std::size_t kLargePage = 2 * 1024 * 1024;
-
-char* FieldsOf(char* rowStart) {
-    return rowStart + sizeof(RowHead);
-}
-
-// A separator inside a field would shift all fields behind it, and a carriage return would end the line once
-// it is written.
-void CopyField(char*& out, std::string_view field) {
-    const auto endsLine = [](char character) { return character == kFieldSeparator || character == '\r'; };
-    out = std::replace_copy_if(field.begin(), field.end(), out, endsLine, ' ');
-}
-
-std::size_t PackedSize(const Flight& flight) {
-    std::size_t size = flight.ACNumber.size() + flight.TailNumber.size() + flight.Percent.size() +
-                       flight.Period.size() + flight.FlightType.size() + kFlightFields;
-    for (const Leg& leg : flight.Legs) {
-        size += leg.DepartTime.size() + leg.ETA.size() + 1 + leg.FlightLevel.size() + leg.NumberMode.size() +
-                leg.FlightNumber.size() + leg.Destination.size() + kLegFields;
+// Bytes of the fields with a separator behind each.
+std::size_t LengthOf(const LentFlight& flight) {
+    std::size_t length = flight.ACNumber.size() + flight.TailNumber.size() + flight.Percent.size() +
+                         flight.Period.size() + flight.FlightType.size() + kFlightFields;
+    for (const LegView& leg : flight.Legs) {
+        length += leg.DepartTime.size() + (leg.FixedETA ? 1 : 0) + leg.ETA.size() + leg.FlightLevel.size() +
+                  leg.NumberMode.size() + leg.FlightNumber.size() + leg.Destination.size() + kLegFields;
     }
-    return size;
+    return length;
+}
+
+// Writes a field and the separator behind it. A separator inside a field would shift all fields behind it,
+// and a carriage return would end the line once it is written.
+void WriteField(std::string_view field, char*& out) {
+    const auto endsLine = [](char character) { return character == kRowSeparator || character == '\r'; };
+    out = std::replace_copy_if(field.begin(), field.end(), out, endsLine, ' ');
+    *out++ = kRowSeparator;
+}
+
+void WriteFields(const LentFlight& flight, char* out) {
+    for (const std::string_view field :
+         {flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType}) {
+        WriteField(field, out);
+    }
+    for (const LegView& leg : flight.Legs) {
+        WriteField(leg.DepartTime, out);
+        if (leg.FixedETA) *out++ = kFixedMark;
+        for (const std::string_view field :
+             {leg.ETA, leg.FlightLevel, leg.NumberMode, leg.FlightNumber, leg.Destination}) {
+            WriteField(field, out);
+        }
+    }
+}
+
+// Puts the head in front of the fields, which stand already, and takes the row.
+char* CommitRow(FlightArena& arena, char* row, std::size_t legCount, std::size_t length) {
+    const RowHead head{static_cast<std::uint32_t>(legCount), static_cast<std::uint32_t>(length)};
+    std::memcpy(row, &head, sizeof head);
+    arena.Commit(RowBytes(length));
+    return row;
+}
+
+char* WriteRow(const LentFlight& flight, FlightArena& arena) {
+    const std::size_t length = LengthOf(flight);
+    char* row = arena.Reserve(RowBytes(length));
+    WriteFields(flight, row + sizeof(RowHead));
+    return CommitRow(arena, row, flight.Legs.size(), length - 1);  // the last separator is none of the row
 }
 
 }  // namespace
 
-// Memory of rows: chunks that only grow, so that a row never moves.
-class FlightList::Arena {
-  public:
-    // Room for a row's head and `mostBytes` of fields.
-    char* Reserve(std::size_t mostBytes) {
-        const std::size_t wanted = sizeof(RowHead) + mostBytes + kRowAlignment;
-        if (static_cast<std::size_t>(end_ - next_) < wanted) AddChunk(wanted);
-        return next_;
-    }
-
-    // Takes what a reserved row used.
-    void Commit(const char* rowEnd) {
-        const auto used = static_cast<std::size_t>(rowEnd - next_);
-        next_ += (used + kRowAlignment - 1) / kRowAlignment * kRowAlignment;
-    }
-
-    std::size_t Bytes() const { return bytes_; }
-
-    Arena() = default;
-    Arena(const Arena&) = delete;
-    Arena& operator=(const Arena&) = delete;
-    ~Arena() {
-        for (const Chunk& chunk : chunks_) memory_->deallocate(chunk.start, chunk.size, chunk.alignment);
-    }
-
-  private:
-    struct Chunk {
-        void* start;
-        std::size_t size;
-        std::size_t alignment;
-    };
-
-    void AddChunk(std::size_t wanted) {
-        // A list that has outgrown the small chunks goes over to whole large pages.
-        const std::size_t usual = bytes_ < kMostInSmallChunks ? kFirstChunk : kLargeChunk;
-        const std::size_t size = std::max(wanted, usual);
-        const std::size_t alignment = size >= kLargeChunk ? kLargePage : kRowAlignment;
-        chunks_.reserve(chunks_.size() + 1);
-        chunks_.push_back({memory_->allocate(size, alignment), size, alignment});
-        next_ = static_cast<char*>(chunks_.back().start);
-        end_ = next_ + size;
-        bytes_ += size;
-    }
-
-    // The first touch of fresh memory costs more than filling it; a program that sets a resource of large
-    // pages as the default one saves most of that.
-    std::pmr::memory_resource* memory_ = std::pmr::get_default_resource();
-    std::vector<Chunk> chunks_;
-    char* next_ = nullptr;
-    char* end_ = nullptr;
-    std::size_t bytes_ = 0;
-};
-
-LegView FieldReader::NextLeg() {
-    LegView leg;
-    leg.DepartTime = Next();
-    leg.ETA = Next();
-    if (!leg.ETA.empty() && leg.ETA.front() == '@') {
-        leg.FixedETA = true;
-        leg.ETA.remove_prefix(1);
-    }
-    leg.FlightLevel = Next();
-    leg.NumberMode = Next();
-    leg.FlightNumber = Next();
-    leg.Destination = Next();
-    return leg;
-}
-
-std::string_view FlightView::StartAirport() const {
-    if (LegCount == 0) return {};
-    const std::size_t last = LegText.rfind(kFieldSeparator);
-    return last == std::string_view::npos ? LegText : LegText.substr(last + 1);
-}
-
-LegView FlightView::LastLeg() const {
-    if (LegCount == 0) return {};
-    std::size_t start = LegText.size();
-    for (int field = 0; field < kLegFields && start != std::string_view::npos; ++field) {
-        start = start == 0 ? std::string_view::npos : LegText.rfind(kFieldSeparator, start - 1);
-    }
-    return FieldReader(start == std::string_view::npos ? LegText : LegText.substr(start + 1)).NextLeg();
-}
-
-FlightList::FlightList() : arena_(std::make_shared<Arena>()) {}
-
-FlightList FlightList::SharingRowsOf(const FlightList& other) {
-    FlightList list;
-    list.arena_ = other.arena_;
-    return list;
-}
-
-std::string_view FlightList::Row(std::int32_t index) const {
-    const auto* start =
-        reinterpret_cast<const char*>(handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
+std::string_view FlightList::FieldsOf(Handle handle, std::uint32_t& legCount) {
+    const auto* row = reinterpret_cast<const char*>(handle & ~kRemovedBit);
     RowHead head;
-    std::memcpy(&head, start, sizeof head);
-    return {start + sizeof head, head.length};
+    std::memcpy(&head, row, sizeof head);
+    legCount = head.legCount;
+    return {row + sizeof head, head.length};
+}
+
+std::size_t FlightList::BytesOf(Handle handle) {
+    std::uint32_t legCount = 0;
+    return RowBytes(FieldsOf(handle, legCount).size());
+}
+
+// The Removed mark comes along.
+FlightList::Handle FlightList::CopyRow(Handle handle, FlightArena& arena) {
+    const std::size_t bytes = BytesOf(handle);
+    char* row = arena.Reserve(bytes);
+    std::memcpy(row, reinterpret_cast<const char*>(handle & ~kRemovedBit), bytes);
+    arena.Commit(bytes);
+    return reinterpret_cast<Handle>(row) | (handle & kRemovedBit);
 }
 
 FlightView FlightList::At(std::int32_t index) const {
-    const auto* start =
-        reinterpret_cast<const char*>(handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
-    RowHead head;
-    std::memcpy(&head, start, sizeof head);
-    const std::string_view row(start + sizeof head, head.length);
-    FieldReader reader(row);
+    std::uint32_t legCount = 0;
+    const std::string_view row = FieldsOf(handles_[static_cast<std::size_t>(index)], legCount);
+    RowReader reader(row);
     FlightView flight;
     flight.ACNumber = reader.Next();
     flight.TailNumber = reader.Next();
     flight.Percent = reader.Next();
     flight.Period = reader.Next();
     flight.FlightType = reader.Next();
-    flight.LegCount = static_cast<std::int32_t>(head.legCount);
+    flight.LegCount = static_cast<std::int32_t>(legCount);
     flight.Removed = Removed(index);
     if (flight.LegCount > 0) {
         const char* legs = flight.FlightType.data() + flight.FlightType.size() + 1;
@@ -180,107 +123,138 @@ Flight FlightList::Unpack(std::int32_t index) const {
     return flight;
 }
 
+void FlightList::AppendLine(std::int32_t index, std::string& out) const {
+    std::uint32_t legCount = 0;
+    const std::size_t start = out.size();
+    out.append(FieldsOf(handles_[static_cast<std::size_t>(index)], legCount));
+    std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), kRowSeparator, ',');
+}
+
+std::string FlightList::Line(std::int32_t index) const {
+    std::string line;
+    AppendLine(index, line);
+    return line;
+}
+
 void FlightList::SetRemoved(std::int32_t index, bool removed) {
     Handle& handle = handles_[static_cast<std::size_t>(index)];
     handle = removed ? handle | kRemovedBit : handle & ~kRemovedBit;
 }
 
-FlightList::Handle FlightList::PackRow(const Flight& flight) {
-    BeginRow(PackedSize(flight));
-    AddField(flight.ACNumber);
-    AddField(flight.TailNumber);
-    AddField(flight.Percent);
-    AddField(flight.Period);
-    AddField(flight.FlightType);
-    for (const Leg& leg : flight.Legs) AddLegFields(ViewOf(leg));
-    EndRow(flight.LegCount(), flight.Removed);
-    const Handle handle = handles_.back();
-    handles_.pop_back();
-    return handle;
+// Where new rows go: no other list may come to hold them.
+FlightArena& FlightList::OwnArena() {
+    if (arenas_.empty() || arenas_.back().use_count() > 1) arenas_.push_back(std::make_shared<FlightArena>());
+    return *arenas_.back();
 }
 
 void FlightList::Replace(std::int32_t index, const Flight& flight) {
-    handles_[static_cast<std::size_t>(index)] = PackRow(flight);
+    const auto row = reinterpret_cast<Handle>(WriteRow(LentFlight(flight), OwnArena()));
+    Handle& handle = handles_[static_cast<std::size_t>(index)];
+    liveBytes_ += BytesOf(row);
+    liveBytes_ -= BytesOf(handle);
+    handle = row;
+    SetRemoved(index, flight.Removed);
+    DropDeadRows();
 }
 
 void FlightList::Append(const Flight& flight) {
-    handles_.push_back(PackRow(flight));
+    Append(LentFlight(flight));
+    SetRemoved(Count() - 1, flight.Removed);
 }
 
-void FlightList::AppendFrom(const FlightList& other, std::int32_t index) {
-    if (arena_ == other.arena_) {
-        handles_.push_back(other.handles_[static_cast<std::size_t>(index)]);
-        return;
+void FlightList::Append(const LentFlight& flight) {
+    handles_.push_back(0);  // room for the handle first, so that a failure leaves the list as it was
+    try {
+        handles_.back() = reinterpret_cast<Handle>(WriteRow(flight, OwnArena()));
+    } catch (...) {
+        handles_.pop_back();
+        throw;
     }
-    const auto* start =
-        reinterpret_cast<const char*>(other.handles_[static_cast<std::size_t>(index)] & ~kRemovedBit);
-    RowHead head;
-    std::memcpy(&head, start, sizeof head);
-    char* fields = RowBuffer(head.length);
-    std::memcpy(fields, start + sizeof head, head.length);
-    CommitRow(head.length, static_cast<std::int32_t>(head.legCount));
-    SetRemoved(Count() - 1, other.Removed(index));
+    liveBytes_ += BytesOf(handles_.back());
+    DropDeadRows();
+}
+
+void FlightList::AppendFields(std::string_view line, const FieldScan& fields, std::int32_t legCount) {
+    const std::size_t count = kFlightFields + kLegFields * static_cast<std::size_t>(legCount);
+    const std::size_t length = fields.End(count - 1);
+    FlightArena& arena = OwnArena();
+    char* row = arena.Reserve(RowBytes(length));
+    char* out = row + sizeof(RowHead);
+    std::memcpy(out, line.data(), length);
+    for (std::size_t i = 0; i + 1 < count; ++i) out[fields.End(i)] = kRowSeparator;
+    handles_.push_back(
+        reinterpret_cast<Handle>(CommitRow(arena, row, static_cast<std::size_t>(legCount), length)));
+    liveBytes_ += RowBytes(length);
+}
+
+FlightList FlightList::Selection(std::span<const std::int32_t> places) const {
+    FlightList list;
+    list.arenas_ = arenas_;
+    list.handles_.reserve(places.size());
+    for (const std::int32_t place : places) {
+        list.handles_.push_back(handles_[static_cast<std::size_t>(place)]);
+        list.liveBytes_ += BytesOf(list.handles_.back());
+    }
+    return list;
 }
 
 void FlightList::Truncate(std::int32_t count) {
+    if (count >= Count()) return;
+    for (std::int32_t i = count; i < Count(); ++i)
+        liveBytes_ -= BytesOf(handles_[static_cast<std::size_t>(i)]);
     handles_.resize(static_cast<std::size_t>(count));
+    DropDeadRows();
 }
 
-void FlightList::Clear() {
-    *this = FlightList();
-}
-
-void FlightList::BeginRow(std::size_t mostBytes) {
-    rowStart_ = arena_->Reserve(mostBytes);
-    rowEnd_ = FieldsOf(rowStart_);
-}
-
-void FlightList::AddField(std::string_view field) {
-    CopyField(rowEnd_, field);
-    *rowEnd_++ = kFieldSeparator;
-}
-
-void FlightList::AddArrival(std::string_view eta, bool fixed) {
-    if (fixed) *rowEnd_++ = '@';
-    AddField(eta);
-}
-
-void FlightList::AddFlightFields(const FlightView& flight) {
-    for (const std::string_view field :
-         {flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType}) {
-        AddField(field);
-    }
-}
-
-void FlightList::AddLegFields(const LegView& leg) {
-    AddField(leg.DepartTime);
-    AddArrival(leg.ETA, leg.FixedETA);
-    for (const std::string_view field :
-         {leg.FlightLevel, leg.NumberMode, leg.FlightNumber, leg.Destination}) {
-        AddField(field);
-    }
-}
-
-void FlightList::EndRow(std::int32_t legCount, bool removed) {
-    assert(rowEnd_ > FieldsOf(rowStart_));
-    CommitRow(static_cast<std::size_t>(rowEnd_ - FieldsOf(rowStart_)) - 1, legCount);
-    SetRemoved(Count() - 1, removed);
-}
-
-char* FlightList::RowBuffer(std::size_t mostBytes) {
-    rowStart_ = arena_->Reserve(mostBytes);
-    return FieldsOf(rowStart_);
-}
-
-void FlightList::CommitRow(std::size_t length, std::int32_t legCount) {
-    const RowHead head{static_cast<std::uint32_t>(legCount), static_cast<std::uint32_t>(length)};
-    std::memcpy(rowStart_, &head, sizeof head);
-    arena_->Commit(FieldsOf(rowStart_) + length);
-    handles_.push_back(reinterpret_cast<Handle>(rowStart_));
+std::size_t FlightList::HeldBytes() const {
+    std::size_t bytes = 0;
+    for (const auto& arena : arenas_) bytes += arena->UsedBytes();
+    return bytes;
 }
 
 std::size_t FlightList::MemoryBytes() const {
-    return arena_->Bytes() + HandleBytes();
+    std::size_t bytes = HandleBytes();
+    for (const auto& arena : arenas_) bytes += arena->TakenBytes();
+    return bytes;
+}
+
+void FlightList::AddKept(std::int32_t index, Rewritten& rewritten) const {
+    rewritten.handles.push_back(handles_[static_cast<std::size_t>(index)]);
+    rewritten.keptBytes += BytesOf(rewritten.handles.back());
+}
+
+void FlightList::AddChanged(std::int32_t index, const LentFlight& flight, Rewritten& rewritten) const {
+    if (!rewritten.arena) rewritten.arena = std::make_shared<FlightArena>();
+    const auto row = reinterpret_cast<Handle>(WriteRow(flight, *rewritten.arena));
+    rewritten.handles.push_back(row | (handles_[static_cast<std::size_t>(index)] & kRemovedBit));
+    rewritten.newBytes += BytesOf(row);
+}
+
+void FlightList::Take(Rewritten rewritten) {
+    if (!rewritten.arena) return;
+    // Memory of which less than half stays in use is left: the rows that stay in it move.
+    const bool leave = HeldBytes() > 2 * rewritten.keptBytes || arenas_.size() >= kMostArenas;
+    for (std::size_t i = 0; leave && i < handles_.size(); ++i) {
+        Handle& handle = rewritten.handles[i];
+        if (handle == handles_[i]) handle = CopyRow(handle, *rewritten.arena);
+    }
+    Arenas arenas;
+    if (!leave) arenas = arenas_;
+    arenas.push_back(std::move(rewritten.arena));
+    arenas_ = std::move(arenas);
+    handles_ = std::move(rewritten.handles);
+    liveBytes_ = rewritten.keptBytes + rewritten.newBytes;
+}
+
+// Copies all rows into memory of their own where the dead ones would outweigh them.
+void FlightList::DropDeadRows() {
+    if (HeldBytes() <= 2 * liveBytes_ && arenas_.size() <= kMostArenas) return;
+    Arenas arenas;
+    if (!handles_.empty()) arenas.push_back(std::make_shared<FlightArena>());
+    std::pmr::vector<Handle> handles = handles_;
+    for (Handle& handle : handles) handle = CopyRow(handle, *arenas.back());
+    handles_ = std::move(handles);
+    arenas_ = std::move(arenas);
 }
 
 }  // namespace orlo

@@ -1,7 +1,8 @@
 #include "core/FlightplanFile.h"
 
 #include <algorithm>
-#include <cstring>
+#include <string>
+#include <vector>
 
 #include "core/Application.h"
 #include "core/FieldScan.h"
@@ -17,7 +18,7 @@ constexpr std::size_t kFewestFields = kFlightFields + 2 * kLegFields;  // two co
 constexpr std::size_t kPercentField = 2;
 constexpr std::size_t kLongestLevel = 3;
 constexpr std::size_t kLongestNumber = 4;
-constexpr std::size_t kLongestLine = 0xFFFFFFFF - 16;  // positions and rows have 32-bit lengths
+constexpr std::size_t kLongestLine = 0xFFFFFFFF - 16;  // positions in a line have 32 bits
 constexpr int kLinesBetweenProgress = 201;
 constexpr std::string_view kMostPercent = "99%";
 
@@ -40,7 +41,7 @@ std::string_view FieldOf(std::string_view line, const FieldScan& fields, std::si
     return line.substr(fields.Start(index), fields.FieldLength(index));
 }
 
-// Whether the row of these fields is the line as it stands, with other separators.
+// Whether the flight of these fields is the line as it stands.
 bool IsNormal(std::string_view line, const FieldScan& fields, std::size_t legs) {
     if (!KeepsPercent(FieldOf(line, fields, kPercentField))) return false;
     for (std::size_t leg = 0, field = kFlightFields; leg < legs; ++leg, field += kLegFields) {
@@ -48,32 +49,6 @@ bool IsNormal(std::string_view line, const FieldScan& fields, std::size_t legs) 
             return false;
     }
     return true;
-}
-
-void AppendAsItStands(std::string_view line, const FieldScan& fields, std::size_t kept, std::size_t legs,
-                      FlightList& flights) {
-    const std::size_t length = fields.End(kept - 1);
-    char* row = flights.RowBuffer(length);
-    std::memcpy(row, line.data(), length);
-    for (std::size_t i = 0; i + 1 < kept; ++i) row[fields.End(i)] = kFieldSeparator;
-    flights.CommitRow(length, static_cast<std::int32_t>(legs));
-}
-
-void AppendNormalised(std::string_view line, const FieldScan& fields, std::size_t legs, FlightList& flights) {
-    const auto field = [&](std::size_t index) { return TrimBlanks(FieldOf(line, fields, index)); };
-    flights.BeginRow(fields.Length() + kMostPercent.size() + 1);
-    for (std::size_t i = 0; i < kFlightFields; ++i) {
-        flights.AddField(i != kPercentField || KeepsPercent(field(i)) ? field(i) : kMostPercent);
-    }
-    for (std::size_t leg = 0, i = kFlightFields; leg < legs; ++leg, i += kLegFields) {
-        flights.AddField(field(i));
-        flights.AddField(field(i + 1));
-        flights.AddField(NormalLevel(field(i + 2)));
-        flights.AddField(field(i + 3));
-        flights.AddField(field(i + 4).substr(0, kLongestNumber));
-        flights.AddField(field(i + 5));
-    }
-    flights.EndRow(static_cast<std::int32_t>(legs), false);
 }
 
 // Appends lines to a list with one scan buffer for all of them.
@@ -88,28 +63,49 @@ class LinePacker {
         if (fields_.Count() < kFewestFields) return false;
         const std::size_t legs = (fields_.Count() - kFlightFields) / kLegFields;
         if (!fields_.HasBlanks() && IsNormal(line, fields_, legs)) {
-            AppendAsItStands(line, fields_, kFlightFields + legs * kLegFields, legs, flights_);
+            flights_.AppendFields(line, fields_, static_cast<std::int32_t>(legs));
         } else {
-            AppendNormalised(line, fields_, legs, flights_);
+            AppendNormalised(line, legs);
         }
         return true;
     }
 
   private:
+    void AppendNormalised(std::string_view line, std::size_t legs) {
+        const auto field = [&](std::size_t index) { return TrimBlanks(FieldOf(line, fields_, index)); };
+        const std::string_view percent = field(kPercentField);
+        flight_.ACNumber = field(0);
+        flight_.TailNumber = field(1);
+        flight_.Percent = KeepsPercent(percent) ? percent : kMostPercent;
+        flight_.Period = field(3);
+        flight_.FlightType = field(4);
+        flight_.Legs.resize(legs);
+        levels_.resize(legs);
+        for (std::size_t leg = 0, i = kFlightFields; leg < legs; ++leg, i += kLegFields) {
+            std::string_view eta = field(i + 1);
+            const bool fixed = eta.starts_with(kFixedMark);
+            if (fixed) eta.remove_prefix(1);
+            levels_[leg] = NormalLevel(field(i + 2));
+            flight_.Legs[leg] = {field(i),     eta,          fixed,
+                                 levels_[leg], field(i + 3), field(i + 4).substr(0, kLongestNumber),
+                                 field(i + 5)};
+        }
+        flights_.Append(flight_);
+    }
+
     FlightList& flights_;
     FieldScan fields_;
+    LentFlight flight_;
+    std::vector<std::string> levels_;  // of its legs
 };
 
-// Collects rows as lines and hands them on in large pieces.
-class RowWriter {
+// Collects flights as lines and hands them on in large pieces.
+class LineWriter {
   public:
-    explicit RowWriter(OutputFile& file) : file_(file) { buffer_.reserve(kPiece + kPiece / 4); }
+    explicit LineWriter(OutputFile& file) : file_(file) { buffer_.reserve(kPiece + kPiece / 4); }
 
-    void Add(std::string_view row) {
-        const std::size_t start = buffer_.size();
-        buffer_.append(row);
-        std::replace(buffer_.begin() + static_cast<std::ptrdiff_t>(start), buffer_.end(), kFieldSeparator,
-                     ',');
+    void Add(const FlightList& flights, std::int32_t index) {
+        flights.AppendLine(index, buffer_);
         buffer_.append("\r\n");
         if (buffer_.size() >= kPiece) Flush();
     }
@@ -131,12 +127,12 @@ class RowWriter {
     bool failed_ = false;
 };
 
-bool WriteRows(FileSystem& files, const std::string& path, const FlightList& flights, bool removed) {
+bool WriteLines(FileSystem& files, const std::string& path, const FlightList& flights, bool removed) {
     const auto file = files.CreateReplacing(path);
     if (!file) return false;
-    RowWriter writer(*file);
+    LineWriter writer(*file);
     for (std::int32_t i = 0; i < flights.Count(); ++i) {
-        if (flights.Removed(i) == removed) writer.Add(flights.Row(i));
+        if (flights.Removed(i) == removed) writer.Add(flights, i);
     }
     return writer.Finish() && file->Commit();
 }
@@ -184,8 +180,8 @@ PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, cons
 
     const std::string removedPath = JoinPath(ParentFolder(path), kRemovedFlightsName);
     // The removed flights first, so that a kill between the two files loses none of them.
-    if (result.RemovedCount > 0) result.RemovedWritten = WriteRows(files, removedPath, flights, true);
-    result.PlanWritten = WriteRows(files, path, flights, false);
+    if (result.RemovedCount > 0) result.RemovedWritten = WriteLines(files, removedPath, flights, true);
+    result.PlanWritten = WriteLines(files, path, flights, false);
     if (result.RemovedCount == 0 && result.PlanWritten) {
         files.DeleteFile(removedPath);
         result.RemovedWritten = !files.FileExists(removedPath);

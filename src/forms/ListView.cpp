@@ -68,9 +68,7 @@ void ListView::Reserve(std::int32_t rows) {
 std::int32_t ListView::Add(const ListRow& row) {
     if (source_ != nullptr) return -1;
     const auto place = static_cast<std::int32_t>(slots_.size());
-    if (!row.key.empty() &&
-        !keys_.Add(row.key, place, [this](std::int32_t at) { return Field(at, kKeyField); }))
-        return -1;
+    if (!row.key.empty() && AddKey(row.key, place) != place) return -1;
     scratch_.clear();
     AppendField(scratch_, row.key);
     AppendField(scratch_, row.tag);
@@ -123,8 +121,7 @@ void ListView::Remove(std::span<const std::int32_t> places) {
     for (const std::int32_t place : places) {
         RowSlot& slot = Slot(place);
         if (!slot.stands) continue;
-        if (source_ == nullptr)
-            keys_.Remove(Field(place, kKeyField), [this](std::int32_t at) { return Field(at, kKeyField); });
+        if (source_ == nullptr) RemoveKey(place);
         liveBytes_ -= slot.length;
         deadBytes_ += slot.length;
         slot = RowSlot();
@@ -194,11 +191,21 @@ void ListView::SetText(std::int32_t place, std::int32_t column, std::string_view
 bool ListView::SetKey(std::int32_t place, std::string_view key) {
     const std::int32_t holder = key.empty() ? -1 : FindKey(key);
     if (source_ != nullptr || (holder >= 0 && holder != place)) return false;
-    const auto keyOf = [this](std::int32_t at) { return Field(at, kKeyField); };
-    keys_.Remove(keyOf(place), keyOf);
+    RemoveKey(place);
     SetField(place, kKeyField, key);
-    if (!keyOf(place).empty()) keys_.Add(keyOf(place), place, keyOf);
+    if (!key.empty()) AddKey(Field(place, kKeyField), place);
     return true;
+}
+
+std::int32_t ListView::AddKey(std::string_view key, std::int32_t place) {
+    return keys_.FindOrAdd(HashNoCase(key), place,
+                           [&](std::int32_t at) { return EqualNoCase(Field(at, kKeyField), key); });
+}
+
+// The row must still stand with its key.
+void ListView::RemoveKey(std::int32_t place) {
+    const std::string_view key = Field(place, kKeyField);
+    if (!key.empty()) keys_.Remove(HashNoCase(key), [place](std::int32_t at) { return at == place; });
 }
 
 void ListView::SetRowColour(std::int32_t place, Colour colourOf) {
@@ -208,7 +215,10 @@ void ListView::SetRowColour(std::int32_t place, Colour colourOf) {
 
 std::int32_t ListView::FindKey(std::string_view key) const {
     if (key.empty()) return -1;
-    if (source_ == nullptr) return keys_.Find(key, [this](std::int32_t at) { return Field(at, kKeyField); });
+    if (source_ == nullptr) {
+        return keys_.Find(HashNoCase(key),
+                          [&](std::int32_t at) { return EqualNoCase(Field(at, kKeyField), key); });
+    }
     const auto row = ParseWholeNumber(key.substr(1));
     const bool stands =
         row && *row >= 0 && static_cast<std::size_t>(*row) < slots_.size() && Slot(*row).stands;

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "core/PlaceIndex.h"
 #include "forms/Control.h"
 #include "forms/PackedFields.h"
-#include "forms/PlaceIndex.h"
 #include "forms/RowSource.h"
 
 namespace orlo {
@@ -140,6 +140,9 @@ struct ListView : Control {
     std::string_view Row(std::int32_t place) const { return {Slot(place).data, Slot(place).length}; }
     std::string_view Field(std::int32_t place, std::size_t field) const { return FieldAt(Row(place), field); }
     void AppendText(std::int32_t place, std::int32_t column, std::string& out) const;
+    // The place that holds the key: the given one where no other did.
+    std::int32_t AddKey(std::string_view key, std::int32_t place);
+    void RemoveKey(std::int32_t place);
     void Enter(std::int32_t place);
     std::size_t SortedPosition(std::int32_t place) const;
     void SetField(std::int32_t place, std::size_t field, std::string_view text);

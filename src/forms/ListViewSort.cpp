@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <functional>
 #include <memory_resource>
 
+#include "core/PlaceIndex.h"
 #include "core/Text.h"
 #include "forms/ListView.h"
 
@@ -11,12 +11,10 @@ namespace orlo {
 namespace {
 
 // Numbers texts, case folded. Equal ones mostly share a number, so that columns of few texts sort fast; once
-// too many differ, or too many of them meet in one spot of the table, each further text gets a number of its
-// own. Nothing but time depends on it.
+// too many differ each further text gets a number of its own. Nothing but time depends on it.
 class TextNumbers {
   public:
-    explicit TextNumbers(std::size_t rows)
-        : table_(std::bit_ceil(2 * std::min(rows, kFewTexts + rows / kRowsPerText))) {
+    explicit TextNumbers(std::size_t rows) {
         texts_.reserve(rows);
         for (std::size_t i = 0; i < fold_.size(); ++i) fold_[i] = UpperChar(static_cast<char>(i));
     }
@@ -25,7 +23,12 @@ class TextNumbers {
     std::uint32_t NumberOf(std::string& text) {
         for (char& character : text) character = fold_[static_cast<unsigned char>(character)];
         shares_ = shares_ && texts_.size() < kFewTexts + rowsSeen_++ / kRowsPerText;
-        return shares_ ? SharedNumberOf(text) : Add(text);
+        if (!shares_) return Add(text);
+        const auto next = static_cast<std::int32_t>(texts_.size());
+        const std::int32_t number =
+            index_.FindOrAdd(std::hash<std::string_view>()(text), next,
+                             [&](std::int32_t at) { return texts_[static_cast<std::size_t>(at)] == text; });
+        return number == next ? Add(text) : static_cast<std::uint32_t>(number);
     }
     // By number.
     const std::pmr::vector<std::string_view>& Texts() const { return texts_; }
@@ -33,28 +36,6 @@ class TextNumbers {
   private:
     static constexpr std::size_t kFewTexts = 16 * 1024;
     static constexpr std::size_t kRowsPerText = 4;
-    static constexpr std::size_t kLongestWalk = 64;
-    static constexpr std::uint32_t kFree = UINT32_MAX;
-
-    struct Entry {
-        std::uint32_t number = kFree;
-        std::uint32_t hash = 0;
-    };
-
-    std::uint32_t SharedNumberOf(std::string_view text) {
-        const std::size_t wide = std::hash<std::string_view>()(text);
-        const auto hash = static_cast<std::uint32_t>(wide ^ (static_cast<std::uint64_t>(wide) >> 32));
-        for (std::size_t walked = 0; walked < kLongestWalk; ++walked) {
-            Entry& entry = table_[(hash + walked) & (table_.size() - 1)];
-            if (entry.number == kFree) {
-                entry = {Add(text), hash};
-                return entry.number;
-            }
-            if (entry.hash == hash && texts_[entry.number] == text) return entry.number;
-        }
-        shares_ = false;
-        return Add(text);
-    }
 
     std::uint32_t Add(std::string_view text) {
         auto* const bytes = static_cast<char*>(memory_.allocate(text.size(), 1));
@@ -66,7 +47,7 @@ class TextNumbers {
     std::array<char, 256> fold_;
     bool shares_ = true;
     std::size_t rowsSeen_ = 0;
-    std::pmr::vector<Entry> table_;  // a power of two, at most half full
+    PlaceIndex index_;
     std::pmr::monotonic_buffer_resource memory_;
     std::pmr::vector<std::string_view> texts_;
 };

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/TextMemo.h"
+#include "core/CodeNumbers.h"
 #include "operations/PlanCorrection.h"
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/PlanPositions.h"
@@ -15,8 +15,7 @@ namespace {
 // What the installed aircraft of the plan can fly.
 class InstalledLimits {
   public:
-    explicit InstalledLimits(const Session& session)
-        : index_(InstalledPlacesByNumber(session)), places_(session.PlanAircrafts.size()) {
+    explicit InstalledLimits(const Session& session) : index_(InstalledPlacesByNumber(session)) {
         limits_.reserve(session.FSAircrafts.size());
         for (const FSAircraft& aircraft : session.FSAircrafts) {
             limits_.push_back({aircraft.MinFL, aircraft.MaxFL});
@@ -34,7 +33,7 @@ class InstalledLimits {
 
   private:
     KeyedIndex<std::int32_t> index_;
-    TextMemo places_;
+    CodeMemo places_;
     std::vector<LevelLimits> limits_;  // one an installed aircraft
 };
 
@@ -42,10 +41,7 @@ class InstalledLimits {
 class LevelDrawer {
   public:
     LevelDrawer(const Session& session, RandomSource& random)
-        : rules_(session.FlightLevelRules),
-          positions_(session),
-          places_(session.PlanAirports.size()),
-          random_(random) {}
+        : rules_(session.FlightLevelRules), positions_(session), random_(random) {}
 
     // One level a leg, in the order of the legs; they hold until the next draw.
     const std::vector<std::string>& Draw(const FlightView& flight, LevelLimits limits) {
@@ -82,26 +78,10 @@ class LevelDrawer {
 
     const std::vector<FlightLevelRule>& rules_;
     PlanPositions positions_;
-    TextMemo places_;
+    CodeMemo places_;
     RandomSource& random_;
     std::vector<std::string> levels_;
 };
-
-// The flight at `index` of the plan with other levels.
-void StoreLevels(const FlightList& plan, std::int32_t index, const std::vector<std::string>& levels,
-                 FlightList& flights) {
-    const FlightView flight = plan.At(index);
-    std::size_t size = plan.Row(index).size() + 1;
-    for (const std::string& level : levels) size += level.size();
-    flights.BeginRow(size);
-    flights.AddFlightFields(flight);
-    std::size_t number = 0;
-    for (LegView leg : flight) {
-        leg.FlightLevel = levels[number++];
-        flights.AddLegFields(leg);
-    }
-    flights.EndRow(flight.LegCount, flight.Removed);
-}
 
 void CorrectLevelsOfPlan(Context& context) {
     CorrectFlightLevels(context.session, context.services.random);
@@ -112,19 +92,14 @@ void CorrectLevelsOfPlan(Context& context) {
 void CorrectFlightLevels(Session& session, RandomSource& random) {
     InstalledLimits installed(session);
     LevelDrawer drawer(session, random);
-    const FlightList& plan = session.Flights;
-    FlightList flights;
-    flights.Reserve(plan.Count());
-    for (std::int32_t i = 0; i < plan.Count(); ++i) {
-        const FlightView flight = plan.At(i);
+    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
         const LevelLimits* limits = installed.Find(flight.ACNumber);
-        if (limits == nullptr) {
-            flights.AppendFrom(plan, i);
-        } else {
-            StoreLevels(plan, i, drawer.Draw(flight, *limits), flights);
-        }
-    }
-    session.Flights = std::move(flights);
+        if (limits == nullptr) return false;
+        changed = flight;
+        const std::vector<std::string>& levels = drawer.Draw(flight, *limits);
+        for (std::size_t leg = 0; leg < levels.size(); ++leg) changed.Legs[leg].FlightLevel = levels[leg];
+        return true;
+    });
 }
 
 void OnCorrectFlightLevels(Context& context) {

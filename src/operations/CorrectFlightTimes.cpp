@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "core/ClockTime.h"
 #include "operations/PlanCorrection.h"
@@ -13,9 +15,6 @@ namespace {
 constexpr std::int64_t kSpareSeconds = 2 * kSecondsPerMinute;
 // A negative turn-around gets so much where no minimum is set.
 constexpr std::int64_t kUsualTurnAround = 47 * kSecondsPerMinute;
-
-constexpr std::size_t kLongestTime = 10;  // "d/HH:MM:SS"
-constexpr std::size_t kLongestPeriod = 4;
 
 struct PeriodLimit {
     std::string_view period;
@@ -78,27 +77,22 @@ bool AnyMoved(const FlightTimes& times) {
     return false;
 }
 
-// The flight at `index` of the plan with its corrected times.
-void StoreTimes(const FlightList& plan, std::int32_t index, const FlightTimes& times, FlightView flight,
-                FlightList& flights) {
-    flights.BeginRow(plan.Row(index).size() + 1 + kLongestPeriod +
-                     static_cast<std::size_t>(flight.LegCount) * 2 * kLongestTime);
-    flights.AddFlightFields(flight);
-    std::int32_t number = 0;
-    for (LegView leg : flight) {
-        if (!times.Moved(number)) {
-            flights.AddLegFields(leg);
-        } else {
-            const std::string depart = times.DepartText(number);
-            const std::string arrive = times.ArriveText(number);
-            leg.DepartTime = depart;
-            leg.ETA = arrive;
-            flights.AddLegFields(leg);
+// The texts of moved legs, which lend them to a changed flight.
+class MovedTimes {
+  public:
+    void Lend(const FlightTimes& times, LentFlight& flight) {
+        texts_.resize(2 * flight.Legs.size());
+        for (std::size_t i = 0; i < flight.Legs.size(); ++i) {
+            const auto leg = static_cast<std::int32_t>(i);
+            if (!times.Moved(leg)) continue;
+            flight.Legs[i].DepartTime = texts_[2 * i] = times.DepartText(leg);
+            flight.Legs[i].ETA = texts_[2 * i + 1] = times.ArriveText(leg);
         }
-        ++number;
     }
-    flights.EndRow(flight.LegCount, flight.Removed);
-}
+
+  private:
+    std::vector<std::string> texts_;
+};
 
 void CorrectTimesOfPlan(Context& context) {
     CorrectFlightTimes(context.session);
@@ -117,22 +111,17 @@ std::string_view CorrectTimes(FlightTimes& times, std::int32_t minimum, std::int
 }
 
 void CorrectFlightTimes(Session& session) {
-    const FlightList& plan = session.Flights;
-    FlightList flights;
-    flights.Reserve(plan.Count());
-    for (std::int32_t i = 0; i < plan.Count(); ++i) {
-        FlightView flight = plan.At(i);
+    MovedTimes moved;
+    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
         FlightTimes times(flight);
         const std::string_view period = CorrectTimes(times, session.TATime, session.MaxTATime);
         const bool periodStays = times.Weekly() || period == flight.Period;
-        if (periodStays && !AnyMoved(times)) {
-            flights.AppendFrom(plan, i);
-            continue;
-        }
-        if (!periodStays) flight.Period = period;
-        StoreTimes(plan, i, times, flight, flights);
-    }
-    session.Flights = std::move(flights);
+        if (periodStays && !AnyMoved(times)) return false;
+        changed = flight;
+        if (!periodStays) changed.Period = period;
+        moved.Lend(times, changed);
+        return true;
+    });
 }
 
 void OnCorrectFlightTimes(Context& context) {

@@ -106,7 +106,7 @@ void AddFlight(Context& context) {
         return;
     }
     session.SearchResultIndex.back() = session.FlightCount();
-    session.Flights.AppendFrom(session.SearchResults, place);
+    session.Flights.Append(session.SearchResults.Unpack(place));
     ShowNewResult(context, place);
     MarkPlanModified(context);
 }

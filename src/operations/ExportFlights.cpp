@@ -1,5 +1,7 @@
 #include "operations/ExportFlights.h"
 
+#include <vector>
+
 #include "core/Application.h"
 #include "core/FlightplanFile.h"
 #include "core/Path.h"
@@ -42,17 +44,17 @@ std::int32_t CountKept(const Session& session) {
 }
 
 FlightList Remainder(const Session& session) {
-    FlightList rest = FlightList::SharingRowsOf(session.Flights);
+    std::vector<std::int32_t> rest;
     std::size_t next = 0;
     const auto resultCount = static_cast<std::size_t>(session.SearchResultCount);
     for (std::int32_t place = 0; place < session.FlightCount(); ++place) {
         if (next < resultCount && session.SearchResultIndex[next] == place) {
             ++next;
         } else {
-            rest.AppendFrom(session.Flights, place);
+            rest.push_back(place);
         }
     }
-    return rest;
+    return session.Flights.Selection(rest);
 }
 
 }  // namespace

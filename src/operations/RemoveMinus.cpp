@@ -6,17 +6,6 @@
 namespace orlo {
 namespace {
 
-// The flight at `index` of the plan with another tail number, which is no longer than its own.
-void StoreTailNumber(const FlightList& plan, std::int32_t index, std::string_view tailNumber,
-                     FlightList& flights) {
-    FlightView flight = plan.At(index);
-    flight.TailNumber = tailNumber;
-    flights.BeginRow(plan.Row(index).size() + 1);
-    flights.AddFlightFields(flight);
-    for (const LegView& leg : flight) flights.AddLegFields(leg);
-    flights.EndRow(flight.LegCount, flight.Removed);
-}
-
 void RemoveMinusOfPlan(Context& context) {
     RemoveMinusFromTailNumbers(context.session);
 }
@@ -24,18 +13,14 @@ void RemoveMinusOfPlan(Context& context) {
 }  // namespace
 
 void RemoveMinusFromTailNumbers(Session& session) {
-    const FlightList& plan = session.Flights;
-    FlightList flights;
-    flights.Reserve(plan.Count());
-    for (std::int32_t i = 0; i < plan.Count(); ++i) {
-        const std::string_view tailNumber = plan.At(i).TailNumber;
-        if (tailNumber.find('-') == std::string_view::npos) {
-            flights.AppendFrom(plan, i);
-        } else {
-            StoreTailNumber(plan, i, RemoveAll(tailNumber, '-'), flights);
-        }
-    }
-    session.Flights = std::move(flights);
+    std::string tailNumber;
+    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
+        if (flight.TailNumber.find('-') == std::string_view::npos) return false;
+        tailNumber = RemoveAll(flight.TailNumber, '-');
+        changed = flight;
+        changed.TailNumber = tailNumber;
+        return true;
+    });
 }
 
 void OnRemoveMinusFromTailNumbers(Context& context) {

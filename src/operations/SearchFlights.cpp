@@ -3,9 +3,9 @@
 #include <memory>
 #include <optional>
 
+#include "core/CodeNumbers.h"
 #include "core/Number.h"
 #include "core/Text.h"
-#include "core/TextMemo.h"
 #include "mainwindow/BulkOperation.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
@@ -68,10 +68,7 @@ SearchFields ReadFields(const Context& context, std::string_view departure, std:
 class LevelSearch {
   public:
     explicit LevelSearch(const Session& session)
-        : session_(session),
-          positions_(session),
-          places_(session.PlanAirports.size()),
-          installed_(InstalledPlacesByNumber(session)) {}
+        : session_(session), positions_(session), installed_(InstalledPlacesByNumber(session)) {}
 
     bool HasWrongLevel(const FlightView& flight) {
         const std::int32_t* place = installed_.Find(flight.ACNumber);
@@ -103,7 +100,7 @@ class LevelSearch {
 
     const Session& session_;
     PlanPositions positions_;
-    TextMemo places_;
+    CodeMemo places_;
     KeyedIndex<std::int32_t> installed_;
 };
 
@@ -124,12 +121,11 @@ std::optional<std::string> UnknownAirports(const Session& session, const FlightV
 // Walks the flights that are not removed and takes those that match.
 template <typename Matches>
 void CollectResults(Session& session, Matches matches) {
-    session.SearchResults = FlightList::SharingRowsOf(session.Flights);
     for (std::int32_t place = 0; place < session.FlightCount(); ++place) {
         if (session.Flights.Removed(place) || !matches(place, session.Flights.At(place))) continue;
-        session.SearchResults.AppendFrom(session.Flights, place);
         session.SearchResultIndex.push_back(place);
     }
+    session.SearchResults = session.Flights.Selection(session.SearchResultIndex);
     session.SearchResultCount = session.SearchResults.Count();
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/AirlineRecords.h"
 #include "core/AirportRecord.h"
+#include "core/CodeNumbers.h"
 #include "core/KeyedIndex.h"
 #include "simulator/PlanPositions.h"
 
@@ -37,10 +38,14 @@ class RouteAirports {
                   const AirlineSets& sets);
 
     // The number of a code; the text must outlive this. A new code is resolved here.
-    std::int32_t Number(std::string_view code);
+    std::int32_t Number(std::string_view code) {
+        const std::int32_t number = codes_.Number(code);
+        if (static_cast<std::size_t>(number) == airports_.size()) airports_.push_back(Resolve(code));
+        return number;
+    }
     const RouteAirport& At(std::int32_t number) const { return airports_[static_cast<std::size_t>(number)]; }
 
-    std::string_view Code(std::int32_t number) const { return codes_[static_cast<std::size_t>(number)]; }
+    std::string_view Code(std::int32_t number) const { return codes_.Text(number); }
 
     // Nautical miles between two numbers: 0 for the same, -1 where it is unknown.
     std::int32_t Distance(std::int32_t from, std::int32_t to) const;
@@ -49,8 +54,6 @@ class RouteAirports {
 
   private:
     RouteAirport Resolve(std::string_view code);
-    std::size_t FindSlot(std::uint64_t key, std::string_view code) const;
-    void GrowSlots();
 
     const std::vector<AirportRecord>& records_;
     const PlanPositions& positions_;
@@ -62,17 +65,8 @@ class RouteAirports {
     KeyedIndex<std::int32_t> regionSets_;
     KeyedIndex<std::int32_t> countries_;
 
+    CodeNumbers codes_;
     std::vector<RouteAirport> airports_;  // by number
-    std::vector<std::string_view> codes_;
-
-    // Open addressing over the codes, a power of two. The key of a short code is its bytes, so that it is
-    // found without a look at its text.
-    struct Slot {
-        std::uint64_t key = 0;
-        std::int32_t number = -1;  // -1 is free
-    };
-    static std::uint64_t KeyOf(std::string_view code);
-    std::vector<Slot> slots_;
 };
 
 }  // namespace orlo

@@ -1,5 +1,7 @@
 #include "shuffler/ShuffleEngine.h"
 
+#include <vector>
+
 #include "core/Application.h"
 #include "core/Text.h"
 #include "shuffler/AircraftMatch.h"
@@ -16,49 +18,36 @@ void ReportLevelError(Services& services, std::int32_t index) {
     ShowMessage(services.messages, Concat("Error (Flight ", index + 1, "):\nType mismatch"), kMarkCritical);
 }
 
-// Puts the flight at `index` into `flights` as the run decides it. False when it ends the run.
-bool ShuffleFlight(const FlightList& plan, std::int32_t index, ShuffleRun& run, FlightList& flights,
-                   ShuffleResult& result) {
-    switch (run.Decide(plan.At(index))) {
-        case ShuffleRun::Decision::Assigned:
-            StoreFlight(run.TheFlight(), false, flights);
-            ++result.assigned;
-            return true;
-        case ShuffleRun::Decision::Removed:
-            flights.AppendFrom(plan, index);
-            flights.SetRemoved(index, true);
-            ++result.removed;
-            return true;
-        case ShuffleRun::Decision::LevelIsNoNumber:
-            break;
-    }
-    return false;
-}
-
 // Rewrites session.Flights. The error of a flight is reported here.
 ShuffleResult ShuffleFlights(Session& session, Services& services, ShuffleRun& run) {
-    const FlightList& plan = session.Flights;
-    FlightList flights;
-    flights.Reserve(plan.Count());
     ShuffleResult result;
     result.succeeded = true;
+    std::vector<std::int32_t> removed;
     std::int32_t sinceProgress = 0;
-    for (std::int32_t i = 0; i < plan.Count(); ++i) {
-        if (!result.succeeded || plan.Removed(i)) {
-            flights.AppendFrom(plan, i);
-            continue;
-        }
+    session.Flights.Rewrite([&](std::int32_t index, const FlightView& flight, LentFlight& changed) {
+        if (!result.succeeded || flight.Removed) return false;
         if (++sinceProgress == kFlightsBetweenProgress) {
             sinceProgress = 0;
-            services.progress.SetValue(i + 1);
+            services.progress.SetValue(index + 1);
             services.windows.ProcessEvents();
         }
-        if (ShuffleFlight(plan, i, run, flights, result)) continue;
-        ReportLevelError(services, i);
-        result.succeeded = false;
-        flights.AppendFrom(plan, i);
-    }
-    session.Flights = std::move(flights);
+        switch (run.Decide(flight)) {
+            case ShuffleRun::Decision::Assigned:
+                LendFields(run.TheFlight(), changed);
+                ++result.assigned;
+                return true;
+            case ShuffleRun::Decision::Removed:
+                removed.push_back(index);
+                return false;
+            case ShuffleRun::Decision::LevelIsNoNumber:
+                ReportLevelError(services, index);
+                result.succeeded = false;
+                return false;
+        }
+        return false;
+    });
+    for (const std::int32_t index : removed) session.Flights.SetRemoved(index, true);
+    result.removed = static_cast<std::int32_t>(removed.size());
     return result;
 }
 

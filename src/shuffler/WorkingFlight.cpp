@@ -25,23 +25,19 @@ void LoadFlight(const FlightView& row, WorkingFlight& flight) {
     }
 }
 
-void StoreFlight(const WorkingFlight& flight, bool removed, FlightList& flights) {
-    std::size_t size = kFlightFields + flight.ACNumber.size() + flight.TailNumber.size() +
-                       flight.Percent.size() + flight.Period.size() + flight.FlightType.size();
+void LendFields(const WorkingFlight& flight, LentFlight& lent) {
+    lent.ACNumber = flight.ACNumber;
+    lent.TailNumber = flight.TailNumber;
+    lent.Percent = flight.Percent;
+    lent.Period = flight.Period;
+    lent.FlightType = flight.FlightType;
+    lent.Legs.resize(static_cast<std::size_t>(flight.LegCount));
     for (std::int32_t i = 0; i < flight.LegCount; ++i) {
         const WorkingLeg& leg = flight.LegAt(i);
-        size += kLegFields + leg.DepartTime.size() + leg.ETA.size() + 1 + leg.FlightLevel.size() +
-                leg.NumberMode.size() + leg.FlightNumber.size() + leg.Destination.size();
+        lent.Legs[static_cast<std::size_t>(i)] = {leg.DepartTime,  leg.ETA,        leg.FixedETA,
+                                                  leg.FlightLevel, leg.NumberMode, leg.FlightNumber,
+                                                  leg.Destination};
     }
-    flights.BeginRow(size);
-    flights.AddFlightFields(
-        {flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType, 0, false, {}});
-    for (std::int32_t i = 0; i < flight.LegCount; ++i) {
-        const WorkingLeg& leg = flight.LegAt(i);
-        flights.AddLegFields({leg.DepartTime, leg.ETA, leg.FixedETA, leg.FlightLevel, leg.NumberMode,
-                              leg.FlightNumber, leg.Destination});
-    }
-    flights.EndRow(flight.LegCount, removed);
 }
 
 }  // namespace orlo

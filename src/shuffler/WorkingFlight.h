@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/FlightList.h"
+#include "core/FlightView.h"
 
 namespace orlo {
 
@@ -43,7 +43,7 @@ struct WorkingFlight {
 // Fills `flight` from a row, which must outlive its use. Airport and Distance are left for the caller.
 void LoadFlight(const FlightView& row, WorkingFlight& flight);
 
-// Appends the flight as a new row.
-void StoreFlight(const WorkingFlight& flight, bool removed, FlightList& flights);
+// Lends all fields of the flight; they hold until it is filled anew.
+void LendFields(const WorkingFlight& flight, LentFlight& lent);
 
 }  // namespace orlo

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <string>
+#include <vector>
+
 namespace orlo {
 namespace {
 
@@ -13,6 +17,11 @@ Flight MakeFlight(int number, int legs) {
         flight.Legs.push_back({"1/08:00:00", "1/09:00:00", i % 2 == 1, "310", "F", leg, "K" + leg});
     }
     return flight;
+}
+
+// Rows never move, so that shared ones stand at one place.
+const char* RowOf(const FlightList& list, std::int32_t index) {
+    return list.At(index).ACNumber.data();
 }
 
 TEST(FlightList, FlightsComeOutAsTheyWentIn) {
@@ -33,7 +42,7 @@ TEST(FlightList, FlightsComeOutAsTheyWentIn) {
     EXPECT_EQ(list.At(1).StartAirport(), "");
     EXPECT_EQ(list.At(2).StartAirport(), "");
     EXPECT_EQ(list.At(4).StartAirport(), "K0");
-    EXPECT_EQ(list.Row(4), "AC#5\nN5\n50%\nWEEK\nIFR\n1/08:00:00\n1/09:00:00\n310\nF\n0\nK0");
+    EXPECT_EQ(list.Line(4), "AC#5,N5,50%,WEEK,IFR,1/08:00:00,1/09:00:00,310,F,0,K0");
 }
 
 // A line feed is the separator, and either would end the line in the file.
@@ -58,7 +67,7 @@ TEST(FlightList, TheRemovedMarkIsEachListsOwn) {
     EXPECT_TRUE(list.At(0).Removed);
     EXPECT_FALSE(list.Removed(1));
     EXPECT_FALSE(copy.Removed(0));
-    EXPECT_EQ(list.Row(0), copy.Row(0));
+    EXPECT_EQ(RowOf(list, 0), RowOf(copy, 0));
     list.SetRemoved(0, false);
     EXPECT_EQ(list.Unpack(0), MakeFlight(1, 2));
 }
@@ -67,13 +76,13 @@ TEST(FlightList, CopiesShareRowsAndChangesDoNotReachThem) {
     FlightList list;
     for (int i = 0; i < 1000; ++i) list.Append(MakeFlight(i, 3));
     const FlightList snapshot = list;
-    EXPECT_EQ(snapshot.Row(500).data(), list.Row(500).data());
+    EXPECT_EQ(RowOf(snapshot, 500), RowOf(list, 500));
 
     list.Replace(500, MakeFlight(9999, 1));
     list.Append(MakeFlight(1000, 2));
     list.Truncate(600);
     EXPECT_EQ(list.Unpack(500), MakeFlight(9999, 1));
-    EXPECT_EQ(list.Row(499).data(), snapshot.Row(499).data());
+    EXPECT_EQ(RowOf(list, 499), RowOf(snapshot, 499));
     list.Clear();
     EXPECT_TRUE(list.Empty());
 
@@ -81,29 +90,90 @@ TEST(FlightList, CopiesShareRowsAndChangesDoNotReachThem) {
     for (std::int32_t i = 0; i < snapshot.Count(); ++i) ASSERT_EQ(snapshot.Unpack(i), MakeFlight(i, 3));
 }
 
-TEST(FlightList, AppendFromSharesOnOneArenaAndCopiesAcrossTwo) {
+TEST(FlightList, ASelectionSharesRowsAndOutlivesItsList) {
     FlightList list;
     list.Append(MakeFlight(1, 2));
     list.Append(MakeFlight(2, 0));
     list.SetRemoved(0, true);
-    FlightList selection = FlightList::SharingRowsOf(list);
-    FlightList apart;
-    for (const std::int32_t index : {1, 0}) {
-        selection.AppendFrom(list, index);
-        apart.AppendFrom(list, index);
-    }
-    EXPECT_EQ(selection.Row(1).data(), list.Row(0).data());
-    EXPECT_NE(apart.Row(1).data(), list.Row(0).data());
+    FlightList selection = list.Selection(std::vector<std::int32_t>{1, 0});
+    EXPECT_EQ(RowOf(selection, 1), RowOf(list, 0));
     list = FlightList();
     Flight first = MakeFlight(1, 2);
     first.Removed = true;
-    for (const FlightList* other : {&selection, &apart}) {
-        ASSERT_EQ(other->Count(), 2);
-        EXPECT_EQ(other->Unpack(0), MakeFlight(2, 0));
-        EXPECT_EQ(other->Unpack(1), first);
+    ASSERT_EQ(selection.Count(), 2);
+    EXPECT_EQ(selection.Unpack(0), MakeFlight(2, 0));
+    EXPECT_EQ(selection.Unpack(1), first);
+    selection.Append(MakeFlight(3, 1));
+    EXPECT_EQ(selection.Unpack(1), first);
+    EXPECT_EQ(selection.Unpack(2), MakeFlight(3, 1));
+}
+
+// Gives every flight whose number divides by `step` a tail number of so many characters.
+void RewriteEach(FlightList& list, int step, std::size_t characters) {
+    const std::string tail(characters, 'X');
+    list.Rewrite([&](std::int32_t index, const FlightView& flight, LentFlight& changed) {
+        if (index % step != 0) return false;
+        changed = flight;
+        changed.TailNumber = tail;
+        return true;
+    });
+}
+
+TEST(FlightList, ARewriteChangesWhatIsToldAndSharesTheRest) {
+    FlightList list;
+    for (int i = 0; i < 1000; ++i) list.Append(MakeFlight(i, i % 4));
+    list.SetRemoved(0, true);
+    const FlightList before = list;
+    RewriteEach(list, 3, 40);
+    for (std::int32_t i = 0; i < list.Count(); ++i) {
+        Flight expected = MakeFlight(i, i % 4);
+        if (i % 3 == 0) expected.TailNumber = std::string(40, 'X');
+        expected.Removed = i == 0;
+        ASSERT_EQ(list.Unpack(i), expected) << i;
+        ASSERT_EQ(RowOf(list, i) == RowOf(before, i), i % 3 != 0) << i;
     }
-    apart.AppendFrom(apart, 1);
-    EXPECT_EQ(apart.Unpack(2), first);
+    const auto failing = [&](std::int32_t index, const FlightView& flight, LentFlight& changed) {
+        if (index == 500) throw std::bad_alloc();
+        changed = flight;
+        changed.Period = "1Hr";
+        return true;
+    };
+    const FlightList rewritten = list;
+    EXPECT_THROW(list.Rewrite(failing), std::bad_alloc);
+    for (std::int32_t i = 0; i < list.Count(); ++i) ASSERT_EQ(RowOf(list, i), RowOf(rewritten, i)) << i;
+}
+
+// A plan that was corrected or edited again and again would hold the rows of all its earlier states.
+TEST(FlightList, DeadRowsNeverOutweighTheLiveOnes) {
+    FlightList list;
+    for (int i = 0; i < 1000; ++i) list.Append(MakeFlight(i, 3));
+    FlightList snapshot;
+    const auto expectFew = [&](const char* after) {
+        ASSERT_LE(list.HeldBytes(), 2 * list.LiveBytes()) << after;
+        ASSERT_LE(list.MemoryBytes(), 4 * list.LiveBytes() + 64 * 1024) << after;
+        ASSERT_LE(snapshot.HeldBytes(), 2 * snapshot.LiveBytes()) << after;
+        std::size_t live = 0;
+        for (std::int32_t i = 0; i < list.Count(); ++i) live += RowBytes(list.Line(i).size());
+        ASSERT_EQ(list.LiveBytes(), live) << after;
+    };
+    for (const int step : {1, 2, 1000, 3, 2, 1}) {
+        for (std::size_t round = 0; round < 20; ++round) {
+            snapshot = list;
+            RewriteEach(list, step, round);
+            expectFew("a rewrite");
+        }
+    }
+    for (int i = 0; i < 3000; ++i) {
+        if (i % 700 == 0) snapshot = list;
+        list.Replace(i % 7, MakeFlight(i, 3));
+        expectFew("an edit");
+    }
+    for (int count = 1000; count > 0; count -= 99) {
+        list.Truncate(count);
+        expectFew("a truncation");
+    }
+    list.Truncate(0);
+    EXPECT_EQ(list.HeldBytes(), 0u);
 }
 
 }  // namespace

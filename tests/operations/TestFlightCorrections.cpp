@@ -20,9 +20,7 @@ constexpr std::int32_t kOff = kNoTurnAroundLimit;
 struct CorrectionWorld : test::FakeProgram {
     CorrectionWorld() { form.mnuToolsCheckFL.enabled = form.mnuToolsCheckFT.enabled = true; }
 
-    std::string Line(std::int32_t index) const {
-        return ReplaceAll(session.Flights.Row(index), std::string_view(&kFieldSeparator, 1), ",");
-    }
+    std::string Line(std::int32_t index) const { return session.Flights.Line(index); }
     std::string Check(std::int32_t index) const {
         const FlightTimesCheck check =
             CheckFlightTimes(session.Flights.At(index), session.TATime, session.MaxTATime);

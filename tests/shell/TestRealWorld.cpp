@@ -116,14 +116,14 @@ void ShuffleAndCheck(bool checkFL) {
             if (removed % 50 != 0) continue;  // the whole product would take minutes under the sanitizers
             for (const auto& [number, candidate] : aircraft) {
                 ASSERT_NE(Misfit(session, airports, positions, *candidate, flight), "")
-                    << session.Flights.Row(i);
+                    << session.Flights.Line(i);
             }
             continue;
         }
         const auto chosen = aircraft.find(flight.ACNumber);
         ASSERT_NE(chosen, aircraft.end());
         ASSERT_EQ(Misfit(session, airports, positions, *chosen->second, flight), "")
-            << session.Flights.Row(i);
+            << session.Flights.Line(i);
     }
 
     world.Press(form.mnuFileSave);

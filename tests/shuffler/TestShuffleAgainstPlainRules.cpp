@@ -185,7 +185,7 @@ void CompareOneWorld(unsigned seed, Seen& seen) {
     EXPECT_EQ(made.random.taken, plainRandom.taken);
     ASSERT_EQ(made.session.FlightCount(), plain.session.FlightCount());
     for (std::int32_t i = 0; i < made.session.FlightCount(); ++i) {
-        ASSERT_EQ(made.session.Flights.Row(i), plain.session.Flights.Row(i));
+        ASSERT_EQ(made.session.Flights.Line(i), plain.session.Flights.Line(i));
         ASSERT_EQ(made.session.Flights.Removed(i), plain.session.Flights.Removed(i)) << i;
     }
     EXPECT_EQ(Describe(made.session.RunAirlines), Describe(plain.session.RunAirlines));

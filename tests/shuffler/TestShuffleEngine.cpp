@@ -59,7 +59,7 @@ TEST(ShuffleEngine, ASeedGivesOnePlanAndEachRunStartsFromTheRulesAsRead) {
     const auto rows = [](const ShuffleWorld& made) {
         std::string text;
         for (std::int32_t i = 0; i < made.session.FlightCount(); ++i)
-            text.append(made.session.Flights.Row(i));
+            text.append(made.session.Flights.Line(i));
         return text;
     };
     const auto first = make(7);

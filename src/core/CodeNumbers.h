@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "core/PlaceIndex.h"
+
+namespace orlo {
+
+// Numbers texts such as codes and aircraft numbers, spelled exactly, from 0 in the order in which they are
+// first asked for, so that a pass over many legs looks each text up in a large index only once.
+class CodeNumbers {
+  public:
+    // A new text must outlive this.
+    std::int32_t Number(std::string_view text) {
+        const std::uint64_t key = KeyOf(text);
+        const std::int32_t number = index_.FindOrAdd(key, Count(), [&](std::int32_t at) {
+            const auto place = static_cast<std::size_t>(at);
+            return keys_[place] == key && ((key & kLongText) == 0 || texts_[place] == text);
+        });
+        if (number == Count()) {
+            keys_.push_back(key);
+            texts_.push_back(text);
+        }
+        return number;
+    }
+    std::string_view Text(std::int32_t number) const { return texts_[static_cast<std::size_t>(number)]; }
+    std::int32_t Count() const { return static_cast<std::int32_t>(texts_.size()); }
+
+  private:
+    static constexpr std::uint64_t kLongText = std::uint64_t{1} << 63;
+
+    // Short texts have unlike keys: their bytes and, in the top byte, their length. Long ones are told by the
+    // top bit, and must be compared.
+    static std::uint64_t KeyOf(std::string_view text);
+
+    PlaceIndex index_;
+    std::vector<std::uint64_t> keys_;  // by number, so that a short text is found without a look at it
+    std::vector<std::string_view> texts_;
+};
+
+// Remembers what was found for each text.
+class CodeMemo {
+  public:
+    // What `find(text)` gave for the text the first time. A new text must outlive this.
+    template <typename Find>
+    std::int32_t Get(std::string_view text, Find find) {
+        const std::int32_t number = numbers_.Number(text);
+        if (static_cast<std::size_t>(number) == found_.size()) found_.push_back(find(text));
+        return found_[static_cast<std::size_t>(number)];
+    }
+
+  private:
+    CodeNumbers numbers_;
+    std::vector<std::int32_t> found_;  // by number
+};
+
+}  // namespace orlo
