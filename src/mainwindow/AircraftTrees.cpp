@@ -1,8 +1,8 @@
 #include "mainwindow/AircraftTrees.h"
 
-#include <array>
 #include <vector>
 
+#include "core/AircraftClassNames.h"
 #include "core/Number.h"
 #include "core/Text.h"
 
@@ -23,14 +23,6 @@ struct TreeAircraft {
     std::int32_t aircraftClass = kClassNone;
     std::int32_t fsIndex = -1;
 };
-
-std::string_view ClassName(std::int32_t aircraftClass) {
-    static constexpr std::array<std::string_view, 8> kNames = {"Not Used",   "Micro Prop", "Mid Prop",
-                                                               "Large Prop", "Micro Jet",  "Small Jet",
-                                                               "Large Jet",  "Huge Jet"};
-    if (aircraftClass < kClassNotUsed || aircraftClass > kClassHugeJet) return "Unkown";
-    return kNames[static_cast<std::size_t>(aircraftClass - kClassNotUsed)];
-}
 
 // The group of that key, added under `parent` where it doesn't stand yet.
 std::int32_t Group(TreeView& tree, std::int32_t parent, std::string_view key, std::string_view text) {
@@ -55,7 +47,7 @@ std::int32_t GroupOf(TreeView& tree, std::int32_t view, const TreeAircraft& airc
                          aircraft.model);
         }
         default: {
-            const std::string_view name = ClassName(aircraft.aircraftClass);
+            const std::string_view name = AircraftClassName(aircraft.aircraftClass, "Unkown");
             return Group(tree, -1, Concat('#', name), name);
         }
     }

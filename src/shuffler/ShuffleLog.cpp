@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/AircraftClassNames.h"
 #include "core/AirportRecord.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -83,29 +84,6 @@ std::string_view SurfaceText(std::int32_t surface) {
     }
 }
 
-std::string_view ClassWord(std::int32_t classCode) {
-    switch (classCode) {
-        case kClassNotUsed:
-            return "Not Used";
-        case kClassMicroProp:
-            return "Micro Prop";
-        case kClassMidProp:
-            return "Mid Prop";
-        case kClassLargeProp:
-            return "Large Prop";
-        case kClassMicroJet:
-            return "Micro Jet";
-        case kClassSmallJet:
-            return "Small Jet";
-        case kClassLargeJet:
-            return "Large Jet";
-        case kClassHugeJet:
-            return "Huge Jet";
-        default:
-            return "Unknown";
-    }
-}
-
 void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath) {
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle.log"));
     for (std::string_view line : kHead) log.Line(line);
@@ -115,7 +93,7 @@ void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
     if (!log.IsOpen()) return;
     const std::string_view airline =
         aircraft.Airline.empty() ? kNoAirline : std::string_view(aircraft.Airline);
-    log.Line(Concat(airline, "/", aircraft.Title, "/", ClassWord(aircraft.Class), "/",
+    log.Line(Concat(airline, "/", aircraft.Title, "/", AircraftClassName(aircraft.Class, "Unknown"), "/",
                     aircraft.UIManufacturer, "/", aircraft.UIType));
 }
 

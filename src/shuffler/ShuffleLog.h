@@ -43,9 +43,6 @@ struct RouteNeeds {
 // "HARD", "SOFT", "WATER" or "SNOW"; "1" without a surface.
 std::string_view SurfaceText(std::int32_t surface);
 
-// The word of a class code as the log writes it; "Unknown" for a code without a class.
-std::string_view ClassWord(std::int32_t classCode);
-
 // Shuffle.log in the flightplan's folder. docs/shuffle-logs.md tells its lines.
 void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath);
 void LogAircraft(LogFile& log, const FSAircraft& aircraft);
