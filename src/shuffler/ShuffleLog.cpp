@@ -10,7 +10,6 @@
 namespace orlo {
 namespace {
 
-constexpr std::size_t kPieceSize = 64 * 1024;
 constexpr std::string_view kNoAirline = "No Airline";
 constexpr std::string_view kRule =
     ";---------------------------------------------------------------------------------";
@@ -48,41 +47,6 @@ std::string FlightLine(std::string_view aircraftNumber, const WorkingFlight& fli
 }
 
 }  // namespace
-
-void LogFile::Open(FileSystem& files, const std::string& path) {
-    file_ = files.CreateInPlace(path);
-    pending_.clear();
-}
-
-void LogFile::Line(std::string_view text) {
-    if (!IsOpen()) return;
-    pending_.append(text).append("\r\n");
-    if (pending_.size() < kPieceSize) return;
-    file_->Write(pending_);
-    pending_.clear();
-}
-
-void LogFile::Close() {
-    if (!IsOpen()) return;
-    file_->Write(pending_);
-    file_->Commit();
-    file_.reset();
-}
-
-std::string_view SurfaceText(std::int32_t surface) {
-    switch (surface) {
-        case kSurfaceHard:
-            return "HARD";
-        case kSurfaceSoft:
-            return "SOFT";
-        case kSurfaceWater:
-            return "WATER";
-        case kSurfaceSnow:
-            return "SNOW";
-        default:
-            return "1";
-    }
-}
 
 void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath) {
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle.log"));
