@@ -1,6 +1,6 @@
 #include "mainwindow/AircraftTrees.h"
 
-#include <vector>
+#include <optional>
 
 #include "core/AircraftClassNames.h"
 #include "core/Number.h"
@@ -100,6 +100,12 @@ void CheckPlanAircraft(MainForm& form, const Session& session) {
     CheckNodes(form, session, tree, leaves);
 }
 
+// The place in FSAircrafts that a leaf of tvShuffleAircraft bears; nothing for a group.
+std::optional<std::int32_t> PlaceOf(const TreeNode& node, const Session& session) {
+    const auto place = ParseWholeNumber(node.tag);
+    return place && *place >= 0 && *place < session.FSAircraftCount() ? place : std::nullopt;
+}
+
 std::vector<std::string> CheckedKeys(const TreeView& tree, bool blueOnly) {
     std::vector<std::string> keys;
     for (const TreeNode& node : tree.nodes) {
@@ -192,6 +198,18 @@ void ChangeMoveView(MainForm& form, const Session& session) {
     form.cmMoveView.tag = std::to_string(form.cmMoveView.index);
 }
 
+std::vector<CheckedAircraft> CheckedShuffleAircraft(const MainForm& form, const Session& session) {
+    std::vector<CheckedAircraft> checked;
+    for (const TreeNode& node : form.tvShuffleAircraft.nodes) {
+        if (!node.checked || node.colour != Colour::Blue) continue;
+        const auto place = PlaceOf(node, session);
+        if (!place) continue;
+        const std::string_view text = node.text;
+        checked.push_back({*place, std::string(TrimBlanks(text.substr(0, text.rfind('('))))});
+    }
+    return checked;
+}
+
 std::string TreeNodeTip(const MainForm& form, const Session& session, const TreeView& tree,
                         std::int32_t node) {
     if (node < 0 || node >= tree.Count()) return {};
@@ -200,9 +218,8 @@ std::string TreeNodeTip(const MainForm& form, const Session& session, const Tree
         if (!at.tag.empty()) return Concat("Aircraft ", ReplaceAll(at.tag, ",", "/"));
         return at.colour == Colour::Red ? "Aircraft not used" : "";
     }
-    const std::optional<std::int32_t> index = ParseWholeNumber(at.tag);
-    if (!index || *index < 0 || *index >= session.FSAircraftCount()) return {};
-    return session.FSAircrafts[static_cast<std::size_t>(*index)].Problem;
+    const auto place = PlaceOf(at, session);
+    return place ? session.FSAircrafts[static_cast<std::size_t>(*place)].Problem : "";
 }
 
 }  // namespace orlo
