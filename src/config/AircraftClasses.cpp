@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "config/RuleFile.h"
+#include "core/AircraftClassNames.h"
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -16,11 +17,6 @@ namespace {
 constexpr std::string_view kAircraftClassesName = "ORLO_AC.CFG";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kPartCount = 11;
-
-// Section names by class code.
-constexpr std::array<std::string_view, 9> kSectionNames = {"",          "Not Used",   "Micro Prop",
-                                                           "Mid Prop",  "Large Prop", "Micro Jet",
-                                                           "Small Jet", "Large Jet",  "Huge Jet"};
 
 constexpr std::string_view kCommentHeader =
     ";---------------------------------------------------------------------------------\r\n"
@@ -89,8 +85,8 @@ std::string FormatLimits(std::string_view name, const Limits& limits) {
 }
 
 std::size_t ClassOfSection(std::string_view name) {
-    for (std::size_t code = kClassNotUsed; code < kSectionNames.size(); ++code) {
-        if (EqualNoCase(TrimBlanks(name), kSectionNames[code])) return code;
+    for (std::size_t code = kClassNotUsed; code < kAircraftClassNames.size(); ++code) {
+        if (EqualNoCase(TrimBlanks(name), kAircraftClassNames[code])) return code;
     }
     return kClassNone;
 }
@@ -166,14 +162,15 @@ ParsedClasses ParseAircraftClasses(std::string_view text) {
 std::string FormatAircraftClasses(const ClassLists& lists) {
     std::string text(kCommentHeader);
     for (std::size_t code = kClassMicroProp; code <= kClassHugeJet; ++code) {
-        text += Concat(kLineEnd, '[', FormatLimits(kSectionNames[code], lists.Profiles[code]), ']', kLineEnd);
+        text += Concat(kLineEnd, '[', FormatLimits(kAircraftClassNames[code], lists.Profiles[code]), ']',
+                       kLineEnd);
         for (const ClassEntry& entry : lists.Entries[code]) {
             if (entry.ID.empty()) continue;
             text += HasOwnLimits(entry) ? FormatLimits(entry.ID, entry) : entry.ID;
             text += kLineEnd;
         }
     }
-    text += Concat(kLineEnd, '[', kSectionNames[kClassNotUsed], ']', kLineEnd);
+    text += Concat(kLineEnd, '[', kAircraftClassNames[kClassNotUsed], ']', kLineEnd);
     for (const ClassEntry& entry : lists.Entries[kClassNotUsed]) {
         if (!entry.ID.empty()) text += Concat(entry.ID, kLineEnd);
     }

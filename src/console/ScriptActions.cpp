@@ -89,9 +89,8 @@ void ChooseOrType(ComboBox& combo, const std::string& word) {
 }
 
 void ClickRow(ListView& list, std::int32_t place) {
-    list.SelectAll(false);
-    list.Select(place, true);
     list.current = place;
+    list.SelectCurrentOnly();
 }
 
 }  // namespace

@@ -66,6 +66,14 @@ struct FSAircraft {
     std::string Problem;  // faults of the files, joined by " | "
 };
 
+// An installed aircraft that the user checked for the plan.
+struct CheckedAircraft {
+    std::int32_t FSIndex = -1;  // place in FSAircrafts
+    std::string Title;          // as the tree shows it
+
+    bool operator==(const CheckedAircraft&) const = default;
+};
+
 // Defaults of one class.
 struct ClassProfile {
     std::int32_t MaxFL = -1;

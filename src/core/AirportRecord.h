@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orlo {
@@ -14,6 +15,23 @@ enum SurfaceClass : std::int32_t {
     kSurfaceWater = 3,
     kSurfaceSnow = 4
 };
+
+// The word of a surface class as runway types and logs spell it: "HARD", "SOFT", "WATER" or "SNOW"; "1" for
+// any other value.
+constexpr std::string_view SurfaceText(std::int32_t surface) {
+    switch (surface) {
+        case kSurfaceHard:
+            return "HARD";
+        case kSurfaceSoft:
+            return "SOFT";
+        case kSurfaceWater:
+            return "WATER";
+        case kSurfaceSnow:
+            return "SNOW";
+        default:
+            return "1";
+    }
+}
 
 struct ParkingRecord {
     std::int32_t Number = 0;

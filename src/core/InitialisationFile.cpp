@@ -6,13 +6,6 @@
 namespace orlo {
 namespace {
 
-// Names and values of such files are surrounded by blanks and tabs at will.
-std::string_view TrimWhite(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
-    return text;
-}
-
 std::string_view WithoutQuotes(std::string_view text) {
     const bool quoted =
         text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.front() == text.back();

@@ -40,6 +40,10 @@ constexpr std::array<char16_t, 32> kHighCharacters = {
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
+bool IsWhite(char character) {
+    return character == ' ' || character == '\t';
+}
+
 unsigned char Byte(char character) {
     return static_cast<unsigned char>(character);
 }
@@ -154,6 +158,12 @@ std::size_t HashNoCase(std::string_view text) {
 std::string_view TrimBlanks(std::string_view text) {
     while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
     while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
+}
+
+std::string_view TrimWhite(std::string_view text) {
+    while (!text.empty() && IsWhite(text.front())) text.remove_prefix(1);
+    while (!text.empty() && IsWhite(text.back())) text.remove_suffix(1);
     return text;
 }
 

@@ -24,6 +24,8 @@ std::size_t HashNoCase(std::string_view text);
 
 // Takes blanks (0x20) off both ends, and nothing else.
 std::string_view TrimBlanks(std::string_view text);
+// Takes blanks and tabs off both ends.
+std::string_view TrimWhite(std::string_view text);
 
 // All parts between separators, blanks kept; an empty text gives one empty part.
 std::vector<std::string_view> SplitText(std::string_view text, char separator);

@@ -106,9 +106,8 @@ void InsertLeg(Flight& flight, std::int32_t place) {
 }
 
 void MakeCurrent(ListView& list, std::int32_t place) {
-    list.SelectAll(false);
-    list.Select(place, true);
     list.current = place;
+    list.SelectCurrentOnly();
     list.ensureVisibleRequest = true;
 }
 

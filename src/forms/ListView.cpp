@@ -253,6 +253,11 @@ void ListView::SelectOnly(std::span<const PositionRange> ranges) {
     SelectRanges(ranges, true);
 }
 
+void ListView::SelectCurrentOnly() {
+    SelectAll(false);
+    if (current >= 0) Select(current, true);
+}
+
 std::vector<PositionRange> ListView::SelectedRanges() const {
     std::vector<PositionRange> ranges;
     bool open = false;

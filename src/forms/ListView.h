@@ -99,6 +99,7 @@ struct ListView : Control {
     // What ranges name beyond the rows counts for nothing.
     void SelectRanges(std::span<const PositionRange> ranges, bool on);
     void SelectOnly(std::span<const PositionRange> ranges);  // and nothing else
+    void SelectCurrentOnly();                                // the current row, where there is one
     std::vector<std::int32_t> SelectedPlaces() const;        // in displayed order
     std::vector<PositionRange> SelectedRanges() const;       // in displayed order, none next to another
     std::int32_t current = -1;                               // place, -1 for none

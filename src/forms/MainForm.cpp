@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "core/AircraftClassNames.h"
 #include "core/Application.h"
 #include "core/Text.h"
 #include "core/TimeZoneNames.h"
@@ -87,14 +88,10 @@ void SetUpLists(MainForm& form) {
 
     SetEntries(form.cmShufflerView, {{"Aircraft Classes", 0}, {"Airlines", 0}, {"UI Manufacturer", 0}});
     SetEntries(form.cmMoveView, {{"Aircraft Classes", 0}, {"Airlines", 0}});
-    SetEntries(form.cmExClass, {{"#None#", -1},
-                                {"Micro Prop", 2},
-                                {"Mid Prop", 3},
-                                {"Large Prop", 4},
-                                {"Micro Jet", 5},
-                                {"Small Jet", 6},
-                                {"Large Jet", 7},
-                                {"Huge Jet", 8}});
+    form.cmExClass.Add("#None#", -1);
+    for (std::int32_t code = kClassMicroProp; code <= kClassHugeJet; ++code) {
+        form.cmExClass.Add(AircraftClassName(code, ""), code);
+    }
     form.cmExClass.SelectFirst();
     SetEntries(form.cmTTDay, {{"#Week#", -1},
                               {"Sunday", 0},

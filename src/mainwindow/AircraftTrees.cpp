@@ -1,8 +1,8 @@
 #include "mainwindow/AircraftTrees.h"
 
-#include <array>
-#include <vector>
+#include <optional>
 
+#include "core/AircraftClassNames.h"
 #include "core/Number.h"
 #include "core/Text.h"
 
@@ -23,14 +23,6 @@ struct TreeAircraft {
     std::int32_t aircraftClass = kClassNone;
     std::int32_t fsIndex = -1;
 };
-
-std::string_view ClassName(std::int32_t aircraftClass) {
-    static constexpr std::array<std::string_view, 8> kNames = {"Not Used",   "Micro Prop", "Mid Prop",
-                                                               "Large Prop", "Micro Jet",  "Small Jet",
-                                                               "Large Jet",  "Huge Jet"};
-    if (aircraftClass < kClassNotUsed || aircraftClass > kClassHugeJet) return "Unkown";
-    return kNames[static_cast<std::size_t>(aircraftClass - kClassNotUsed)];
-}
 
 // The group of that key, added under `parent` where it doesn't stand yet.
 std::int32_t Group(TreeView& tree, std::int32_t parent, std::string_view key, std::string_view text) {
@@ -55,7 +47,7 @@ std::int32_t GroupOf(TreeView& tree, std::int32_t view, const TreeAircraft& airc
                          aircraft.model);
         }
         default: {
-            const std::string_view name = ClassName(aircraft.aircraftClass);
+            const std::string_view name = AircraftClassName(aircraft.aircraftClass, "Unkown");
             return Group(tree, -1, Concat('#', name), name);
         }
     }
@@ -106,6 +98,12 @@ void CheckPlanAircraft(MainForm& form, const Session& session) {
         if (leaf >= 0) leaves.push_back(leaf);
     }
     CheckNodes(form, session, tree, leaves);
+}
+
+// The place in FSAircrafts that a leaf of tvShuffleAircraft bears; nothing for a group.
+std::optional<std::int32_t> PlaceOf(const TreeNode& node, const Session& session) {
+    const auto place = ParseWholeNumber(node.tag);
+    return place && *place >= 0 && *place < session.FSAircraftCount() ? place : std::nullopt;
 }
 
 std::vector<std::string> CheckedKeys(const TreeView& tree, bool blueOnly) {
@@ -200,6 +198,18 @@ void ChangeMoveView(MainForm& form, const Session& session) {
     form.cmMoveView.tag = std::to_string(form.cmMoveView.index);
 }
 
+std::vector<CheckedAircraft> CheckedShuffleAircraft(const MainForm& form, const Session& session) {
+    std::vector<CheckedAircraft> checked;
+    for (const TreeNode& node : form.tvShuffleAircraft.nodes) {
+        if (!node.checked || node.colour != Colour::Blue) continue;
+        const auto place = PlaceOf(node, session);
+        if (!place) continue;
+        const std::string_view text = node.text;
+        checked.push_back({*place, std::string(TrimBlanks(text.substr(0, text.rfind('('))))});
+    }
+    return checked;
+}
+
 std::string TreeNodeTip(const MainForm& form, const Session& session, const TreeView& tree,
                         std::int32_t node) {
     if (node < 0 || node >= tree.Count()) return {};
@@ -208,9 +218,8 @@ std::string TreeNodeTip(const MainForm& form, const Session& session, const Tree
         if (!at.tag.empty()) return Concat("Aircraft ", ReplaceAll(at.tag, ",", "/"));
         return at.colour == Colour::Red ? "Aircraft not used" : "";
     }
-    const std::optional<std::int32_t> index = ParseWholeNumber(at.tag);
-    if (!index || *index < 0 || *index >= session.FSAircraftCount()) return {};
-    return session.FSAircrafts[static_cast<std::size_t>(*index)].Problem;
+    const auto place = PlaceOf(at, session);
+    return place ? session.FSAircrafts[static_cast<std::size_t>(*place)].Problem : "";
 }
 
 }  // namespace orlo

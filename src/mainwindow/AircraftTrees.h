@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Session.h"
 #include "forms/MainForm.h"
@@ -42,6 +43,10 @@ bool ViewChanges(const ComboBox& view, const Session& session);
 // choice counts as shown then.
 void ChangeShufflerView(MainForm& form, const Session& session);
 void ChangeMoveView(MainForm& form, const Session& session);
+
+// The aircraft whose leaves are checked in tvShuffleAircraft, in the order of its nodes. The title is the
+// leaf's text in front of its last "(".
+std::vector<CheckedAircraft> CheckedShuffleAircraft(const MainForm& form, const Session& session);
 
 // The tool tip of a node of either tree, -1 for none; empty for no tip.
 std::string TreeNodeTip(const MainForm& form, const Session& session, const TreeView& tree,

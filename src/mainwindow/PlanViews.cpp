@@ -33,11 +33,9 @@ void Enable(std::initializer_list<Control*> controls, bool enabled) {
 void ResetExportView(Context& context) {
     MainForm& form = context.forms.frmMain;
     Session& session = context.session;
-    Enable({&form.cmdExport, &form.cmdExportRemainder, &form.cmdExportPrint, &form.cmdEditFlight,
-            &form.cmdDeleteFlight},
-           false);
-    Enable({&form.cmdAddFlight, &form.cmdPreview}, true);
     form.lvExPreview.Clear();
+    EnableResultCommands(form);
+    Enable({&form.cmdAddFlight, &form.cmdPreview}, true);
     form.lblExPreview.caption = "Previe&w";
     // No button reaches the results of a list that is empty, and they would keep the rows of the old plan
     // alive.
@@ -51,6 +49,16 @@ void ResetExportView(Context& context) {
     }
     form.cmExportAircraft.SelectFirst();
     form.cmExClass.SelectFirst();
+}
+
+void EnableResultCommands(MainForm& form) {
+    Enable({&form.cmdExport, &form.cmdExportRemainder, &form.cmdExportPrint, &form.cmdEditFlight,
+            &form.cmdDeleteFlight},
+           form.lvExPreview.Count() > 0);
+}
+
+void ShowResultCount(MainForm& form) {
+    form.lblExPreview.caption = Concat("Previe&w (", form.lvExPreview.Count(), " flights found)");
 }
 
 void ResetTimetableView(Context& context) {

@@ -9,6 +9,12 @@ namespace orlo {
 // The tab Export/Search: empties list and search state, fills cmExportAircraft anew, sets the buttons.
 void ResetExportView(Context& context);
 
+// Enables export, print, edit and delete exactly while lvExPreview holds a result.
+void EnableResultCommands(MainForm& form);
+
+// Writes the number of results into lblExPreview.
+void ShowResultCount(MainForm& form);
+
 // The tab Timetable: empties the list and sets the buttons.
 void ResetTimetableView(Context& context);
 

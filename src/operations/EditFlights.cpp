@@ -5,8 +5,8 @@
 #include "core/Application.h"
 #include "editors/FlightEditor.h"
 #include "mainwindow/BulkOperation.h"
+#include "mainwindow/PlanViews.h"
 #include "operations/MatchedAircraft.h"
-#include "operations/SearchFlights.h"
 #include "operations/SearchRows.h"
 
 namespace orlo {

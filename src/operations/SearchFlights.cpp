@@ -7,6 +7,7 @@
 #include "core/Number.h"
 #include "core/Text.h"
 #include "mainwindow/BulkOperation.h"
+#include "mainwindow/PlanViews.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
 #include "operations/MatchedAircraft.h"
@@ -239,26 +240,9 @@ void SearchFlights(Context& context, std::string_view departure, std::string_vie
     MainForm& form = context.forms.frmMain;
     FillList(context, matched, mode == SearchMode::WrongTime || mode == SearchMode::UnknownAirports);
     ShowResultCount(form);
-    SelectCurrentOnly(form.lvExPreview);
+    form.lvExPreview.SelectCurrentOnly();
     form.lvExPreview.ensureVisibleRequest = true;
     context.services.progress.Close();
-}
-
-void EnableResultCommands(MainForm& form) {
-    const bool hasResults = form.lvExPreview.Count() > 0;
-    for (Button* button : {&form.cmdExport, &form.cmdExportRemainder, &form.cmdExportPrint,
-                           &form.cmdEditFlight, &form.cmdDeleteFlight}) {
-        button->enabled = hasResults;
-    }
-}
-
-void ShowResultCount(MainForm& form) {
-    form.lblExPreview.caption = Concat("Previe&w (", form.lvExPreview.Count(), " flights found)");
-}
-
-void SelectCurrentOnly(ListView& list) {
-    list.SelectAll(false);
-    if (list.current >= 0) list.Select(list.current, true);
 }
 
 }  // namespace orlo

@@ -23,13 +23,4 @@ enum class SearchMode {
 // progress window up.
 void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode);
 
-// Enables export, print, edit and delete exactly while the list holds a result.
-void EnableResultCommands(MainForm& form);
-
-// Writes the number of items into lblExPreview.
-void ShowResultCount(MainForm& form);
-
-// Selects the current item, where there is one, and nothing else.
-void SelectCurrentOnly(ListView& list);
-
 }  // namespace orlo

@@ -1,5 +1,6 @@
 #include "shell/ExportTab.h"
 
+#include "mainwindow/PlanViews.h"
 #include "operations/SearchRows.h"
 #include "shell/EventTables.h"
 #include "shell/Tabs.h"

@@ -32,7 +32,7 @@ ShuffleResult Shuffle(Context& context) {
     ReadOptions(context);
     OpenProgress(context, "Creating Aircraft list...", kShuffleStages, 1);
     TakeUndoSnapshot(context);
-    BuildAircraftList(form, session);
+    BuildAircraftList(CheckedShuffleAircraft(form, session), session);
     NextProgress(context, "Rearranging AI Traffic...", 2);
     const ShuffleResult result = ShuffleFlightplan(session, context.services, session.FlightplanPath);
 

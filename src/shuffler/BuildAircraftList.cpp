@@ -3,24 +3,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "core/Number.h"
 #include "core/PlanSideFiles.h"
 #include "core/Text.h"
 
 namespace orlo {
 namespace {
-
-std::string TitleOf(std::string_view nodeText) {
-    return std::string(TrimBlanks(nodeText.substr(0, nodeText.rfind('('))));
-}
-
-// The installed aircraft that a node stands for; null for a group.
-const FSAircraft* AircraftOf(const TreeNode& node, const Session& session) {
-    if (node.colour != Colour::Blue) return nullptr;
-    const auto index = ParseWholeNumber(node.tag);
-    if (!index || *index < 0 || *index >= session.FSAircraftCount()) return nullptr;
-    return &session.FSAircrafts[static_cast<std::size_t>(*index)];
-}
 
 std::int32_t HighestNumber(const Session& session) {
     std::int32_t highest = 0;
@@ -32,14 +19,13 @@ std::int32_t HighestNumber(const Session& session) {
 
 }  // namespace
 
-void BuildAircraftList(const MainForm& form, Session& session) {
+void BuildAircraftList(std::span<const CheckedAircraft> checked, Session& session) {
     session.PlanAircrafts.clear();
     std::int64_t number = session.StartNumber;
-    for (const TreeNode& node : form.tvShuffleAircraft.nodes) {
-        const FSAircraft* aircraft = node.checked ? AircraftOf(node, session) : nullptr;
-        if (aircraft == nullptr) continue;
+    for (const CheckedAircraft& aircraft : checked) {
+        const FSAircraft& installed = session.FSAircrafts[static_cast<std::size_t>(aircraft.FSIndex)];
         session.PlanAircrafts.push_back(
-            {Concat("AC#", number++), TitleOf(node.text), std::to_string(aircraft->CruiseSpeed), 0});
+            {Concat("AC#", number++), aircraft.Title, std::to_string(installed.CruiseSpeed), 0});
     }
     session.MaxACNumber = HighestNumber(session);
 }

@@ -7,7 +7,7 @@
 
 #include "core/AircraftRecords.h"
 #include "core/AirlineRecords.h"
-#include "shuffler/ShuffleLog.h"
+#include "shuffler/RouteNeeds.h"
 
 namespace orlo {
 

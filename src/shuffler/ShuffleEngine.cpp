@@ -5,6 +5,7 @@
 #include "core/Application.h"
 #include "core/Text.h"
 #include "shuffler/AircraftMatch.h"
+#include "shuffler/ShuffleLog.h"
 #include "shuffler/ShuffleResultLog.h"
 #include "shuffler/ShuffleRun.h"
 #include "simulator/Scenery.h"

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/AircraftClassNames.h"
 #include "core/AirportRecord.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -9,7 +10,6 @@
 namespace orlo {
 namespace {
 
-constexpr std::size_t kPieceSize = 64 * 1024;
 constexpr std::string_view kNoAirline = "No Airline";
 constexpr std::string_view kRule =
     ";---------------------------------------------------------------------------------";
@@ -48,64 +48,6 @@ std::string FlightLine(std::string_view aircraftNumber, const WorkingFlight& fli
 
 }  // namespace
 
-void LogFile::Open(FileSystem& files, const std::string& path) {
-    file_ = files.CreateInPlace(path);
-    pending_.clear();
-}
-
-void LogFile::Line(std::string_view text) {
-    if (!IsOpen()) return;
-    pending_.append(text).append("\r\n");
-    if (pending_.size() < kPieceSize) return;
-    file_->Write(pending_);
-    pending_.clear();
-}
-
-void LogFile::Close() {
-    if (!IsOpen()) return;
-    file_->Write(pending_);
-    file_->Commit();
-    file_.reset();
-}
-
-std::string_view SurfaceText(std::int32_t surface) {
-    switch (surface) {
-        case kSurfaceHard:
-            return "HARD";
-        case kSurfaceSoft:
-            return "SOFT";
-        case kSurfaceWater:
-            return "WATER";
-        case kSurfaceSnow:
-            return "SNOW";
-        default:
-            return "1";
-    }
-}
-
-std::string_view ClassWord(std::int32_t classCode) {
-    switch (classCode) {
-        case kClassNotUsed:
-            return "Not Used";
-        case kClassMicroProp:
-            return "Micro Prop";
-        case kClassMidProp:
-            return "Mid Prop";
-        case kClassLargeProp:
-            return "Large Prop";
-        case kClassMicroJet:
-            return "Micro Jet";
-        case kClassSmallJet:
-            return "Small Jet";
-        case kClassLargeJet:
-            return "Large Jet";
-        case kClassHugeJet:
-            return "Huge Jet";
-        default:
-            return "Unknown";
-    }
-}
-
 void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath) {
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle.log"));
     for (std::string_view line : kHead) log.Line(line);
@@ -115,7 +57,7 @@ void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
     if (!log.IsOpen()) return;
     const std::string_view airline =
         aircraft.Airline.empty() ? kNoAirline : std::string_view(aircraft.Airline);
-    log.Line(Concat(airline, "/", aircraft.Title, "/", ClassWord(aircraft.Class), "/",
+    log.Line(Concat(airline, "/", aircraft.Title, "/", AircraftClassName(aircraft.Class, "Unknown"), "/",
                     aircraft.UIManufacturer, "/", aircraft.UIType));
 }
 

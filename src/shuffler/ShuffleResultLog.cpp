@@ -3,7 +3,7 @@
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
-#include "shuffler/ShuffleLog.h"
+#include "shuffler/LogFile.h"
 
 namespace orlo {
 namespace {

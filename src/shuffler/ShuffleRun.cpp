@@ -6,6 +6,7 @@
 #include "core/Number.h"
 #include "shuffler/AircraftMatch.h"
 #include "shuffler/FlightAttributes.h"
+#include "shuffler/ShuffleLog.h"
 
 namespace orlo {
 namespace {

@@ -7,8 +7,9 @@
 #include "core/Session.h"
 #include "services/RandomSource.h"
 #include "shuffler/CandidateTable.h"
+#include "shuffler/LogFile.h"
 #include "shuffler/RouteAirports.h"
-#include "shuffler/ShuffleLog.h"
+#include "shuffler/RouteNeeds.h"
 #include "shuffler/WorkingFlight.h"
 
 namespace orlo {

@@ -64,10 +64,7 @@ std::string FindProblem(const FSAircraft& aircraft, const AircraftFolder& folder
 }  // namespace
 
 std::string ConfigText(std::string_view value) {
-    value = BeforeFirst(value, ";");
-    const std::size_t first = value.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return std::string(value.substr(first, value.find_last_not_of(" \t") - first + 1));
+    return std::string(TrimWhite(BeforeFirst(value, ";")));
 }
 
 std::string PartName(std::string_view part, std::string_view name) {

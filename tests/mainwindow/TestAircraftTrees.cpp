@@ -104,6 +104,23 @@ TEST_F(Trees, AreFilledByManufacturerAndByAirlineWithThePlanMarked) {
               "[ ] Other\n");
 }
 
+TEST_F(Trees, TheCheckedAircraftAreTheCheckedLeavesWithoutTheirAirlines) {
+    const auto add = [&](std::int32_t parent, std::string_view text, Colour colour, std::string_view tag,
+                         bool checked) {
+        const std::int32_t place = shuffle.Add(parent, text, text, colour);
+        shuffle.At(place).tag = tag;
+        shuffle.At(place).checked = checked;
+        return place;
+    };
+    const std::int32_t group = add(-1, "Maker (all)", Colour::WindowText, "", true);
+    add(group, "Jet (large) (Alpha)", Colour::Blue, "2", true);
+    add(group, "Unchecked (Alpha)", Colour::Blue, "1", false);
+    add(group, "Prop", Colour::Blue, "0", true);
+    add(group, "Points nowhere", Colour::Blue, Concat(session.FSAircrafts.size()), true);
+    EXPECT_EQ(CheckedShuffleAircraft(form, session),
+              (std::vector<CheckedAircraft>{{2, "Jet (large)"}, {0, "Prop"}}));
+}
+
 TEST_F(Trees, GroupByClassInEachOfItsNames) {
     session.FSAircrafts.clear();
     for (std::int32_t code = -1; code <= 9; ++code) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Text.h"
-
 namespace orlo {
 namespace {
 
@@ -15,22 +13,7 @@ TEST(BuildAircraftList, CheckedAircraftAreNumberedFromTheStartNumber) {
     session.FSAircrafts[2].CruiseSpeed = 102;
     session.StartNumber = 41;
 
-    MainForm form;
-    TreeView& tree = form.tvShuffleAircraft;
-    const auto add = [&](std::int32_t parent, std::string_view text, Colour colour, std::string_view tag,
-                         bool checked) {
-        const std::int32_t place = tree.Add(parent, text, text, colour);
-        tree.At(place).tag = tag;
-        tree.At(place).checked = checked;
-        return place;
-    };
-    const std::int32_t group = add(-1, "Maker (all)", Colour::WindowText, "", true);
-    add(group, "Jet (large) (Alpha)", Colour::Blue, "2", true);
-    add(group, "Unchecked (Alpha)", Colour::Blue, "1", false);
-    add(group, "Prop", Colour::Blue, "0", true);
-    add(group, "Points nowhere", Colour::Blue, "4", true);
-
-    BuildAircraftList(form, session);
+    BuildAircraftList(std::vector<CheckedAircraft>{{2, "Jet (large)"}, {0, "Prop"}}, session);
     EXPECT_EQ(session.PlanAircrafts,
               (std::vector<PlanAircraft>{{"AC#41", "Jet (large)", "102", 0}, {"AC#42", "Prop", "100", 0}}));
     EXPECT_EQ(session.MaxACNumber, 42);

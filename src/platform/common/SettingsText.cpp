@@ -12,16 +12,6 @@ constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kCommentMarks = ";#";
 
-bool IsWhite(char character) {
-    return character == ' ' || character == '\t';
-}
-
-std::string_view TrimWhite(std::string_view text) {
-    while (!text.empty() && IsWhite(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsWhite(text.back())) text.remove_suffix(1);
-    return text;
-}
-
 // Bytes that would end the line or the text.
 bool HasLineBreaker(std::string_view text) {
     return text.find_first_of(std::string_view("\r\n\0", 3)) != std::string_view::npos;
