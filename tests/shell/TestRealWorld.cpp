@@ -10,6 +10,7 @@
 #include "core/FlightplanFile.h"
 #include "core/Number.h"
 #include "core/Settings.h"
+#include "core/TextLines.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
@@ -92,7 +93,8 @@ void ShuffleAndCheck(bool checkFL) {
     world.program.pump.Windows().Show(form);
     world.fakes.windows.paths.push_back((world.folder / "Plan" / "FlightPlans.txt").string());
     world.Press(form.mnuFileLoad);
-    ASSERT_EQ(session.FlightCount(), 37444);
+    const std::string lines = ReadWholeFile(world.files, session.FlightplanPath).value_or("");
+    ASSERT_EQ(session.FlightCount(), std::count(lines.begin(), lines.end(), '\n'));
     form.ckCheckFL.checked = checkFL;
     world.Press(form.cmdShuffle);
     ASSERT_TRUE(world.fakes.messages.shown.back().second.ends_with(" flights remaining."));
@@ -113,7 +115,6 @@ void ShuffleAndCheck(bool checkFL) {
         if (flight.Removed) {
             // Nothing in the fleet can fly it. With levels recomputed, so can nothing at any level.
             ++removed;
-            if (removed % 50 != 0) continue;  // the whole product would take minutes under the sanitizers
             for (const auto& [number, candidate] : aircraft) {
                 ASSERT_NE(Misfit(session, airports, positions, *candidate, flight), "")
                     << session.Flights.Line(i);
