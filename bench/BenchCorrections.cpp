@@ -22,7 +22,7 @@ struct World {
 
 World& WorldOf(std::int64_t flights) {
     static std::unique_ptr<World> world;
-    if (!world || world->session.FlightCount() != flights) {
+    if (!world || world->session.plan.FlightCount() != flights) {
         world.reset();
         world = std::make_unique<World>(flights);
     }
@@ -32,17 +32,17 @@ World& WorldOf(std::int64_t flights) {
 template <typename Correct>
 void Measure(benchmark::State& state, Correct correct) {
     Session& session = WorldOf(state.range(0)).session;
-    const FlightList plan = session.Flights;
+    const FlightList plan = session.plan.Flights;
     for (auto _ : state) {
-        session.Flights = plan;
+        session.plan.Flights = plan;
         correct(session);
     }
-    session.Flights = plan;
+    session.plan.Flights = plan;
 }
 
 void BM_CopyRows(benchmark::State& state) {
     Measure(state, [](Session& session) {
-        session.Flights.Rewrite([](std::int32_t, const FlightView& flight, LentFlight& changed) {
+        session.plan.Flights.Rewrite([](std::int32_t, const FlightView& flight, LentFlight& changed) {
             changed = flight;
             return true;
         });
@@ -52,8 +52,10 @@ void BM_CopyRows(benchmark::State& state) {
 void BM_CheckFlightTimes(benchmark::State& state) {
     Measure(state, [](Session& session) {
         std::int32_t wrong = 0;
-        for (std::int32_t i = 0; i < session.FlightCount(); ++i) {
-            wrong += !CheckFlightTimes(session.Flights.At(i), session.TATime, session.MaxTATime).Right;
+        for (std::int32_t i = 0; i < session.plan.FlightCount(); ++i) {
+            wrong += !CheckFlightTimes(session.plan.Flights.At(i), session.switches.TATime,
+                                       session.switches.MaxTATime)
+                          .Right;
         }
         benchmark::DoNotOptimize(wrong);
     });
@@ -65,7 +67,9 @@ void BM_CorrectFlightTimes(benchmark::State& state) {
 
 void BM_CorrectFlightLevels(benchmark::State& state) {
     test::SeededRandom random;
-    Measure(state, [&random](Session& session) { CorrectFlightLevels(session, random); });
+    Measure(state, [&random](Session& session) {
+        CorrectFlightLevels(session.plan, session.fleet, session.rules.FlightLevelRules, random);
+    });
 }
 
 void BM_RemoveMinus(benchmark::State& state) {

@@ -52,29 +52,28 @@ const fs::path& FolderOf(std::int64_t flights) {
 
 // The program on a real disk, its front end a fake.
 struct OpenWorld {
-    test::FakeWorld fakes;
     PosixFileSystem files;
-    Services services{files,          fakes.userSettings, fakes.machineSettings, fakes.progress,
-                      fakes.messages, fakes.windows,      fakes.random,          fakes.clock};
+    test::FakeWorld fakes{{.files = &files}};
+    Services& services = fakes.services;
     Program program{services, "."};
     std::string plan;
 
     explicit OpenWorld(std::int64_t flights) : plan((FolderOf(flights) / "FlightPlans.txt").string()) {
         fakes.machineSettings.Set(kSimulatorKeyPath, kSimulatorValue, FolderOf(flights).string());
-        program.session.FlightplanPath = plan;
+        program.session.plan.FlightplanPath = plan;
     }
 };
 
 void BM_ReadPlanAircraft(benchmark::State& state) {
     OpenWorld world(10'000);
-    for (auto _ : state) ReadPlanAircraft(world.program.session, world.services);
-    state.counters["records"] = world.program.session.PlanAircraftCount();
+    for (auto _ : state) ReadPlanAircraft(world.program.session.plan, world.services);
+    state.counters["records"] = world.program.session.plan.PlanAircraftCount();
 }
 
 void BM_ReadPlanAirports(benchmark::State& state) {
     OpenWorld world(10'000);
-    for (auto _ : state) ReadPlanAirports(world.program.session, world.services);
-    state.counters["records"] = world.program.session.PlanAirportCount();
+    for (auto _ : state) ReadPlanAirports(world.program.session.plan, world.services);
+    state.counters["records"] = world.program.session.plan.PlanAirportCount();
 }
 
 void BM_OpenFlightplan(benchmark::State& state) {
@@ -83,7 +82,7 @@ void BM_OpenFlightplan(benchmark::State& state) {
         OpenFlightplan(world.program.context, world.plan);
         world.fakes.progress.lines.clear();
     }
-    state.counters["flights"] = world.program.session.FlightCount();
+    state.counters["flights"] = world.program.session.plan.FlightCount();
 }
 
 void BM_UndoSnapshotAndRestore(benchmark::State& state) {

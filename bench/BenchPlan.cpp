@@ -45,30 +45,26 @@ void BM_PlainRead(benchmark::State& state) {
 }
 
 void BM_ReadFlightplan(benchmark::State& state) {
-    test::FakeWorld world;
     PosixFileSystem files;
-    Services services{files,          world.userSettings, world.machineSettings, world.progress,
-                      world.messages, world.windows,      world.random,          world.clock};
+    test::FakeWorld world{{.files = &files}};
     Session session;
-    session.FlightplanPath = PlanOf(state.range(0));
+    session.plan.FlightplanPath = PlanOf(state.range(0));
     for (auto _ : state) {
-        ReadFlightplan(session, services);
+        ReadFlightplan(session.plan, world.services);
         world.progress.lines.clear();
     }
     state.SetBytesProcessed(state.iterations() *
-                            static_cast<std::int64_t>(*files.FileSize(session.FlightplanPath)));
-    state.counters["MB"] = static_cast<double>(session.Flights.MemoryBytes()) / 1e6;
+                            static_cast<std::int64_t>(*files.FileSize(session.plan.FlightplanPath)));
+    state.counters["MB"] = static_cast<double>(session.plan.Flights.MemoryBytes()) / 1e6;
 }
 
 FlightList ListOf(std::int64_t flights) {
-    test::FakeWorld world;
     PosixFileSystem files;
-    Services services{files,          world.userSettings, world.machineSettings, world.progress,
-                      world.messages, world.windows,      world.random,          world.clock};
+    test::FakeWorld world{{.files = &files}};
     Session session;
-    session.FlightplanPath = PlanOf(flights);
-    ReadFlightplan(session, services);
-    return session.Flights;
+    session.plan.FlightplanPath = PlanOf(flights);
+    ReadFlightplan(session.plan, world.services);
+    return session.plan.Flights;
 }
 
 void BM_CopyFlights(benchmark::State& state) {

@@ -64,9 +64,9 @@ void BM_ScanScenery(benchmark::State& state) {
 void BM_ScanRealAircraft(benchmark::State& state) {
     PosixFileSystem files;
     Session session;
-    for (auto _ : state) ScanAircraft(session, files, SimulatorFolder(), true);
-    if (session.FSAircrafts.empty()) return state.SkipWithError("no aircraft lie beside the checkout");
-    state.counters["variants"] = session.FSAircraftCount();
+    for (auto _ : state) ScanAircraft(session.fleet, session.rules.Classes, files, SimulatorFolder(), true);
+    if (session.fleet.FSAircrafts.empty()) return state.SkipWithError("no aircraft lie beside the checkout");
+    state.counters["variants"] = session.fleet.FSAircraftCount();
 }
 
 // 150 folders of 20 variants, each with its own texture folder.
@@ -93,11 +93,11 @@ void BM_ScanAircraft(benchmark::State& state) {
     for (int i = 0; i < 300; ++i) {
         ClassEntry entry;
         entry.ID = "Q" + std::to_string(i);
-        session.Classes.Entries[kClassMicroProp].push_back(entry);
+        session.rules.Classes.Entries[kClassMicroProp].push_back(entry);
     }
-    for (auto _ : state) ScanAircraft(session, files, root.string(), true);
-    state.counters["variants"] = session.FSAircraftCount();
-    state.counters["problems"] = session.FSAircraftProblems;
+    for (auto _ : state) ScanAircraft(session.fleet, session.rules.Classes, files, root.string(), true);
+    state.counters["variants"] = session.fleet.FSAircraftCount();
+    state.counters["problems"] = session.fleet.FSAircraftProblems;
     std::filesystem::remove_all(root);
 }
 

@@ -31,7 +31,7 @@ struct World : test::FakeProgram {
 
 World& WorldOf(std::int64_t flights) {
     static std::unique_ptr<World> world;
-    if (!world || world->session.FlightCount() != flights) {
+    if (!world || world->session.plan.FlightCount() != flights) {
         world.reset();
         world = std::make_unique<World>(flights);
     }
@@ -47,8 +47,8 @@ void BM_WalkFields(benchmark::State& state) {
     World& world = WorldOf(state.range(0));
     for (auto _ : state) {
         std::size_t bytes = 0;
-        for (std::int32_t i = 0; i < world.session.FlightCount(); ++i) {
-            for (const LegView& leg : world.session.Flights.At(i)) bytes += leg.Destination.size();
+        for (std::int32_t i = 0; i < world.session.plan.FlightCount(); ++i) {
+            for (const LegView& leg : world.session.plan.Flights.At(i)) bytes += leg.Destination.size();
         }
         benchmark::DoNotOptimize(bytes);
     }

@@ -27,23 +27,22 @@ constexpr int kRegions = 10;
 class World {
   public:
     explicit World(int flights) {
-        session.PlanLoaded = true;
-        session.FlightLevelRules = {{-1, -1, 0, 179, 35, 175, 20},     {-1, -1, 180, 359, 45, 165, 20},
-                                    {0, 250, 0, 179, 70, 230, 20},     {0, 250, 180, 359, 80, 220, 20},
-                                    {251, 9999, 0, 179, 250, 410, 20}, {251, 9999, 180, 359, 260, 400, 20}};
+        session.plan.PlanLoaded = true;
+        session.rules.FlightLevelRules = {
+            {-1, -1, 0, 179, 35, 175, 20},     {-1, -1, 180, 359, 45, 165, 20},
+            {0, 250, 0, 179, 70, 230, 20},     {0, 250, 180, 359, 80, 220, 20},
+            {251, 9999, 0, 179, 250, 410, 20}, {251, 9999, 180, 359, 260, 400, 20}};
         for (int i = 0; i < kAirports; ++i) AddAirport(i);
         for (int i = 0; i < kAircraft; ++i) AddAircraft(i);
         AddSets();
-        session.Flights.Reserve(flights);
+        session.plan.Flights.Reserve(flights);
         for (int i = 0; i < flights; ++i) AddFlight();
     }
 
     Session session;
-    test::FakeWorld fakes;
     test::SeededRandom random;
-    Services services{fakes.files,    fakes.userSettings, fakes.machineSettings,
-                      fakes.progress, fakes.messages,     fakes.windows,
-                      random,         fakes.clock};
+    test::FakeWorld fakes{{.random = &random}};
+    Services& services = fakes.services;
 
   private:
     int Below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(engine_); }
@@ -69,11 +68,11 @@ class World {
         record.TakeoffLength = record.LandingLength = 1500 + Below(10000);
         record.TakeoffSurface = record.LandingSurface = Below(10) == 0 ? kSurfaceSoft : kSurfaceHard;
         record.MinParkingRadius = Below(3) == 0 ? 9999 : 8 + Below(30);
-        session.Airports.push_back(std::move(record));
+        session.scenery.Airports.push_back(std::move(record));
 
         const auto minutes = [&] { return Concat(10 + Below(50), ".", 10 + Below(90), "'"); };
-        session.PlanAirportIndex.Add(Code(number), session.PlanAirportCount());
-        session.PlanAirports.push_back(
+        session.plan.PlanAirportIndex.Add(Code(number), session.plan.PlanAirportCount());
+        session.plan.PlanAirports.push_back(
             {Code(number), Concat(country % 2 == 0 ? "N" : "S", country % 12 * 5 + Below(5), "* ", minutes()),
              Concat(country % 3 == 0 ? "W" : "E", country % 17 * 10 + Below(9), "* ", minutes()), "0"});
     }
@@ -91,8 +90,8 @@ class World {
         aircraft.RunwayLength = 300 * aircraft.Class;
         aircraft.RunwayTypes = aircraft.Class < 5 ? "Hard,Soft" : "Hard";
         aircraft.MinParkingRadius = 2 * aircraft.Class;
-        session.FSAircrafts.push_back(aircraft);
-        session.PlanAircrafts.push_back({Concat("AC#", number + 1), aircraft.Title, "300", 0});
+        session.fleet.FSAircrafts.push_back(aircraft);
+        session.plan.PlanAircrafts.push_back({Concat("AC#", number + 1), aircraft.Title, "300", 0});
     }
 
     AirlineSet MakeSet(std::string name, int airlines) {
@@ -110,7 +109,7 @@ class World {
     }
 
     void AddSets() {
-        AirlineSets& sets = session.Airlines;
+        AirlineSets& sets = session.rules.Airlines;
         sets.Global = MakeSet("", kAirlines);
         for (int i = 0; i < kRegions; ++i) sets.Regions.push_back(MakeSet(Concat("Region ", i), 60));
         for (int i = 0; i < kCountries; i += 2)
@@ -138,7 +137,7 @@ class World {
             flight.Legs.push_back({time, time, false, Concat(100 + 10 * Below(20)), "F",
                                    Concat(1000 + Below(9000)), Code(airport)});
         }
-        session.Flights.Append(flight);
+        session.plan.Flights.Append(flight);
     }
 
     std::mt19937 engine_{1};
@@ -147,7 +146,7 @@ class World {
 // One world for the sizes that follow each other.
 World& WorldOf(int flights) {
     static std::unique_ptr<World> world;
-    if (!world || world->session.FlightCount() != flights) {
+    if (!world || world->session.plan.FlightCount() != flights) {
         world.reset();
         world = std::make_unique<World>(flights);
     }
@@ -157,13 +156,13 @@ World& WorldOf(int flights) {
 void BM_Shuffle(benchmark::State& state) {
     const auto flights = static_cast<int>(state.range(0));
     World& world = WorldOf(flights);
-    const FlightList plan = world.session.Flights;
+    const FlightList plan = world.session.plan.Flights;
     ShuffleResult result;
     for (auto _ : state) {
-        world.session.Flights = plan;
+        world.session.plan.Flights = plan;
         result = ShuffleFlightplan(world.session, world.services, "FlightPlans.txt");
     }
-    world.session.Flights = plan;
+    world.session.plan.Flights = plan;
     state.counters["removed"] = result.removed;
     state.counters["per flight"] = benchmark::Counter(
         flights, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
@@ -173,8 +172,9 @@ BENCHMARK(BM_Shuffle)->Arg(10000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kM
 void BM_MatchAircraft(benchmark::State& state) {
     World& world = WorldOf(10);
     for (auto _ : state) {
-        AirlineSets sets = world.session.Airlines;
-        benchmark::DoNotOptimize(MatchAircraft(world.session.PlanAircrafts, world.session.FSAircrafts, sets));
+        AirlineSets sets = world.session.rules.Airlines;
+        benchmark::DoNotOptimize(
+            MatchAircraft(world.session.plan.PlanAircrafts, world.session.fleet.FSAircrafts, sets));
     }
 }
 BENCHMARK(BM_MatchAircraft)->Unit(benchmark::kMillisecond);

@@ -17,13 +17,13 @@ void MakeWorld(Session& session, std::int32_t count, std::int32_t airlines) {
         aircraft.UIManufacturer = Concat("Maker ", i % 20);
         aircraft.UIType = Concat("Type ", i % 100);
         aircraft.Class = i % 9;
-        if (i % 2 == 0) session.PlanAircrafts.push_back({Concat("AC#", i + 1), aircraft.Title, "450"});
-        session.FSAircrafts.push_back(std::move(aircraft));
+        if (i % 2 == 0) session.plan.PlanAircrafts.push_back({Concat("AC#", i + 1), aircraft.Title, "450"});
+        session.fleet.FSAircrafts.push_back(std::move(aircraft));
     }
     Flight flight;
     flight.Legs.resize(2);
-    session.Flights.Append(flight);
-    session.PlanLoaded = true;
+    session.plan.Flights.Append(flight);
+    session.plan.PlanLoaded = true;
 }
 
 void SetViews(MainForm& form, std::int32_t shufflerView, std::int32_t moveView) {

@@ -16,12 +16,13 @@ inline constexpr int kAirports = 22000;
 class PlanWorld {
   public:
     PlanWorld(Session& into, std::int64_t flights) : session(into) {
-        session.FlightLevelRules = {{-1, -1, 0, 179, 35, 175, 20},     {-1, -1, 180, 359, 45, 165, 20},
-                                    {0, 250, 0, 179, 70, 230, 20},     {0, 250, 180, 359, 80, 220, 20},
-                                    {251, 9999, 0, 179, 250, 410, 20}, {251, 9999, 180, 359, 260, 400, 20}};
+        session.rules.FlightLevelRules = {
+            {-1, -1, 0, 179, 35, 175, 20},     {-1, -1, 180, 359, 45, 165, 20},
+            {0, 250, 0, 179, 70, 230, 20},     {0, 250, 180, 359, 80, 220, 20},
+            {251, 9999, 0, 179, 250, 410, 20}, {251, 9999, 180, 359, 260, 400, 20}};
         for (int i = 0; i < kAirports; ++i) AddAirport(i);
         for (int i = 0; i < kAircraft; ++i) AddAircraft(i);
-        session.Flights.Reserve(static_cast<std::int32_t>(flights));
+        session.plan.Flights.Reserve(static_cast<std::int32_t>(flights));
         for (std::int64_t i = 0; i < flights; ++i) AddFlight();
     }
 
@@ -33,14 +34,14 @@ class PlanWorld {
     static std::string Code(int airport) { return Concat("A", airport); }
 
     void AddAirport(int number) {
-        session.PlanAirportIndex.Add(Code(number), number);
-        session.PlanAirports.push_back({Code(number), Concat("N", Below(80), "* ", Below(60), ".50'"),
-                                        Concat("W", Below(180), "* ", Below(60), ".20'"), "364"});
+        session.plan.PlanAirportIndex.Add(Code(number), number);
+        session.plan.PlanAirports.push_back({Code(number), Concat("N", Below(80), "* ", Below(60), ".50'"),
+                                             Concat("W", Below(180), "* ", Below(60), ".20'"), "364"});
         AirportRecord record;
         record.ICAO = Code(number);
         record.Region = Concat("Region ", number % 9);
         record.Country = Concat("Country ", number % 200);
-        session.Airports.push_back(record);
+        session.scenery.Airports.push_back(record);
     }
 
     void AddAircraft(int number) {
@@ -50,8 +51,8 @@ class PlanWorld {
         aircraft.MaxFL = 250 + number % 200;
         aircraft.Airline = number % 10 == 0 ? "" : Concat("Sample Airline ", number % 300);
         aircraft.Class = kClassMicroProp + number % 7;
-        session.FSAircrafts.push_back(aircraft);
-        session.PlanAircrafts.push_back({Concat("AC#", number + 1), aircraft.Title, "300", 0});
+        session.fleet.FSAircrafts.push_back(aircraft);
+        session.plan.PlanAircrafts.push_back({Concat("AC#", number + 1), aircraft.Title, "300", 0});
     }
 
     void AddFlight() {
@@ -75,7 +76,7 @@ class PlanWorld {
             flight.Legs.push_back(
                 {depart, arrive, false, "350", "F", Concat(1000 + Below(9000)), Code(Below(kAirports))});
         }
-        session.Flights.Append(flight);
+        session.plan.Flights.Append(flight);
     }
 
     std::mt19937 engine_{1};

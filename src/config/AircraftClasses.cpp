@@ -186,13 +186,13 @@ bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messa
         ShowRuleLineError(messages, kAircraftClassesName, parsed.offendingLine);
         return false;
     }
-    session.Classes = std::move(*parsed.lists);
+    session.rules.Classes = std::move(*parsed.lists);
     return true;
 }
 
 bool WriteAircraftClasses(const Session& session, FileSystem& files) {
     const auto file = files.CreateReplacing(JoinPath(session.ProgramFolder, kAircraftClassesName));
-    return file && file->Write(FormatAircraftClasses(session.Classes)) && file->Commit();
+    return file && file->Write(FormatAircraftClasses(session.rules.Classes)) && file->Commit();
 }
 
 }  // namespace orlo

@@ -31,8 +31,8 @@ void ParseClassEntry(ClassEntry& entry, std::string_view line);
 // written as its ID alone; one without an ID isn't written.
 std::string FormatAircraftClasses(const ClassLists& lists);
 
-// Replaces session.Classes by the file of the program folder. False, with a critical message and the lists as
-// they were, when the file is missing or holds a line with a wrong count of parts.
+// Replaces session.rules.Classes by the file of the program folder. False, with a critical message and the
+// lists as they were, when the file is missing or holds a line with a wrong count of parts.
 bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messages);
 
 // Replaces the file of the program folder. False when it could not be written; the old file then stands

@@ -88,7 +88,7 @@ AirlineSets ParseAirlines(std::string_view text) {
 bool ReadAirlines(Session& session, FileSystem& files, MessageHost& messages) {
     const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kAirlineSetsName);
     if (!text) return false;
-    session.Airlines = ParseAirlines(*text);
+    session.rules.Airlines = ParseAirlines(*text);
     return true;
 }
 

@@ -20,8 +20,8 @@ AirlineSets ParseAirlines(std::string_view text);
 // the cut stay and count when the name is compared.
 std::string CleanAirlineName(std::string_view text);
 
-// Replaces session.Airlines by the file of the program folder. False, with a critical message and the sets as
-// they were, when the file is missing.
+// Replaces session.rules.Airlines by the file of the program folder. False, with a critical message and the
+// sets as they were, when the file is missing.
 bool ReadAirlines(Session& session, FileSystem& files, MessageHost& messages);
 
 }  // namespace orlo

@@ -44,11 +44,11 @@ ParsedFlightLevels ParseFlightLevels(std::string_view text) {
 }
 
 bool ReadFlightLevels(Session& session, FileSystem& files, MessageHost& messages) {
-    session.FlightLevelRules.clear();
+    session.rules.FlightLevelRules.clear();
     const auto text = ReadRuleFile(session.ProgramFolder, files, messages, kFlightLevelsName);
     if (!text) return false;
     ParsedFlightLevels parsed = ParseFlightLevels(*text);
-    session.FlightLevelRules = std::move(parsed.rules);
+    session.rules.FlightLevelRules = std::move(parsed.rules);
     if (parsed.offendingLine) ShowRuleLineError(messages, kFlightLevelsName, *parsed.offendingLine);
     return !parsed.offendingLine;
 }

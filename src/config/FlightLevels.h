@@ -23,8 +23,9 @@ struct ParsedFlightLevels {
 // Reads the text of the file. A line of seven fields, one of which is no whole number, gives no rule.
 ParsedFlightLevels ParseFlightLevels(std::string_view text);
 
-// Replaces session.FlightLevelRules by the file of the program folder. False, with a critical message, when
-// the file is missing, which leaves no rules, or a line hasn't seven fields, which leaves the rules above it.
+// Replaces session.rules.FlightLevelRules by the file of the program folder. False, with a critical message,
+// when the file is missing, which leaves no rules, or a line hasn't seven fields, which leaves the rules
+// above it.
 bool ReadFlightLevels(Session& session, FileSystem& files, MessageHost& messages);
 
 }  // namespace orlo

@@ -34,15 +34,15 @@ bool ContainsName(const NameList& list, std::string_view name) {
 }
 
 bool ReadAirlineNames(Session& session, FileSystem& files, MessageHost& messages) {
-    return ReadNameList(session.AirlineNames, session, files, messages, "ORLO_NAL.CFG");
+    return ReadNameList(session.rules.AirlineNames, session, files, messages, "ORLO_NAL.CFG");
 }
 
 bool ReadModelNames(Session& session, FileSystem& files, MessageHost& messages) {
-    return ReadNameList(session.ModelNames, session, files, messages, "ORLO_NMD.CFG");
+    return ReadNameList(session.rules.ModelNames, session, files, messages, "ORLO_NMD.CFG");
 }
 
 bool ReadTypeNames(Session& session, FileSystem& files, MessageHost& messages) {
-    return ReadNameList(session.TypeNames, session, files, messages, "ORLO_NTP.CFG");
+    return ReadNameList(session.rules.TypeNames, session, files, messages, "ORLO_NTP.CFG");
 }
 
 }  // namespace orlo

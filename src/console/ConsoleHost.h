@@ -9,9 +9,7 @@
 #include <string_view>
 
 #include "services/FileSystem.h"
-#include "services/MessageHost.h"
-#include "services/ProgressHost.h"
-#include "services/WindowHost.h"
+#include "services/FrontEnd.h"
 
 namespace orlo {
 
@@ -33,7 +31,7 @@ struct QueuedAnswers {
 
 // The services of the console: everything said to the user is a line of output, every question is answered
 // from the queues.
-class ConsoleHost : public ProgressHost, public MessageHost, public WindowHost {
+class ConsoleHost : public FrontEnd {
   public:
     ConsoleHost(FileSystem& files, std::ostream& out, bool strict, bool trace)
         : files_(files), out_(out), strict_(strict), trace_(trace) {}

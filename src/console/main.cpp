@@ -11,7 +11,7 @@
 #include "console/ScriptRunner.h"
 #include "core/Version.h"
 #include "platform/Platform.h"
-#include "platform/common/SystemRandom.h"
+#include "platform/SystemServices.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 
@@ -29,32 +29,30 @@ std::filesystem::path ScriptPath(const std::string& word) {
 // Writes nothing before the script has run to its end: one that could not go on leaves no settings.
 class HeldSettings : public SettingsStore {
   public:
-    explicit HeldSettings(SettingsStore& store) : store_(store) {}
+    explicit HeldSettings(std::unique_ptr<SettingsStore> store) : store_(std::move(store)) {}
     std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override {
-        return store_.Get(keyPath, name);
+        return store_->Get(keyPath, name);
     }
     bool Set(std::string_view keyPath, std::string_view name, std::string_view value) override {
-        return store_.Set(keyPath, name, value);
+        return store_->Set(keyPath, name, value);
     }
     bool Flush() override { return flushed_ = true; }
-    bool WriteHeld() { return !flushed_ || store_.Flush(); }
+    bool WriteHeld() { return !flushed_ || store_->Flush(); }
 
   private:
-    SettingsStore& store_;
+    std::unique_ptr<SettingsStore> store_;
     bool flushed_ = false;
 };
 
-int RunScript(const ConsoleOptions& options, std::istream& script, FileSystem& files) {
-    const auto store = MakeUserSettings(files, options.settings);
-    HeldSettings userSettings(*store);
-    const auto machineSettings = MakeMachineSettings(files, options.simulator.value_or(std::string()));
-    SystemRandom random(options.seed);
-    const auto clock = MakeClock();
-    ConsoleHost host(files, std::cout, options.strict, options.trace);
+int RunScript(const ConsoleOptions& options, std::istream& script, SystemServices& system) {
+    auto held = std::make_unique<HeldSettings>(std::move(system.userSettings));
+    HeldSettings& userSettings = *held;
+    system.userSettings = std::move(held);
+    ConsoleHost host(*system.files, std::cout, options.strict, options.trace);
     if (ErrorsAreOnTerminal()) host.DrawBarOn(&std::cerr);
-    Services services{files, userSettings, *machineSettings, host, host, host, random, *clock};
+    Services services = system.Behind(host);
 
-    Program program(services, options.program ? *options.program : FindProgramFolder(files));
+    Program program(services, options.program ? *options.program : FindProgramFolder(*system.files));
     ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict);
     if (!StartUp(program.context)) {
         std::cout << std::flush;
@@ -68,14 +66,15 @@ int RunScript(const ConsoleOptions& options, std::istream& script, FileSystem& f
     return status;
 }
 
-int RunConsole(const ConsoleOptions& options, FileSystem& files) {
-    if (!options.script) return RunScript(options, std::cin, files);
+int RunConsole(const ConsoleOptions& options) {
+    SystemServices system(options.settings, options.simulator.value_or(std::string()), options.seed);
+    if (!options.script) return RunScript(options, std::cin, system);
     std::ifstream script(ScriptPath(*options.script), std::ios::binary);
-    if (!script || !files.FileExists(*options.script)) {
+    if (!script || !system.files->FileExists(*options.script)) {
         std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
         return kScriptFailed;
     }
-    return RunScript(options, script, files);
+    return RunScript(options, script, system);
 }
 
 int Main(const std::vector<std::string>& arguments) {
@@ -89,9 +88,8 @@ int Main(const std::vector<std::string>& arguments) {
         return 0;
     }
     std::pmr::set_default_resource(&ListMemory());
-    const auto files = MakeFileSystem();
     try {
-        return RunConsole(options, *files);
+        return RunConsole(options);
     } catch (const std::exception& failure) {
         std::cerr << "orlo-console: " << failure.what() << '\n';
         return kStartUpFailed;

@@ -8,8 +8,8 @@ namespace orlo {
 
 // An aircraft that fits an airline entry in a run of the shuffle.
 struct AirlineAircraft {
-    std::int32_t AircraftIndex = -1;      // place in Session::FSAircrafts
-    std::int32_t PlanAircraftIndex = -1;  // place in Session::PlanAircrafts
+    std::int32_t AircraftIndex = -1;      // place in Fleet::FSAircrafts
+    std::int32_t PlanAircraftIndex = -1;  // place in Plan::PlanAircrafts
     std::int32_t UseCount = 0;            // flights assigned through this entry
 };
 

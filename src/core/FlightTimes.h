@@ -79,7 +79,7 @@ class FlightTimes {
 
 enum class TurnAroundTest { Passes, TooShort, TooLong };
 
-// `minimum` in minutes and `maximum` in hours are Session::TATime and MaxTATime. Exactly the minimum or the
+// `minimum` in minutes and `maximum` in hours are Switches::TATime and MaxTATime. Exactly the minimum or the
 // maximum passes; a negative time passes too.
 TurnAroundTest TestTurnAround(std::int64_t seconds, std::int32_t minimum, std::int32_t maximum);
 

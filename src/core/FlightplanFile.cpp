@@ -143,20 +143,20 @@ bool AppendFlightplanLine(std::string_view line, FlightList& flights) {
     return LinePacker(flights).Append(line);
 }
 
-void ReadFlightplan(Session& session, Services& services) {
-    session.Flights.Clear();
+void ReadFlightplan(Plan& plan, Services& services) {
+    plan.Flights.Clear();
     services.progress.SetMax(100);
     services.progress.SetValue(0);
     services.windows.ProcessEvents();
 
-    const auto file = services.files.OpenForReading(session.FlightplanPath);
+    const auto file = services.files.OpenForReading(plan.FlightplanPath);
     if (!file) {
         ShowMessage(services.messages, "Flightplan file not found or access denied.", kMarkCritical);
         return;
     }
     const std::uint64_t size = std::max<std::uint64_t>(file->Size(), 1);
     LineReader lines(*file);
-    LinePacker packer(session.Flights);
+    LinePacker packer(plan.Flights);
     std::uint64_t total = 0;
     int lineCounter = 0;
     while (const auto line = lines.Next()) {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/FlightList.h"
-#include "core/Session.h"
+#include "core/Plan.h"
 #include "services/Services.h"
 
 namespace orlo {
@@ -21,9 +21,9 @@ inline constexpr std::string_view kRemovedFlightsName = "Removed Flights.txt";
 // here.
 bool AppendFlightplanLine(std::string_view line, FlightList& flights);
 
-// Reads session.FlightplanPath into session.Flights in one pass. A file that can't be reached gives a
+// Reads plan.FlightplanPath into plan.Flights in one pass. A file that can't be reached gives a
 // critical message and leaves Flights empty. Progress runs from 0 to 100.
-void ReadFlightplan(Session& session, Services& services);
+void ReadFlightplan(Plan& plan, Services& services);
 
 struct PlanWriteResult {
     bool PlanWritten = false;

@@ -37,17 +37,17 @@ std::string TitleOf(std::string_view field) {
     return std::string(TrimBlanks(field));
 }
 
-std::string BesidePlan(const Session& session, std::string_view name) {
-    return JoinPath(ParentFolder(session.FlightplanPath), name);
+std::string BesidePlan(const Plan& plan, std::string_view name) {
+    return JoinPath(ParentFolder(plan.FlightplanPath), name);
 }
 
 }  // namespace
 
-std::string PlanAircraftPath(const Session& session) {
-    return BesidePlan(session, "Aircraft.txt");
+std::string PlanAircraftPath(const Plan& plan) {
+    return BesidePlan(plan, "Aircraft.txt");
 }
-std::string PlanAirportsPath(const Session& session) {
-    return BesidePlan(session, "Airports.txt");
+std::string PlanAirportsPath(const Plan& plan) {
+    return BesidePlan(plan, "Airports.txt");
 }
 
 std::int32_t AircraftNumber(std::string_view acNumber) {
@@ -55,16 +55,16 @@ std::int32_t AircraftNumber(std::string_view acNumber) {
     return ParseWholeNumber(acNumber.substr(kNumberStart)).value_or(0);
 }
 
-void ReadPlanAircraft(Session& session, Services& services) {
-    session.PlanAircrafts.clear();
-    session.MaxACNumber = 0;
-    const bool found = ReadRecords(services.files, PlanAircraftPath(session), 3, [&](const auto& fields) {
+void ReadPlanAircraft(Plan& plan, Services& services) {
+    plan.PlanAircrafts.clear();
+    plan.MaxACNumber = 0;
+    const bool found = ReadRecords(services.files, PlanAircraftPath(plan), 3, [&](const auto& fields) {
         PlanAircraft aircraft;
         aircraft.ACNumber = TrimBlanks(fields[0]);
         aircraft.CruiseSpeed = TrimBlanks(fields[1]);
         aircraft.Title = TitleOf(fields[2]);
-        session.MaxACNumber = std::max(session.MaxACNumber, AircraftNumber(fields[0]));
-        session.PlanAircrafts.push_back(std::move(aircraft));
+        plan.MaxACNumber = std::max(plan.MaxACNumber, AircraftNumber(fields[0]));
+        plan.PlanAircrafts.push_back(std::move(aircraft));
     });
     if (!found) {
         ShowMessage(services.messages,
@@ -73,17 +73,17 @@ void ReadPlanAircraft(Session& session, Services& services) {
     }
 }
 
-void ReadPlanAirports(Session& session, Services& services) {
-    session.PlanAirports.clear();
-    session.PlanAirportIndex.Clear();
-    const bool found = ReadRecords(services.files, PlanAirportsPath(session), 4, [&](const auto& fields) {
+void ReadPlanAirports(Plan& plan, Services& services) {
+    plan.PlanAirports.clear();
+    plan.PlanAirportIndex.Clear();
+    const bool found = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
         PlanAirport airport;
         airport.ICAO = TrimBlanks(fields[0]);
         airport.Latitude = TrimBlanks(fields[1]);
         airport.Longitude = TrimBlanks(fields[2]);
         airport.Altitude = TrimBlanks(fields[3]);
-        session.PlanAirportIndex.Add(airport.ICAO, session.PlanAirportCount());
-        session.PlanAirports.push_back(std::move(airport));
+        plan.PlanAirportIndex.Add(airport.ICAO, plan.PlanAirportCount());
+        plan.PlanAirports.push_back(std::move(airport));
     });
     if (!found) {
         ShowMessage(services.messages,
@@ -92,13 +92,13 @@ void ReadPlanAirports(Session& session, Services& services) {
     }
 }
 
-bool WritePlanAircraft(const Session& session, FileSystem& files) {
-    const std::string path = PlanAircraftPath(session);
-    if (session.BackupPlan) BackUpOnce(files, path);
+bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup) {
+    const std::string path = PlanAircraftPath(plan);
+    if (backup) BackUpOnce(files, path);
     const auto file = files.CreateReplacing(path);
     if (!file) return false;
     std::string text;
-    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+    for (const PlanAircraft& aircraft : plan.PlanAircrafts) {
         text.append(Concat(aircraft.ACNumber, ",", aircraft.CruiseSpeed, ",\"", aircraft.Title, "\"\r\n"));
     }
     return file->Write(text) && file->Commit();

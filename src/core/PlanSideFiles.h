@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/Session.h"
+#include "core/Plan.h"
 #include "services/Services.h"
 
 namespace orlo {
@@ -10,18 +10,18 @@ namespace orlo {
 // Aircraft.txt and Airports.txt, which stand in the folder of the flightplan. docs/plan-side-files.md tells
 // their forms.
 
-std::string PlanAircraftPath(const Session& session);
-std::string PlanAirportsPath(const Session& session);
+std::string PlanAircraftPath(const Plan& plan);
+std::string PlanAirportsPath(const Plan& plan);
 
 // Replaces PlanAircrafts and MaxACNumber. A missing file gives a critical message and an empty list.
-void ReadPlanAircraft(Session& session, Services& services);
+void ReadPlanAircraft(Plan& plan, Services& services);
 
 // Replaces PlanAirports and PlanAirportIndex. A missing file gives a critical message and an empty list.
-void ReadPlanAirports(Session& session, Services& services);
+void ReadPlanAirports(Plan& plan, Services& services);
 
-// Writes PlanAircrafts, with the backup of the old file that session.BackupPlan asks for. False when it could
+// Writes PlanAircrafts, with the backup of the old file that `backup` asks for. False when it could
 // not be written; the old file then stands whole.
-bool WritePlanAircraft(const Session& session, FileSystem& files);
+bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup);
 
 // The number behind "AC#"; 0 where none reads.
 std::int32_t AircraftNumber(std::string_view acNumber);

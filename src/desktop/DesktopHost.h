@@ -11,9 +11,7 @@
 #include "desktop/EventSink.h"
 #include "desktop/InputFilter.h"
 #include "forms/ProgressForm.h"
-#include "services/MessageHost.h"
-#include "services/ProgressHost.h"
-#include "services/WindowHost.h"
+#include "services/FrontEnd.h"
 
 class QEventLoop;
 class QPrinter;
@@ -25,11 +23,7 @@ class EventPump;
 // The desktop front end over an event pump: windows for the forms, dialogs, timers, and the loops that run
 // events. One lives beside the application object; the pump and the forms come after it and go before it,
 // except for what stays in RunUntilClosed.
-class DesktopHost : public QObject,
-                    public EventSink,
-                    public ProgressHost,
-                    public MessageHost,
-                    public WindowHost {
+class DesktopHost : public QObject, public EventSink, public FrontEnd {
   public:
     DesktopHost();
     ~DesktopHost() override;

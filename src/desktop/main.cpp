@@ -14,7 +14,7 @@
 #include "desktop/MainLayout.h"
 #include "desktop/ScreenText.h"
 #include "platform/Platform.h"
-#include "platform/common/SystemRandom.h"
+#include "platform/SystemServices.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 
@@ -51,15 +51,11 @@ void NameApplication() {
 }
 
 int RunDesktop(DesktopApplication& application) {
-    const auto files = MakeFileSystem();
-    const auto userSettings = MakeUserSettings(*files, std::nullopt);
-    const auto machineSettings = MakeMachineSettings(*files, std::string());
-    SystemRandom random;
-    const auto clock = MakeClock();
+    SystemServices system;
     DesktopHost host;
-    Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
+    Services services = system.Behind(host);
 
-    Program program(services, FindProgramFolder(*files));
+    Program program(services, FindProgramFolder(*system.files));
     const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;

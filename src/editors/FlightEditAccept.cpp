@@ -42,7 +42,7 @@ bool PassesLevel(Context& context, std::int32_t leg, const FSAircraft& aircraft,
     const std::string& level = flight.Legs[static_cast<std::size_t>(leg)].FlightLevel;
     // A level that is no number suits no leg.
     const LevelCheck check =
-        CheckFlightLevel(context.session.FlightLevelRules, flight.FlightType, distance, course,
+        CheckFlightLevel(context.session.rules.FlightLevelRules, flight.FlightType, distance, course,
                          {aircraft.MinFL, aircraft.MaxFL}, ParseWholeNumber(level).value_or(-1));
     if (check.Right) return true;
     return UserPassesLeg(context, leg,
@@ -54,7 +54,7 @@ bool PassesRangesAndLevels(Context& context) {
     const FlightEditForm& form = context.forms.frmFlightEdit;
     const FSAircraft* aircraft = InstalledAircraft(form, context.session);
     if (aircraft == nullptr) return true;
-    const PlanPositions positions(context.session);
+    const PlanPositions positions(context.session.plan);
     for (std::int32_t place = 0; place < form.WorkingFlight.LegCount(); ++place) {
         const std::string& from = LegStart(form.WorkingFlight, place);
         const std::string& to = form.WorkingFlight.Legs[static_cast<std::size_t>(place)].Destination;
@@ -71,11 +71,12 @@ bool PassesRangesAndLevels(Context& context) {
 // Empty where the stand is neither too short nor too long. `where` and `whereTooLong` end the sentences.
 std::string StandWarning(const Session& session, std::int64_t seconds, std::string_view where,
                          std::string_view whereTooLong) {
-    switch (TestTurnAround(seconds, session.TATime, session.MaxTATime)) {
+    switch (TestTurnAround(seconds, session.switches.TATime, session.switches.MaxTATime)) {
         case TurnAroundTest::TooShort:
-            return Concat("Warning! Stand time is less than ", session.TATime, " minutes for ", where);
+            return Concat("Warning! Stand time is less than ", session.switches.TATime, " minutes for ",
+                          where);
         case TurnAroundTest::TooLong:
-            return Concat("Warning! Stand time is greater than ", session.MaxTATime, " hours for ",
+            return Concat("Warning! Stand time is greater than ", session.switches.MaxTATime, " hours for ",
                           whereTooLong);
         case TurnAroundTest::Passes:
             break;

@@ -66,7 +66,7 @@ std::optional<std::int32_t> ShownArrival(const Context& context) {
     const FlightEditForm& form = context.forms.frmFlightEdit;
     const Leg& leg = form.WorkingFlight.Legs[static_cast<std::size_t>(SelectedLeg(form))];
     return ParseClockTime(
-        TimeForFields(leg.ETA, IsWeekly(form.WorkingFlight), context.session.FEditZone).Clock);
+        TimeForFields(leg.ETA, IsWeekly(form.WorkingFlight), context.session.switches.FEditZone).Clock);
 }
 
 void StoreAirport(Context& context, std::int32_t leg, const ComboBox& airports) {
@@ -85,7 +85,8 @@ void OnFlightAircraft(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     const std::int32_t place = ChosenAircraft(form, context.session);
     if (place < 0) return;
-    form.WorkingFlight.ACNumber = context.session.PlanAircrafts[static_cast<std::size_t>(place)].ACNumber;
+    form.WorkingFlight.ACNumber =
+        context.session.plan.PlanAircrafts[static_cast<std::size_t>(place)].ACNumber;
     ComputeArrivals(context);
     ShowLegCaption(context);
 }
@@ -134,7 +135,7 @@ void OnFlightType(Context& context) {
 void OnFlightZone(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     if (form.cmZone.index < 0) return;
-    context.session.FEditZone = form.cmZone.Text();
+    context.session.switches.FEditZone = form.cmZone.Text();
     ShowAllLegRows(context);
     LoadSelectedLeg(context);
 }
@@ -156,8 +157,8 @@ void OnLegTime(Context& context) {
     Leg* leg = WorkingLeg(form);
     const auto seconds = ParseClockTime(form.txtTime.text);
     if (leg == nullptr || !seconds) return;
-    leg->DepartTime =
-        TimeForStorage(ChosenDay(form), *seconds, IsWeekly(form.WorkingFlight), context.session.FEditZone);
+    leg->DepartTime = TimeForStorage(ChosenDay(form), *seconds, IsWeekly(form.WorkingFlight),
+                                     context.session.switches.FEditZone);
     ComputeSelectedArrival(context);
     ShowLegRow(context, SelectedLeg(form));
 }
@@ -193,7 +194,7 @@ void OnLegETA(Context& context) {
     const auto departure = ParseClockTime(form.txtTime.text);
     const std::int32_t dayStep = departure && *seconds < *departure ? 1 : 0;
     leg->ETA = TimeForStorage((ChosenDay(form) + dayStep) % 7, *seconds, IsWeekly(form.WorkingFlight),
-                              context.session.FEditZone);
+                              context.session.switches.FEditZone);
     ShowLegRow(context, SelectedLeg(form));
 }
 

@@ -37,16 +37,16 @@ void ClearLegFields(FlightEditForm& form) {
 }
 
 std::int32_t AirportEntry(const Session& session, const std::string& code) {
-    const std::int32_t* place = session.PlanAirportIndex.Find(code);
+    const std::int32_t* place = session.plan.PlanAirportIndex.Find(code);
     return place == nullptr ? -1 : *place;
 }
 
 void LoadTimes(FlightEditForm& form, const Session& session, const Leg& leg) {
     const bool weekly = IsWeekly(form.WorkingFlight);
-    const FieldTime departure = TimeForFields(leg.DepartTime, weekly, session.FEditZone);
+    const FieldTime departure = TimeForFields(leg.DepartTime, weekly, session.switches.FEditZone);
     form.cmDay.index = departure.Day;
     form.txtTime.text = departure.Clock;
-    form.txtETA.text = TimeForFields(leg.ETA, weekly, session.FEditZone).Clock;
+    form.txtETA.text = TimeForFields(leg.ETA, weekly, session.switches.FEditZone).Clock;
 }
 
 void LoadLegFields(FlightEditForm& form, const Session& session, std::int32_t place) {
@@ -70,8 +70,8 @@ std::array<std::string, 6> RowTexts(const FlightEditForm& form, const Session& s
     const Leg& leg = form.WorkingFlight.Legs[static_cast<std::size_t>(place)];
     return {LegStart(form.WorkingFlight, place),
             leg.Destination,
-            ConvertTimeText(leg.DepartTime, session.FEditZone, false),
-            ConvertTimeText(leg.ETA, session.FEditZone, false),
+            ConvertTimeText(leg.DepartTime, session.switches.FEditZone, false),
+            ConvertTimeText(leg.ETA, session.switches.FEditZone, false),
             leg.FlightNumber,
             Concat("FL", leg.FlightLevel)};
 }
@@ -174,14 +174,14 @@ void ShowLegCaption(Context& context) {
     if (leg < 0) return;
     const std::string& from = LegStart(form.WorkingFlight, leg);
     const std::string& to = form.WorkingFlight.Legs[static_cast<std::size_t>(leg)].Destination;
-    const std::int32_t distance = GetDistance(session, from, to);
-    const std::int32_t course = GetCourse(session, from, to);
+    const std::int32_t distance = GetDistance(session.plan, from, to);
+    const std::int32_t course = GetCourse(session.plan, from, to);
     if (distance != -1) form.frLeg.caption += Concat(" - Distance ", distance, "nm");
     if (course != -1) form.frLeg.caption += Concat(" - Course ", course, kDegreeSign);
     if (const FSAircraft* aircraft = InstalledAircraft(form, session)) {
-        form.frLeg.caption +=
-            Concat(" - ", SuggestFlightLevelText(session.FlightLevelRules, form.WorkingFlight.FlightType,
-                                                 distance, course, {aircraft->MinFL, aircraft->MaxFL}));
+        form.frLeg.caption += Concat(
+            " - ", SuggestFlightLevelText(session.rules.FlightLevelRules, form.WorkingFlight.FlightType,
+                                          distance, course, {aircraft->MinFL, aircraft->MaxFL}));
     }
 }
 
@@ -191,7 +191,7 @@ void ComputeArrivals(Context& context) {
     Flight& flight = form.WorkingFlight;
     const std::int32_t aircraft = ChosenAircraft(form, session);
     if (aircraft < 0) return;
-    const PlanPositions positions(session);
+    const PlanPositions positions(session.plan);
     for (std::int32_t place = 0; place < flight.LegCount(); ++place) {
         Leg& leg = flight.Legs[static_cast<std::size_t>(place)];
         if (leg.FixedETA) continue;
@@ -202,7 +202,8 @@ void ComputeArrivals(Context& context) {
     const std::int32_t selected = SelectedLeg(form);
     if (selected < 0) return;
     const Leg& leg = flight.Legs[static_cast<std::size_t>(selected)];
-    if (!leg.FixedETA) form.txtETA.text = TimeForFields(leg.ETA, IsWeekly(flight), session.FEditZone).Clock;
+    if (!leg.FixedETA)
+        form.txtETA.text = TimeForFields(leg.ETA, IsWeekly(flight), session.switches.FEditZone).Clock;
 }
 
 void ComputeSelectedArrival(Context& context) {
@@ -214,9 +215,9 @@ void ComputeSelectedArrival(Context& context) {
     if (place < 0 || aircraft < 0) return;
     Leg& leg = flight.Legs[static_cast<std::size_t>(place)];
     if (leg.FixedETA) return;
-    const std::int32_t distance = GetDistance(session, LegStart(flight, place), leg.Destination);
+    const std::int32_t distance = GetDistance(session.plan, LegStart(flight, place), leg.Destination);
     leg.ETA = ArrivalOfLeg(session, distance, flight, place, aircraft);
-    form.txtETA.text = TimeForFields(leg.ETA, IsWeekly(flight), session.FEditZone).Clock;
+    form.txtETA.text = TimeForFields(leg.ETA, IsWeekly(flight), session.switches.FEditZone).Clock;
     ShowLegRow(context, place);
 }
 

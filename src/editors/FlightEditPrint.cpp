@@ -10,7 +10,7 @@ namespace {
 
 std::string PrintedFlight(const FlightEditForm& form, const Session& session) {
     const Flight& flight = form.WorkingFlight;
-    const PlanPositions positions(session);
+    const PlanPositions positions(session.plan);
     std::string text = Concat(form.cmAircraft.Text(), " - ", flight.TailNumber, "/", flight.Percent, "/",
                               flight.Period, "/", flight.FlightType, kPrintedLineEnd);
     for (std::int32_t place = 0; place < flight.LegCount(); ++place) {

@@ -46,24 +46,24 @@ std::int32_t ChosenAircraft(const FlightEditForm& form, const Session& session) 
     const auto entry = static_cast<std::size_t>(form.cmAircraft.index);
     if (form.cmAircraft.index < 0 || entry >= form.cmAircraft.entries.size()) return -1;
     const std::int32_t place = form.cmAircraft.entries[entry].itemData;
-    return place >= 0 && place < session.PlanAircraftCount() ? place : -1;
+    return place >= 0 && place < session.plan.PlanAircraftCount() ? place : -1;
 }
 
 const FSAircraft* InstalledAircraft(const FlightEditForm& form, const Session& session) {
     const std::int32_t chosen = ChosenAircraft(form, session);
     if (chosen < 0) return nullptr;
     const std::int32_t* place =
-        form.AircraftIndex.Find(session.PlanAircrafts[static_cast<std::size_t>(chosen)].ACNumber);
-    if (place == nullptr || *place < 0 || *place >= session.FSAircraftCount()) return nullptr;
-    return &session.FSAircrafts[static_cast<std::size_t>(*place)];
+        form.AircraftIndex.Find(session.plan.PlanAircrafts[static_cast<std::size_t>(chosen)].ACNumber);
+    if (place == nullptr || *place < 0 || *place >= session.fleet.FSAircraftCount()) return nullptr;
+    return &session.fleet.FSAircrafts[static_cast<std::size_t>(*place)];
 }
 
 std::string ArrivalOfLeg(const Session& session, std::int32_t distance, const Flight& flight,
                          std::int32_t leg, std::int32_t aircraft) {
     const std::string& stored = flight.Legs[static_cast<std::size_t>(leg)].DepartTime;
     const bool dayless = IsWeekly(flight) && SplitDayPrefix(stored).Prefix.empty();
-    return GetArrivalTime(session, distance, dayless ? Concat("0/", stored) : stored, flight.Period, aircraft,
-                          -1);
+    return GetArrivalTime(session.plan, distance, dayless ? Concat("0/", stored) : stored, flight.Period,
+                          aircraft, -1);
 }
 
 }  // namespace orlo

@@ -4,31 +4,32 @@
 #include "editors/FlightEditLegs.h"
 #include "editors/FlightEditTimes.h"
 #include "mainwindow/BulkOperation.h"
-#include "simulator/TitleIndex.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 namespace {
 
 void FillAirports(ComboBox& combo, const Session& session) {
     combo.Clear();
-    for (const PlanAirport& airport : session.PlanAirports) combo.Add(airport.ICAO);
+    for (const PlanAirport& airport : session.plan.PlanAirports) combo.Add(airport.ICAO);
 }
 
 void FillAircraft(FlightEditForm& form, const Session& session) {
-    const std::vector<std::int32_t> installed = InstalledPlaces(session);
+    const MatchedAircraft matched(session.plan, session.fleet);
     form.cmAircraft.Clear();
     form.AircraftIndex.Clear();
-    for (std::int32_t place = 0; place < session.PlanAircraftCount(); ++place) {
-        const PlanAircraft& aircraft = session.PlanAircrafts[static_cast<std::size_t>(place)];
+    for (std::int32_t place = 0; place < session.plan.PlanAircraftCount(); ++place) {
+        const PlanAircraft& aircraft = session.plan.PlanAircrafts[static_cast<std::size_t>(place)];
         form.cmAircraft.Add(Concat(aircraft.Title, " (", aircraft.ACNumber, ")"), place);
-        form.AircraftIndex.Add(aircraft.ACNumber, installed[static_cast<std::size_t>(place)]);
+        form.AircraftIndex.Add(aircraft.ACNumber, matched.Places()[static_cast<std::size_t>(place)]);
     }
 }
 
 void SelectAircraft(FlightEditForm& form, const Session& session) {
     form.cmAircraft.index = -1;
-    for (std::int32_t place = 0; place < session.PlanAircraftCount(); ++place) {
-        if (session.PlanAircrafts[static_cast<std::size_t>(place)].ACNumber != form.WorkingFlight.ACNumber)
+    for (std::int32_t place = 0; place < session.plan.PlanAircraftCount(); ++place) {
+        if (session.plan.PlanAircrafts[static_cast<std::size_t>(place)].ACNumber !=
+            form.WorkingFlight.ACNumber)
             continue;
         form.cmAircraft.index = place;
         return;
@@ -58,11 +59,11 @@ void ShowFlight(Context& context) {
 void FillDialog(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     const Session& session = context.session;
-    form.ckAircraftRange.checked = session.CheckAircraftRange;
-    form.ckFlightLevel.checked = session.CheckFlightLevels;
-    form.ckFlightTimes.checked = session.CheckFlightTimes;
+    form.ckAircraftRange.checked = session.switches.CheckAircraftRange;
+    form.ckFlightLevel.checked = session.switches.CheckFlightLevels;
+    form.ckFlightTimes.checked = session.switches.CheckFlightTimes;
     form.cmZone.index = -1;
-    form.cmZone.SelectText(session.FEditZone);
+    form.cmZone.SelectText(session.switches.FEditZone);
     FillAirports(form.cmDeparture, session);
     FillAirports(form.cmArrival, session);
     FillAircraft(form, session);
@@ -73,7 +74,7 @@ void FillDialog(Context& context) {
 
 std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSearch, std::int32_t legIndex) {
     FlightEditForm& form = context.forms.frmFlightEdit;
-    FlightList& flights = fromSearch ? context.session.SearchResults : context.session.Flights;
+    FlightList& flights = fromSearch ? context.session.search.SearchResults : context.session.plan.Flights;
     if (flightIndex < 0 || flightIndex >= flights.Count()) return {};
     {
         const BusyMainWindow busy(context);
@@ -92,9 +93,9 @@ std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSear
 
 void StoreFlightEditSwitches(Context& context) {
     const FlightEditForm& form = context.forms.frmFlightEdit;
-    context.session.CheckAircraftRange = form.ckAircraftRange.checked;
-    context.session.CheckFlightLevels = form.ckFlightLevel.checked;
-    context.session.CheckFlightTimes = form.ckFlightTimes.checked;
+    context.session.switches.CheckAircraftRange = form.ckAircraftRange.checked;
+    context.session.switches.CheckFlightLevels = form.ckFlightLevel.checked;
+    context.session.switches.CheckFlightTimes = form.ckFlightTimes.checked;
 }
 
 void CancelFlightEdit(Context& context) {

@@ -7,11 +7,11 @@
 
 namespace orlo {
 
-// Opens frmFlightEdit, modal, on a copy of a flight of session.SearchResults (`fromSearch`) or
-// session.Flights, with the row of a leg selected (the first one where there is no such leg). On acceptance
-// the changed flight replaces the one in its list, and the result is the aircraft's title, or its number
-// where it isn't installed. Empty on cancel, and for an index that is none; then only FEditZone and the three
-// switches of the checks may have changed.
+// Opens frmFlightEdit, modal, on a copy of a flight of session.search.SearchResults (`fromSearch`) or
+// session.plan.Flights, with the row of a leg selected (the first one where there is no such leg). On
+// acceptance the changed flight replaces the one in its list, and the result is the aircraft's title, or its
+// number where it isn't installed. Empty on cancel, and for an index that is none; then only FEditZone and
+// the three switches of the checks may have changed.
 std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSearch, std::int32_t legIndex);
 
 // Procedures of the dialog's buttons.

@@ -70,8 +70,8 @@ void AddToMoveTree(MainForm& form, const TreeAircraft& aircraft) {
 
 void AddInstalledAircraft(MainForm& form, const Session& session, SkipTree skipShuffleTree,
                           SkipTree skipMoveTree) {
-    for (std::size_t i = 0; i < session.FSAircrafts.size(); ++i) {
-        const FSAircraft& aircraft = session.FSAircrafts[i];
+    for (std::size_t i = 0; i < session.fleet.FSAircrafts.size(); ++i) {
+        const FSAircraft& aircraft = session.fleet.FSAircrafts[i];
         if (!ShowsInTrees(aircraft.Title)) continue;
         AddAircraftToTrees(form, session, aircraft.Title, aircraft.Airline, aircraft.UIManufacturer,
                            aircraft.UIType, static_cast<std::int32_t>(i), skipShuffleTree, skipMoveTree);
@@ -79,7 +79,7 @@ void AddInstalledAircraft(MainForm& form, const Session& session, SkipTree skipS
 }
 
 void MarkMoveTree(TreeView& tree, const Session& session) {
-    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+    for (const PlanAircraft& aircraft : session.plan.PlanAircrafts) {
         const std::int32_t leaf = tree.Find(AircraftNodeKey(aircraft.Title));
         if (leaf < 0) continue;
         TreeNode& node = tree.At(leaf);
@@ -93,7 +93,7 @@ void MarkMoveTree(TreeView& tree, const Session& session) {
 void CheckPlanAircraft(MainForm& form, const Session& session) {
     TreeView& tree = form.tvShuffleAircraft;
     std::vector<std::int32_t> leaves;
-    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+    for (const PlanAircraft& aircraft : session.plan.PlanAircrafts) {
         const std::int32_t leaf = tree.Find(AircraftNodeKey(aircraft.Title));
         if (leaf >= 0) leaves.push_back(leaf);
     }
@@ -103,7 +103,7 @@ void CheckPlanAircraft(MainForm& form, const Session& session) {
 // The place in FSAircrafts that a leaf of tvShuffleAircraft bears; nothing for a group.
 std::optional<std::int32_t> PlaceOf(const TreeNode& node, const Session& session) {
     const auto place = ParseWholeNumber(node.tag);
-    return place && *place >= 0 && *place < session.FSAircraftCount() ? place : std::nullopt;
+    return place && *place >= 0 && *place < session.fleet.FSAircraftCount() ? place : std::nullopt;
 }
 
 std::vector<std::string> CheckedKeys(const TreeView& tree, bool blueOnly) {
@@ -142,8 +142,8 @@ void AddAircraftToTrees(MainForm& form, const Session& session, std::string_view
     aircraft.manufacturer = TrimBlanks(manufacturer);
     aircraft.model = TrimBlanks(model);
     aircraft.fsIndex = fsIndex;
-    if (fsIndex >= 0 && fsIndex < session.FSAircraftCount()) {
-        aircraft.aircraftClass = session.FSAircrafts[static_cast<std::size_t>(fsIndex)].Class;
+    if (fsIndex >= 0 && fsIndex < session.fleet.FSAircraftCount()) {
+        aircraft.aircraftClass = session.fleet.FSAircrafts[static_cast<std::size_t>(fsIndex)].Class;
     }
     if (skipShuffleTree == SkipTree::No) AddToShuffleTree(form, aircraft);
     if (skipMoveTree == SkipTree::No) AddToMoveTree(form, aircraft);
@@ -152,7 +152,7 @@ void AddAircraftToTrees(MainForm& form, const Session& session, std::string_view
 void FillAircraftTrees(MainForm& form, const Session& session) {
     for (TreeView* tree : {&form.tvShuffleAircraft, &form.tvMoveAircrafts}) {
         tree->Clear();
-        tree->Reserve(session.FSAircrafts.size());
+        tree->Reserve(session.fleet.FSAircrafts.size());
     }
     AddInstalledAircraft(form, session, SkipTree::No, SkipTree::No);
     MarkPlanAircraft(form, session);
@@ -166,7 +166,7 @@ void MarkPlanAircraft(MainForm& form, const Session& session) {
 }
 
 bool ViewChanges(const ComboBox& view, const Session& session) {
-    return view.tag != std::to_string(view.index) && session.FlightCount() != 0;
+    return view.tag != std::to_string(view.index) && session.plan.FlightCount() != 0;
 }
 
 void ChangeShufflerView(MainForm& form, const Session& session) {
@@ -174,7 +174,7 @@ void ChangeShufflerView(MainForm& form, const Session& session) {
     if (ViewChanges(form.cmShufflerView, session)) {
         const std::vector<std::string> keys = CheckedKeys(tree, true);
         tree.Clear();
-        tree.Reserve(session.FSAircrafts.size());
+        tree.Reserve(session.fleet.FSAircrafts.size());
         AddInstalledAircraft(form, session, SkipTree::No, SkipTree::Yes);
         CheckKeys(form, session, tree, keys);
         tree.SortChildren();
@@ -188,7 +188,7 @@ void ChangeMoveView(MainForm& form, const Session& session) {
     if (ViewChanges(form.cmMoveView, session)) {
         const std::vector<std::string> keys = CheckedKeys(tree, false);
         tree.Clear();
-        tree.Reserve(session.FSAircrafts.size());
+        tree.Reserve(session.fleet.FSAircrafts.size());
         AddInstalledAircraft(form, session, SkipTree::Yes, SkipTree::No);
         MarkMoveTree(tree, session);
         CheckKeys(form, session, tree, keys);
@@ -219,7 +219,7 @@ std::string TreeNodeTip(const MainForm& form, const Session& session, const Tree
         return at.colour == Colour::Red ? "Aircraft not used" : "";
     }
     const auto place = PlaceOf(at, session);
-    return place ? session.FSAircrafts[static_cast<std::size_t>(*place)].Problem : "";
+    return place ? session.fleet.FSAircrafts[static_cast<std::size_t>(*place)].Problem : "";
 }
 
 }  // namespace orlo

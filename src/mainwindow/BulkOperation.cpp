@@ -38,7 +38,7 @@ void NextProgress(Context& context, std::string_view text, int value) {
 }
 
 void MarkPlanModified(Context& context) {
-    context.session.PlanModified = true;
+    context.session.plan.PlanModified = true;
     context.forms.frmMain.mnuFileSave.enabled = true;
 }
 

@@ -39,12 +39,12 @@ void ResetExportView(Context& context) {
     form.lblExPreview.caption = "Previe&w";
     // No button reaches the results of a list that is empty, and they would keep the rows of the old plan
     // alive.
-    session.ClearSearch();
+    session.search = {};
 
     form.cmExportAircraft.Clear();
     form.cmExportAircraft.Add("#None#", -1);
-    for (std::int32_t i = 0; i < session.PlanAircraftCount(); ++i) {
-        const PlanAircraft& aircraft = session.PlanAircrafts[static_cast<std::size_t>(i)];
+    for (std::int32_t i = 0; i < session.plan.PlanAircraftCount(); ++i) {
+        const PlanAircraft& aircraft = session.plan.PlanAircrafts[static_cast<std::size_t>(i)];
         form.cmExportAircraft.Add(Concat(aircraft.Title, " (", aircraft.ACNumber, ")"), i);
     }
     form.cmExportAircraft.SelectFirst();
@@ -74,7 +74,7 @@ void ResetMoverView(Context& context) {
     form.MovePercent = -1;
     form.cmSource.Clear();
     form.cmDest.Clear();
-    for (const PlanAirport& airport : context.session.PlanAirports) {
+    for (const PlanAirport& airport : context.session.plan.PlanAirports) {
         form.cmSource.Add(airport.ICAO);
         form.cmDest.Add(airport.ICAO);
     }

@@ -29,12 +29,12 @@ void SaveFlightplan(Context& context) {
     Session& session = context.session;
     FileSystem& files = context.services.files;
     ForgetNotWritten(context);
-    const PlanWriteResult plan =
-        WriteFlightplan(files, session.FlightplanPath, session.Flights, session.BackupPlan);
-    const bool aircraftWritten = WritePlanAircraft(session, files);
-    if (plan.Complete() && !aircraftWritten) ReportNotWritten(context, PlanAircraftPath(session));
-    ReportPlanNotWritten(context, session.FlightplanPath, plan);
-    session.PlanModified = false;
+    const PlanWriteResult plan = WriteFlightplan(files, session.plan.FlightplanPath, session.plan.Flights,
+                                                 session.switches.BackupPlan);
+    const bool aircraftWritten = WritePlanAircraft(session.plan, files, session.switches.BackupPlan);
+    if (plan.Complete() && !aircraftWritten) ReportNotWritten(context, PlanAircraftPath(session.plan));
+    ReportPlanNotWritten(context, session.plan.FlightplanPath, plan);
+    session.plan.PlanModified = false;
     context.forms.frmMain.mnuFileSave.enabled = false;
     ShowMessage(context.services.messages, "Successfully saved modified Flightplan.", kMarkInformation,
                 &context.forms.frmMain);
@@ -47,19 +47,19 @@ void SaveFlightplanCommand(Context& context) {
 
 void SaveFlightplanAs(Context& context) {
     // After an open that failed there is nothing to write, least of all over the files that stand there.
-    if (context.session.FlightCount() == 0 || context.session.PlanAircraftCount() == 0) {
+    if (context.session.plan.FlightCount() == 0 || context.session.plan.PlanAircraftCount() == 0) {
         context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
         return;
     }
     FileDialog dialog;
     dialog.title = "Save Flightplan as...";
     dialog.filter = kTextFileFilter;
-    dialog.startFile = context.session.FlightplanPath;
+    dialog.startFile = context.session.plan.FlightplanPath;
     dialog.overwritePrompt = true;
     const std::string path = context.services.windows.ShowSaveDialog(dialog);
     if (path.empty()) return;
-    context.session.FlightplanPath = context.services.files.FullPath(path);
-    AddRecentFlightplan(context, context.session.FlightplanPath);
+    context.session.plan.FlightplanPath = context.services.files.FullPath(path);
+    AddRecentFlightplan(context, context.session.plan.FlightplanPath);
     SaveFlightplanCommand(context);
 }
 

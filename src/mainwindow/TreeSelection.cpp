@@ -98,7 +98,7 @@ void HandleNodeCheck(MainForm& form, const Session& session, TreeView& tree, std
     PushDown(tree, node);
     PullUp(tree, node);
     ++tree.stateRevision;
-    if (IsShuffleTree(form, tree) && session.PlanLoaded) RefreshShuffleLabel(form);
+    if (IsShuffleTree(form, tree) && session.plan.PlanLoaded) RefreshShuffleLabel(form);
     form.HandlingNodeCheck = false;
 }
 
@@ -116,7 +116,7 @@ void CheckNodes(MainForm& form, const Session& session, TreeView& tree, std::spa
     for (std::int32_t group = tree.Count() - 1; group >= 0; --group) {
         if (ancestors[static_cast<std::size_t>(group)]) FollowChildren(tree, group);
     }
-    if (IsShuffleTree(form, tree) && session.PlanLoaded) RefreshShuffleLabel(form);
+    if (IsShuffleTree(form, tree) && session.plan.PlanLoaded) RefreshShuffleLabel(form);
 }
 
 void RefreshShuffleLabel(MainForm& form) {
@@ -167,7 +167,7 @@ void InverseSelection(ListView& list) {
 bool OffersSelectMenu(const MainForm& form, const Session& session, const Control& control) {
     if (&control == &form.lvExPreview) return form.lvExPreview.Count() > 0;
     const bool isTree = &control == &form.tvShuffleAircraft || &control == &form.tvMoveAircrafts;
-    return isTree && session.FlightCount() != 0;
+    return isTree && session.plan.FlightCount() != 0;
 }
 
 }  // namespace orlo

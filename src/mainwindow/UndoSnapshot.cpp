@@ -14,17 +14,17 @@ constexpr int kUndoStages = 3;
 
 void PutBack(Context& context) {
     Session& session = context.session;
-    session.ClearSearch();
-    session.Flights = context.undo.Flights;
-    session.PlanAircrafts = context.undo.PlanAircrafts;
+    session.search = {};
+    session.plan.Flights = context.undo.Flights;
+    session.plan.PlanAircrafts = context.undo.PlanAircrafts;
 }
 
 }  // namespace
 
 void TakeUndoSnapshot(Context& context) {
-    if (!context.session.Undo) return;
-    context.undo.Flights = context.session.Flights;
-    context.undo.PlanAircrafts = context.session.PlanAircrafts;
+    if (!context.session.switches.Undo) return;
+    context.undo.Flights = context.session.plan.Flights;
+    context.undo.PlanAircrafts = context.session.plan.PlanAircrafts;
     context.forms.frmMain.mnuToolsUndo.enabled = true;
 }
 

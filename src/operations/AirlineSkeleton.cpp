@@ -40,7 +40,8 @@ void AppendSections(std::string& out, std::string_view level, const FirstAppeara
 bool WriteSkeleton(Context& context) {
     const std::string path = JoinPath(context.session.ProgramFolder, kSkeletonName);
     const auto file = context.services.files.CreateReplacing(path);
-    if (file && file->Write(FormatAirlineSkeleton(context.session.Airports)) && file->Commit()) return true;
+    if (file && file->Write(FormatAirlineSkeleton(context.session.scenery.Airports)) && file->Commit())
+        return true;
     ReportNotWritten(context, path);
     return false;
 }
@@ -75,14 +76,14 @@ void GenerateAirlineConfig(Context& context) {
     ForgetNotWritten(context);
     {
         const BusyMainWindow busy(context);
-        if (session.Airports.empty()) {
+        if (session.scenery.Airports.empty()) {
             OpenProgress(context, "Getting FS2002 Scenery...", 1, 0);
             ReadScenery(session, context.services);
             context.services.progress.Close();
         }
-        if (!session.Airports.empty()) written = WriteSkeleton(context);
+        if (!session.scenery.Airports.empty()) written = WriteSkeleton(context);
     }
-    if (session.Airports.empty()) {
+    if (session.scenery.Airports.empty()) {
         ShowMessage(messages, "Unable to get FS Scenery.", kMarkExclamation, &context.forms.frmMain);
     } else if (written) {
         ShowMessage(messages, "Successfully generated 'New ORLO_AL.CFG'.", kMarkInformation,

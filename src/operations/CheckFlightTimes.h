@@ -14,7 +14,7 @@ struct FlightTimesCheck {
 
 // Whether the round fits into its period, every departure comes after the arrival before it, and each time on
 // the ground, that between two rounds too, is at least `minimum` minutes and at most `maximum` hours
-// (Session::TATime and MaxTATime). A time that can't be read takes part in no step; the rest is measured.
+// (Switches::TATime and MaxTATime). A time that can't be read takes part in no step; the rest is measured.
 FlightTimesCheck CheckFlightTimes(const FlightView& flight, std::int32_t minimum, std::int32_t maximum);
 FlightTimesCheck CheckFlightTimes(const Flight& flight, std::int32_t minimum, std::int32_t maximum);
 

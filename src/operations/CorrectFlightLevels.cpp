@@ -6,42 +6,17 @@
 #include "core/CodeNumbers.h"
 #include "operations/PlanCorrection.h"
 #include "simulator/FlightLevelMaths.h"
+#include "simulator/MatchedAircraft.h"
 #include "simulator/PlanPositions.h"
-#include "simulator/TitleIndex.h"
 
 namespace orlo {
 namespace {
 
-// What the installed aircraft of the plan can fly.
-class InstalledLimits {
-  public:
-    explicit InstalledLimits(const Session& session) : index_(InstalledPlacesByNumber(session)) {
-        limits_.reserve(session.FSAircrafts.size());
-        for (const FSAircraft& aircraft : session.FSAircrafts) {
-            limits_.push_back({aircraft.MinFL, aircraft.MaxFL});
-        }
-    }
-
-    // Null when no aircraft of that number is installed.
-    const LevelLimits* Find(std::string_view acNumber) {
-        const std::int32_t place = places_.Get(acNumber, [this](std::string_view number) {
-            const std::int32_t* found = index_.Find(number);
-            return found == nullptr ? -1 : *found;
-        });
-        return place < 0 ? nullptr : &limits_[static_cast<std::size_t>(place)];
-    }
-
-  private:
-    KeyedIndex<std::int32_t> index_;
-    CodeMemo places_;
-    std::vector<LevelLimits> limits_;  // one an installed aircraft
-};
-
 // Draws the levels of one flight after the other.
 class LevelDrawer {
   public:
-    LevelDrawer(const Session& session, RandomSource& random)
-        : rules_(session.FlightLevelRules), positions_(session), random_(random) {}
+    LevelDrawer(const Plan& plan, const std::vector<FlightLevelRule>& rules, RandomSource& random)
+        : rules_(rules), positions_(plan), random_(random) {}
 
     // One level a leg, in the order of the legs; they hold until the next draw.
     const std::vector<std::string>& Draw(const FlightView& flight, LevelLimits limits) {
@@ -84,19 +59,24 @@ class LevelDrawer {
 };
 
 void CorrectLevelsOfPlan(Context& context) {
-    CorrectFlightLevels(context.session, context.services.random);
+    CorrectFlightLevels(context.session.plan, context.session.fleet, context.session.rules.FlightLevelRules,
+                        context.services.random);
 }
 
 }  // namespace
 
-void CorrectFlightLevels(Session& session, RandomSource& random) {
-    InstalledLimits installed(session);
-    LevelDrawer drawer(session, random);
-    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
-        const LevelLimits* limits = installed.Find(flight.ACNumber);
-        if (limits == nullptr) return false;
+void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<FlightLevelRule>& rules,
+                         RandomSource& random) {
+    const MatchedAircraft matched(plan, fleet);
+    CodeMemo installed;
+    LevelDrawer drawer(plan, rules, random);
+    plan.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
+        const std::int32_t place = installed.Get(
+            flight.ACNumber, [&](std::string_view number) { return matched.PlaceNoCase(number); });
+        if (place < 0) return false;
+        const FSAircraft& aircraft = fleet.FSAircrafts[static_cast<std::size_t>(place)];
         changed = flight;
-        const std::vector<std::string>& levels = drawer.Draw(flight, *limits);
+        const std::vector<std::string>& levels = drawer.Draw(flight, {aircraft.MinFL, aircraft.MaxFL});
         for (std::size_t leg = 0; leg < levels.size(); ++leg) changed.Legs[leg].FlightLevel = levels[leg];
         return true;
     });

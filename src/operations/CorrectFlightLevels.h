@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "mainwindow/Context.h"
 
 namespace orlo {
@@ -7,7 +9,8 @@ namespace orlo {
 // Gives every leg of every flight, removed ones too, a level drawn from those that suit its route and
 // aircraft: legs from the second to the last, then the first. A flight whose aircraft isn't installed keeps
 // its levels.
-void CorrectFlightLevels(Session& session, RandomSource& random);
+void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<FlightLevelRule>& rules,
+                         RandomSource& random);
 
 // The tool "Correct Flight Levels".
 void OnCorrectFlightLevels(Context& context);

@@ -95,7 +95,7 @@ class MovedTimes {
 };
 
 void CorrectTimesOfPlan(Context& context) {
-    CorrectFlightTimes(context.session);
+    CorrectFlightTimes(context.session.plan, context.session.switches);
 }
 
 }  // namespace
@@ -110,11 +110,11 @@ std::string_view CorrectTimes(FlightTimes& times, std::int32_t minimum, std::int
     return ShortestPeriod(tightened, minimumMinutes).value_or(kLongestRound);
 }
 
-void CorrectFlightTimes(Session& session) {
+void CorrectFlightTimes(Plan& plan, const Switches& switches) {
     MovedTimes moved;
-    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
+    plan.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
         FlightTimes times(flight);
-        const std::string_view period = CorrectTimes(times, session.TATime, session.MaxTATime);
+        const std::string_view period = CorrectTimes(times, switches.TATime, switches.MaxTATime);
         const bool periodStays = times.Weekly() || period == flight.Period;
         if (periodStays && !AnyMoved(times)) return false;
         changed = flight;

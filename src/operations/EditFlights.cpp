@@ -6,8 +6,8 @@
 #include "editors/FlightEditor.h"
 #include "mainwindow/BulkOperation.h"
 #include "mainwindow/PlanViews.h"
-#include "operations/MatchedAircraft.h"
 #include "operations/SearchRows.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 namespace {
@@ -25,24 +25,25 @@ Leg NewLeg(std::string_view time, const std::string& destination) {
 
 Flight NewFlight(const Session& session) {
     Flight flight;
-    if (!session.PlanAircrafts.empty()) flight.ACNumber = session.PlanAircrafts.front().ACNumber;
+    if (!session.plan.PlanAircrafts.empty()) flight.ACNumber = session.plan.PlanAircrafts.front().ACNumber;
     flight.TailNumber = "N700MS";
     flight.Percent = "50%";
     flight.Period = "24Hr";
     flight.FlightType = "IFR";
-    const std::string airport = session.PlanAirports.empty() ? "" : session.PlanAirports.front().ICAO;
+    const std::string airport =
+        session.plan.PlanAirports.empty() ? "" : session.plan.PlanAirports.front().ICAO;
     flight.Legs = {NewLeg("00:00:00", airport), NewLeg("01:00:00", airport)};
     return flight;
 }
 
 // Behind the results; one that was given up before makes way.
 std::int32_t AppendNewResult(Session& session) {
-    const std::int32_t place = session.SearchResultCount;
-    session.SearchResults.Truncate(place);
-    session.SearchResults.Append(NewFlight(session));
-    session.SearchResultIndex.resize(static_cast<std::size_t>(place));
-    session.SearchResultIndex.push_back(0);
-    ++session.SearchResultCount;
+    const std::int32_t place = session.search.SearchResultCount;
+    session.search.SearchResults.Truncate(place);
+    session.search.SearchResults.Append(NewFlight(session));
+    session.search.SearchResultIndex.resize(static_cast<std::size_t>(place));
+    session.search.SearchResultIndex.push_back(0);
+    ++session.search.SearchResultCount;
     return place;
 }
 
@@ -50,17 +51,18 @@ std::int32_t AppendNewResult(Session& session) {
 SearchRows& RowsOf(Context& context) {
     ListView& list = context.forms.frmMain.lvExPreview;
     if (list.Source() == nullptr) {
-        const auto rows = std::make_shared<SearchRows>(FlightList(), std::vector<std::string>(),
-                                                       MatchedAircraft(context.session),
-                                                       context.forms.frmMain.cmExZone.Text());
+        const auto rows =
+            std::make_shared<SearchRows>(FlightList(), std::vector<std::string>(),
+                                         MatchedAircraft(context.session.plan, context.session.fleet),
+                                         context.forms.frmMain.cmExZone.Text());
         list.ShowSource(rows, 0);
     }
     return static_cast<SearchRows&>(*list.Source());
 }
 
 void ShowResult(Context& context, std::int32_t place) {
-    RowsOf(context).SetFlight(place, context.session.SearchResults.Unpack(place),
-                              MatchedAircraft(context.session));
+    RowsOf(context).SetFlight(place, context.session.search.SearchResults.Unpack(place),
+                              MatchedAircraft(context.session.plan, context.session.fleet));
 }
 
 void ShowNewResult(Context& context, std::int32_t place) {
@@ -73,8 +75,8 @@ void ShowNewResult(Context& context, std::int32_t place) {
 }
 
 void MarkRemoved(Session& session, std::int32_t result) {
-    session.SearchResults.SetRemoved(result, true);
-    session.Flights.SetRemoved(session.SearchResultIndex[static_cast<std::size_t>(result)], true);
+    session.search.SearchResults.SetRemoved(result, true);
+    session.plan.Flights.SetRemoved(session.search.SearchResultIndex[static_cast<std::size_t>(result)], true);
 }
 
 }  // namespace
@@ -83,11 +85,11 @@ void EditFlight(Context& context) {
     Session& session = context.session;
     ListView& list = context.forms.frmMain.lvExPreview;
     const std::int32_t place = list.current;
-    if (place < 0 || place >= session.SearchResultCount) return;
+    if (place < 0 || place >= session.search.SearchResultCount) return;
     TakeFirstUndoSnapshot(context);
     if (EditFlight(context, place, true, 0).empty()) return;
-    session.Flights.Replace(session.SearchResultIndex[static_cast<std::size_t>(place)],
-                            session.SearchResults.Unpack(place));
+    session.plan.Flights.Replace(session.search.SearchResultIndex[static_cast<std::size_t>(place)],
+                                 session.search.SearchResults.Unpack(place));
     ShowResult(context, place);
     list.SourceChanged();
     MarkPlanModified(context);
@@ -102,11 +104,11 @@ void AddFlight(Context& context) {
         place = AppendNewResult(session);
     }
     if (EditFlight(context, place, true, 0).empty()) {
-        --session.SearchResultCount;
+        --session.search.SearchResultCount;
         return;
     }
-    session.SearchResultIndex.back() = session.FlightCount();
-    session.Flights.Append(session.SearchResults.Unpack(place));
+    session.search.SearchResultIndex.back() = session.plan.FlightCount();
+    session.plan.Flights.Append(session.search.SearchResults.Unpack(place));
     ShowNewResult(context, place);
     MarkPlanModified(context);
 }
@@ -121,7 +123,7 @@ void DeleteFlights(Context& context) {
     TakeFirstUndoSnapshot(context);
     const std::vector<std::int32_t> places = form.lvExPreview.SelectedPlaces();
     for (const std::int32_t place : places) {
-        if (place < session.SearchResultCount) MarkRemoved(session, place);
+        if (place < session.search.SearchResultCount) MarkRemoved(session, place);
     }
     {
         const FrozenForm frozen(form);

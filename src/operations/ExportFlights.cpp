@@ -26,7 +26,7 @@ std::string AskForExportPath(Context& context, std::string_view title, std::stri
 void WriteExport(Context& context, const std::string& path, const FlightList& flights) {
     ForgetNotWritten(context);
     const PlanWriteResult written =
-        WriteFlightplan(context.services.files, path, flights, context.session.BackupPlan);
+        WriteFlightplan(context.services.files, path, flights, context.session.switches.BackupPlan);
     ReportPlanNotWritten(context, path, written);
 }
 
@@ -37,8 +37,8 @@ void SayExported(Context& context, std::int32_t count) {
 
 std::int32_t CountKept(const Session& session) {
     std::int32_t count = 0;
-    for (std::int32_t i = 0; i < session.SearchResultCount; ++i) {
-        if (!session.SearchResults.Removed(i)) ++count;
+    for (std::int32_t i = 0; i < session.search.SearchResultCount; ++i) {
+        if (!session.search.SearchResults.Removed(i)) ++count;
     }
     return count;
 }
@@ -46,15 +46,15 @@ std::int32_t CountKept(const Session& session) {
 FlightList Remainder(const Session& session) {
     std::vector<std::int32_t> rest;
     std::size_t next = 0;
-    const auto resultCount = static_cast<std::size_t>(session.SearchResultCount);
-    for (std::int32_t place = 0; place < session.FlightCount(); ++place) {
-        if (next < resultCount && session.SearchResultIndex[next] == place) {
+    const auto resultCount = static_cast<std::size_t>(session.search.SearchResultCount);
+    for (std::int32_t place = 0; place < session.plan.FlightCount(); ++place) {
+        if (next < resultCount && session.search.SearchResultIndex[next] == place) {
             ++next;
         } else {
             rest.push_back(place);
         }
     }
-    return session.Flights.Selection(rest);
+    return session.plan.Flights.Selection(rest);
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ void ExportFlights(Context& context) {
     if (path.empty()) return;
     {
         const BusyMainWindow busy(context);
-        WriteExport(context, path, context.session.SearchResults);
+        WriteExport(context, path, context.session.search.SearchResults);
     }
     SayExported(context, CountKept(context.session));
 }
@@ -77,7 +77,7 @@ void ExportRemainder(Context& context) {
         const BusyMainWindow busy(context);
         WriteExport(context, path, Remainder(context.session));
     }
-    SayExported(context, context.session.FlightCount() - context.session.SearchResultCount);
+    SayExported(context, context.session.plan.FlightCount() - context.session.search.SearchResultCount);
 }
 
 }  // namespace orlo

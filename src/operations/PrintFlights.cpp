@@ -1,11 +1,10 @@
 #include "operations/PrintFlights.h"
 
 #include "core/Application.h"
-#include "core/KeyedIndex.h"
 #include "core/Text.h"
 #include "mainwindow/BulkOperation.h"
 #include "mainwindow/PrintedLeg.h"
-#include "operations/MatchedAircraft.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 namespace {
@@ -16,11 +15,8 @@ constexpr std::int32_t kFlightsBetweenPaints = 1000;
 // Writes flights as they are printed.
 class FlightPrinter {
   public:
-    explicit FlightPrinter(const Session& session) : matched_(session), positions_(session) {
-        for (const MatchedAircraft::Entry& entry : matched_.Entries()) {
-            byNumber_.Add(entry.acNumber, &matched_.At(entry.place));
-        }
-    }
+    explicit FlightPrinter(const Session& session)
+        : matched_(session.plan, session.fleet), positions_(session.plan) {}
 
     void Append(const FlightView& flight, std::string& text) const {
         AppendHead(flight, text);
@@ -35,12 +31,12 @@ class FlightPrinter {
   private:
     void AppendHead(const FlightView& flight, std::string& text) const {
         text.append(flight.ACNumber);
-        const FSAircraft* const* entry = byNumber_.Find(flight.ACNumber);
+        const FSAircraft* entry = matched_.FindNoCase(flight.ACNumber);
         if (entry == nullptr) {
             text.append(" # NOT FOUND #");
         } else {
-            text.append(Concat(" ", (*entry)->Title));
-            if (!(*entry)->Airline.empty()) text.append(Concat(" (", (*entry)->Airline, ")"));
+            text.append(Concat(" ", entry->Title));
+            if (!entry->Airline.empty()) text.append(Concat(" (", entry->Airline, ")"));
         }
         text.append(Concat(" - ", flight.TailNumber, "/", flight.Percent, "/", flight.Period, "/",
                            flight.FlightType, kPrintedLineEnd));
@@ -48,12 +44,11 @@ class FlightPrinter {
 
     MatchedAircraft matched_;
     PlanPositions positions_;
-    KeyedIndex<const FSAircraft*> byNumber_;
 };
 
 std::string PrintedResults(Context& context, const FlightPrinter& printer) {
     const ListView& list = context.forms.frmMain.lvExPreview;
-    const FlightList& results = context.session.SearchResults;
+    const FlightList& results = context.session.search.SearchResults;
     std::string text;
     for (std::int32_t position = 0; position < list.Count(); ++position) {
         const std::int32_t place = list.PlaceAt(position);

@@ -7,14 +7,14 @@ namespace orlo {
 namespace {
 
 void RemoveMinusOfPlan(Context& context) {
-    RemoveMinusFromTailNumbers(context.session);
+    RemoveMinusFromTailNumbers(context.session.plan);
 }
 
 }  // namespace
 
-void RemoveMinusFromTailNumbers(Session& session) {
+void RemoveMinusFromTailNumbers(Plan& plan) {
     std::string tailNumber;
-    session.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
+    plan.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
         if (flight.TailNumber.find('-') == std::string_view::npos) return false;
         tailNumber = RemoveAll(flight.TailNumber, '-');
         changed = flight;

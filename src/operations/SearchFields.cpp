@@ -7,12 +7,12 @@ namespace orlo {
 FieldSearch::FieldSearch(const SearchFields& fields, const Session& session, const MatchedAircraft& matched)
     : fields_(fields), session_(session), matched_(matched) {
     if (fields.AskForScenery()) {
-        airports_.Reserve(session.Airports.size());
+        airports_.Reserve(session.scenery.Airports.size());
         std::int32_t place = 0;
-        for (const AirportRecord& airport : session.Airports) airports_.Add(airport.ICAO, place++);
+        for (const AirportRecord& airport : session.scenery.Airports) airports_.Add(airport.ICAO, place++);
     }
     if (fields.Airline.empty()) return;
-    for (const PlanAircraft& aircraft : session.PlanAircrafts) {
+    for (const PlanAircraft& aircraft : session.plan.PlanAircrafts) {
         const FSAircraft* entry = matched.Find(aircraft.ACNumber);
         if (entry == nullptr || entry->Airline.empty()) continue;
         airlineFits_.Add(aircraft.ACNumber, ContainsNoCase(entry->Airline, fields.Airline));
@@ -48,7 +48,7 @@ bool FieldSearch::PassesAtRegion(std::string_view code, const std::string& part,
                                  std::string AirportRecord::*field) const {
     const std::int32_t* place = airports_.Find(code);
     return place != nullptr &&
-           ContainsNoCase(session_.Airports[static_cast<std::size_t>(*place)].*field, part);
+           ContainsNoCase(session_.scenery.Airports[static_cast<std::size_t>(*place)].*field, part);
 }
 
 // The last leg leads back to the start and is not tested.

@@ -8,7 +8,7 @@
 #include "core/FlightList.h"
 #include "core/KeyedIndex.h"
 #include "core/Session.h"
-#include "operations/MatchedAircraft.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 

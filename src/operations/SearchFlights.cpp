@@ -10,13 +10,12 @@
 #include "mainwindow/PlanViews.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
-#include "operations/MatchedAircraft.h"
 #include "operations/SearchFields.h"
 #include "operations/SearchRows.h"
 #include "simulator/FlightLevelMaths.h"
+#include "simulator/MatchedAircraft.h"
 #include "simulator/PlanPositions.h"
 #include "simulator/Scenery.h"
-#include "simulator/TitleIndex.h"
 
 namespace orlo {
 namespace {
@@ -57,8 +56,8 @@ SearchFields ReadFields(const Context& context, std::string_view departure, std:
         return combo.index < 0 ? -1 : combo.entries[static_cast<std::size_t>(combo.index)].itemData;
     };
     const std::int32_t aircraft = itemData(form.cmExportAircraft);
-    if (form.cmExportAircraft.index != 0 && aircraft >= 0 && aircraft < session.PlanAircraftCount()) {
-        fields.ACNumber = session.PlanAircrafts[static_cast<std::size_t>(aircraft)].ACNumber;
+    if (form.cmExportAircraft.index != 0 && aircraft >= 0 && aircraft < session.plan.PlanAircraftCount()) {
+        fields.ACNumber = session.plan.PlanAircrafts[static_cast<std::size_t>(aircraft)].ACNumber;
     }
     fields.Class = itemData(form.cmExClass);
     return fields;
@@ -69,13 +68,12 @@ SearchFields ReadFields(const Context& context, std::string_view departure, std:
 class LevelSearch {
   public:
     explicit LevelSearch(const Session& session)
-        : session_(session), positions_(session), installed_(InstalledPlacesByNumber(session)) {}
+        : session_(session), positions_(session.plan), matched_(session.plan, session.fleet) {}
 
     bool HasWrongLevel(const FlightView& flight) {
-        const std::int32_t* place = installed_.Find(flight.ACNumber);
-        if (place == nullptr || flight.LegCount == 0) return false;
-        const FSAircraft& aircraft = session_.FSAircrafts[static_cast<std::size_t>(*place)];
-        const LevelLimits limits{aircraft.MinFL, aircraft.MaxFL};
+        const FSAircraft* aircraft = matched_.FindNoCase(flight.ACNumber);
+        if (aircraft == nullptr || flight.LegCount == 0) return false;
+        const LevelLimits limits{aircraft->MinFL, aircraft->MaxFL};
         PlanPositions::End from = Find(flight.StartAirport());
         for (const LegView& leg : flight) {
             const PlanPositions::End to = Find(leg.Destination);
@@ -94,7 +92,7 @@ class LevelSearch {
                  LevelLimits limits) const {
         if (route.Distance == -1 || route.Course == -1) return false;
         const auto level = ParseWholeNumber(leg.FlightLevel);
-        return !level || !CheckFlightLevel(session_.FlightLevelRules, flight.FlightType, route.Distance,
+        return !level || !CheckFlightLevel(session_.rules.FlightLevelRules, flight.FlightType, route.Distance,
                                            route.Course, limits, *level)
                               .Right;
     }
@@ -102,14 +100,14 @@ class LevelSearch {
     const Session& session_;
     PlanPositions positions_;
     CodeMemo places_;
-    KeyedIndex<std::int32_t> installed_;
+    MatchedAircraft matched_;
 };
 
 // The codes of the legs that the plan's airports lack, joined; nothing without one.
 std::optional<std::string> UnknownAirports(const Session& session, const FlightView& flight) {
     std::optional<std::string> codes;
     for (const LegView& leg : flight) {
-        if (session.PlanAirportIndex.Contains(leg.Destination)) continue;
+        if (session.plan.PlanAirportIndex.Contains(leg.Destination)) continue;
         if (codes) {
             codes->append(" | ").append(leg.Destination);
         } else {
@@ -122,12 +120,12 @@ std::optional<std::string> UnknownAirports(const Session& session, const FlightV
 // Walks the flights that are not removed and takes those that match.
 template <typename Matches>
 void CollectResults(Session& session, Matches matches) {
-    for (std::int32_t place = 0; place < session.FlightCount(); ++place) {
-        if (session.Flights.Removed(place) || !matches(place, session.Flights.At(place))) continue;
-        session.SearchResultIndex.push_back(place);
+    for (std::int32_t place = 0; place < session.plan.FlightCount(); ++place) {
+        if (session.plan.Flights.Removed(place) || !matches(place, session.plan.Flights.At(place))) continue;
+        session.search.SearchResultIndex.push_back(place);
     }
-    session.SearchResults = session.Flights.Selection(session.SearchResultIndex);
-    session.SearchResultCount = session.SearchResults.Count();
+    session.search.SearchResults = session.plan.Flights.Selection(session.search.SearchResultIndex);
+    session.search.SearchResultCount = session.search.SearchResults.Count();
 }
 
 void FillList(Context& context, const MatchedAircraft& matched, bool withErrors) {
@@ -141,8 +139,8 @@ void FillList(Context& context, const MatchedAircraft& matched, bool withErrors)
     } else {
         list.RemoveColumn(kErrorColumn);
     }
-    const auto rows = std::make_shared<SearchRows>(session.SearchResults, session.SearchResultText, matched,
-                                                   form.cmExZone.Text());
+    const auto rows = std::make_shared<SearchRows>(
+        session.search.SearchResults, session.search.SearchResultText, matched, form.cmExZone.Text());
     list.ShowSource(rows, rows->Count());
     list.SwitchSorting(true);
 }
@@ -173,7 +171,7 @@ void SearchWrongLevels(Session& session, SearchProgress& progress) {
 
 void SearchDuplicates(Session& session, SearchProgress& progress) {
     progress.Stage("Preparing Flights...", 1);
-    const std::vector<std::int32_t> first = FirstOfEqualFlights(session.Flights);
+    const std::vector<std::int32_t> first = FirstOfEqualFlights(session.plan.Flights);
     progress.Stage(kSearching, 2);
     CollectResults(session, [&](std::int32_t place, const FlightView&) {
         return first[static_cast<std::size_t>(place)] != place;
@@ -182,8 +180,9 @@ void SearchDuplicates(Session& session, SearchProgress& progress) {
 
 void SearchWrongTimes(Session& session) {
     CollectResults(session, [&](std::int32_t, const FlightView& flight) {
-        FlightTimesCheck check = CheckFlightTimes(flight, session.TATime, session.MaxTATime);
-        if (!check.Right) session.SearchResultText.push_back(std::move(check.Text));
+        FlightTimesCheck check =
+            CheckFlightTimes(flight, session.switches.TATime, session.switches.MaxTATime);
+        if (!check.Right) session.search.SearchResultText.push_back(std::move(check.Text));
         return !check.Right;
     });
 }
@@ -191,7 +190,7 @@ void SearchWrongTimes(Session& session) {
 void SearchUnknownAirports(Session& session) {
     CollectResults(session, [&](std::int32_t, const FlightView& flight) {
         std::optional<std::string> codes = UnknownAirports(session, flight);
-        if (codes) session.SearchResultText.push_back(std::move(*codes));
+        if (codes) session.search.SearchResultText.push_back(std::move(*codes));
         return codes.has_value();
     });
 }
@@ -231,9 +230,9 @@ bool Search(Context& context, SearchProgress& progress, std::string_view departu
 
 void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode) {
     BusyMainWindow busy(context);
-    context.session.ClearSearch();
+    context.session.search = {};
     SearchProgress progress(context);
-    const MatchedAircraft matched(context.session);
+    const MatchedAircraft matched(context.session.plan, context.session.fleet);
     if (!Search(context, progress, departure, leg, mode, matched)) return busy.StayBusy();
 
     progress.Stage("Filling View...", 3);

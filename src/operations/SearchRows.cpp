@@ -53,9 +53,9 @@ SearchRows::SearchRows(FlightList flights, std::vector<std::string> errors, cons
     shown_.push_back({std::string(kNotFound), {}});
     // Many numbers may share one installed aircraft, whose texts are as long as its file has them.
     std::unordered_map<std::int32_t, std::int32_t> shownOfPlace = {{-1, 0}};
-    for (const MatchedAircraft::Entry& entry : matched.Entries()) {
-        if (!shownOfPlace.try_emplace(entry.place, static_cast<std::int32_t>(shown_.size())).second) continue;
-        shown_.push_back({matched.At(entry.place).Airline, matched.At(entry.place).Title});
+    for (const std::int32_t place : matched.Places()) {
+        if (!shownOfPlace.try_emplace(place, static_cast<std::int32_t>(shown_.size())).second) continue;
+        shown_.push_back({matched.At(place).Airline, matched.At(place).Title});
     }
     aircraftOfRow_.reserve(static_cast<std::size_t>(flights_.Count()));
     for (std::int32_t row = 0; row < flights_.Count(); ++row) {

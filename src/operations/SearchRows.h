@@ -8,7 +8,7 @@
 
 #include "core/FlightList.h"
 #include "forms/RowSource.h"
-#include "operations/MatchedAircraft.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 

@@ -111,8 +111,8 @@ void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
         form->frozen = 0;
     }
     main.HandlingNodeCheck = false;
-    main.tvShuffleAircraft.visible = context_.session.PlanLoaded;
-    main.tvMoveAircrafts.visible = context_.session.PlanLoaded;
+    main.tvShuffleAircraft.visible = context_.session.plan.PlanLoaded;
+    main.tvMoveAircrafts.visible = context_.session.plan.PlanLoaded;
     main.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 

@@ -28,7 +28,7 @@ void OnExportZone(Context& context) {
         static_cast<SearchRows*>(rows)->SetZone(zone);
         form.lvExPreview.SourceChanged();
     }
-    context.session.EXZone = zone;
+    context.session.switches.EXZone = zone;
 }
 
 void OnExportKey(Context& context, Event& event) {

@@ -17,18 +17,18 @@ void OnSwitch(Context& context, Event& event) {
     };
     MainForm& form = context.forms.frmMain;
     Session& session = context.session;
-    const std::array<Tick, 6> ticks = {{{form.mnuToolsShowCompiler, session.ShowCompiler},
-                                        {form.mnuToolsDebug, session.DebugOn},
-                                        {form.mnuToolsUndoOn, session.Undo},
-                                        {form.mnuToolsACCheck, session.ACCheck},
-                                        {form.mnuToolsBackupPlan, session.BackupPlan},
-                                        {form.mnuToolsBackupAircraft, session.BackupAircraft}}};
+    const std::array<Tick, 6> ticks = {{{form.mnuToolsShowCompiler, session.switches.ShowCompiler},
+                                        {form.mnuToolsDebug, session.switches.DebugOn},
+                                        {form.mnuToolsUndoOn, session.switches.Undo},
+                                        {form.mnuToolsACCheck, session.switches.ACCheck},
+                                        {form.mnuToolsBackupPlan, session.switches.BackupPlan},
+                                        {form.mnuToolsBackupAircraft, session.switches.BackupAircraft}}};
     for (const Tick& tick : ticks) {
         if (event.control != &tick.entry) continue;
         tick.value = !tick.value;
         tick.entry.checked = tick.value;
     }
-    if (!session.Undo) DiscardUndoSnapshot(context);
+    if (!session.switches.Undo) DiscardUndoSnapshot(context);
 }
 
 void OnTurnAround(Context& context, Event& event) {
@@ -54,7 +54,7 @@ void ChooseSimulatorFolder(Context& context) {
 
 void DeleteSceneryCache(Context& context) {
     context.services.files.DeleteFile(JoinPath(context.session.ProgramFolder, kAFDCacheName));
-    context.session.Airports = {};
+    context.session.scenery.Airports = {};
 }
 
 }  // namespace orlo

@@ -1,7 +1,5 @@
 #include "shell/OpenPlan.h"
 
-#include <algorithm>
-
 #include "core/Application.h"
 #include "core/FlightplanFile.h"
 #include "core/PlanSideFiles.h"
@@ -15,7 +13,7 @@
 #include "shell/ExportTab.h"
 #include "shell/Tabs.h"
 #include "simulator/AircraftScan.h"
-#include "simulator/TitleIndex.h"
+#include "simulator/MatchedAircraft.h"
 
 namespace orlo {
 namespace {
@@ -29,7 +27,7 @@ std::string ChoosePlan(Context& context, std::string path) {
         FileDialog dialog;
         dialog.title = "Open Flightplan";
         dialog.filter = kTextFileFilter;
-        dialog.startFolder = context.session.FlightplanPath;
+        dialog.startFolder = context.session.plan.FlightplanPath;
         dialog.fileMustExist = true;
         path = services.windows.ShowOpenDialog(dialog);
         if (path.empty()) return {};
@@ -46,12 +44,11 @@ void EraseOldPlan(Context& context) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
     DiscardUndoSnapshot(context);
-    session.Flights.Clear();
-    session.PlanAircrafts.clear();
-    session.PlanAirports.clear();
-    session.PlanAirportIndex.Clear();
-    session.FSAircrafts.clear();
-    session.ClearSearch();
+    Plan empty;
+    empty.FlightplanPath = session.plan.FlightplanPath;
+    session.plan = std::move(empty);
+    session.fleet = {};
+    session.search = {};
     form.lvExPreview.Clear();
 
     const FrozenForm frozen(form);
@@ -66,29 +63,29 @@ void EraseOldPlan(Context& context) {
 std::string_view ReadPlan(Context& context) {
     Session& session = context.session;
     NextProgress(context, "Reading Airport configuration...", 2);
-    ReadPlanAirports(session, context.services);
-    if (session.PlanAirportCount() == 0) return "airports";
+    ReadPlanAirports(session.plan, context.services);
+    if (session.plan.PlanAirportCount() == 0) return "airports";
 
     NextProgress(context, "Reading Aircraft configuration...", 3);
-    ReadPlanAircraft(session, context.services);
-    if (session.PlanAircraftCount() == 0) return "aircraft";
+    ReadPlanAircraft(session.plan, context.services);
+    if (session.plan.PlanAircraftCount() == 0) return "aircraft";
 
     NextProgress(context, "Reading Flightplan...", 4);
-    ReadFlightplan(session, context.services);
-    if (session.FlightCount() == 0) return "flights";
+    ReadFlightplan(session.plan, context.services);
+    if (session.plan.FlightCount() == 0) return "flights";
 
     context.services.progress.SetMax(kOpenStages);
     NextProgress(context, "Detecting FS2002 Aircraft...", 5);
-    ScanAircraft(session, context.services.files, SimulatorFolder(session, context.services.machineSettings),
-                 true);
-    return session.FSAircraftCount() == 0 ? "aircraft of the simulator" : std::string_view();
+    ScanAircraft(session.fleet, session.rules.Classes, context.services.files,
+                 SimulatorFolder(session, context.services.machineSettings), true);
+    return session.fleet.FSAircraftCount() == 0 ? "aircraft of the simulator" : std::string_view();
 }
 
 void TellNotLoaded(Context& context, std::string_view missing) {
     MainForm& form = context.forms.frmMain;
     RefreshShuffleLabel(form);
     form.sbMain.text =
-        Concat("Flightplan not loaded: no ", missing, " found [", context.session.FlightplanPath, "].");
+        Concat("Flightplan not loaded: no ", missing, " found [", context.session.plan.FlightplanPath, "].");
 }
 
 void ShowPlan(Context& context) {
@@ -102,10 +99,10 @@ void ShowPlan(Context& context) {
     EnablePlanCommands(context);
     form.tvShuffleAircraft.visible = true;
     form.tvMoveAircrafts.visible = true;
-    session.PlanLoaded = true;
+    session.plan.PlanLoaded = true;
     RefreshShuffleLabel(form);
-    form.sbMain.text =
-        Concat("Flightplan loaded with ", session.FlightCount(), " flights [", session.FlightplanPath, "].");
+    form.sbMain.text = Concat("Flightplan loaded with ", session.plan.FlightCount(), " flights [",
+                              session.plan.FlightplanPath, "].");
 }
 
 void OfferMissingAircraft(Context& context) {
@@ -119,13 +116,12 @@ void OfferMissingAircraft(Context& context) {
 }  // namespace
 
 bool AllPlanAircraftInstalled(const Session& session) {
-    const std::vector<std::int32_t> places = InstalledPlaces(session);
-    return std::find(places.begin(), places.end(), -1) == places.end();
+    return MatchedAircraft(session.plan, session.fleet).AllInstalled();
 }
 
 void OpenFlightplan(Context& context, std::string path) {
     Session& session = context.session;
-    if (session.PlanModified) {
+    if (session.plan.PlanModified) {
         const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return;
         if (answer == MessageAnswer::Yes) SaveFlightplan(context);
@@ -133,9 +129,9 @@ void OpenFlightplan(Context& context, std::string path) {
     path = ChoosePlan(context, std::move(path));
     if (path.empty()) return;
 
-    session.FlightplanPath = context.services.files.FullPath(path);
-    session.PlanLoaded = false;
-    session.PlanModified = false;
+    session.plan.FlightplanPath = context.services.files.FullPath(path);
+    session.plan.PlanLoaded = false;
+    session.plan.PlanModified = false;
     DisablePlanCommands(context);
     const BusyMainWindow busy(context);
     OpenProgress(context, "Cleaning Memory...", kOpenStages, 1);
@@ -146,9 +142,9 @@ void OpenFlightplan(Context& context, std::string path) {
         return;
     }
     ShowPlan(context);
-    const bool aircraftMissing = session.ACCheck && !AllPlanAircraftInstalled(session);
+    const bool aircraftMissing = session.switches.ACCheck && !AllPlanAircraftInstalled(session);
     context.services.progress.Close();
-    AddRecentFlightplan(context, session.FlightplanPath);
+    AddRecentFlightplan(context, session.plan.FlightplanPath);
     if (aircraftMissing) OfferMissingAircraft(context);
     ActivateTab(context);
 }

@@ -73,23 +73,25 @@ std::span<const TurnAroundLimit> MaximumTurnArounds() {
 }
 
 void SetTATime(Context& context, std::int32_t minutes) {
-    context.session.TATime = CheckLimit(context.forms.frmMain, kMinimumLimits, minutes);
+    context.session.switches.TATime = CheckLimit(context.forms.frmMain, kMinimumLimits, minutes);
 }
 
 void SetMaxTATime(Context& context, std::int32_t hours) {
-    context.session.MaxTATime = CheckLimit(context.forms.frmMain, kMaximumLimits, hours);
+    context.session.switches.MaxTATime = CheckLimit(context.forms.frmMain, kMaximumLimits, hours);
 }
 
 void ReadSwitches(Context& context) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
     const OwnSettings settings(context.services.userSettings, kSettings);
-    form.mnuToolsBackupPlan.checked = session.BackupPlan = settings.Boolean("BackupPlan", true);
-    form.mnuToolsBackupAircraft.checked = session.BackupAircraft = settings.Boolean("BackupAircraft", true);
-    form.mnuToolsDebug.checked = session.DebugOn = settings.Boolean("DebugOn", false);
-    form.mnuToolsShowCompiler.checked = session.ShowCompiler = settings.Boolean("ShowCompiler", false);
-    form.mnuToolsUndoOn.checked = session.Undo = settings.Boolean("Undo", true);
-    form.mnuToolsACCheck.checked = session.ACCheck = settings.Boolean("ACCheck", true);
+    form.mnuToolsBackupPlan.checked = session.switches.BackupPlan = settings.Boolean("BackupPlan", true);
+    form.mnuToolsBackupAircraft.checked = session.switches.BackupAircraft =
+        settings.Boolean("BackupAircraft", true);
+    form.mnuToolsDebug.checked = session.switches.DebugOn = settings.Boolean("DebugOn", false);
+    form.mnuToolsShowCompiler.checked = session.switches.ShowCompiler =
+        settings.Boolean("ShowCompiler", false);
+    form.mnuToolsUndoOn.checked = session.switches.Undo = settings.Boolean("Undo", true);
+    form.mnuToolsACCheck.checked = session.switches.ACCheck = settings.Boolean("ACCheck", true);
 
     form.ckOverwriteTailNumber.checked = settings.Boolean("GenerateTailNumber", true);
     form.ckRemoveMinus.checked = settings.Boolean("RemoveMinus", false);
@@ -101,12 +103,12 @@ void ReadSwitches(Context& context) {
     SetMaxTATime(context, ParseWholeNumber(settings.Text("MaxTATime", "24")).value_or(kNoTurnAroundLimit));
 
     const OwnSettings editor(context.services.userSettings, kEditorSettings);
-    session.CheckAircraftRange = editor.Boolean("CheckAircraftRange", true);
-    session.CheckFlightLevels = editor.Boolean("CheckFlightLevels", true);
-    session.CheckFlightTimes = editor.Boolean("CheckFlightTimes", true);
+    session.switches.CheckAircraftRange = editor.Boolean("CheckAircraftRange", true);
+    session.switches.CheckFlightLevels = editor.Boolean("CheckFlightLevels", true);
+    session.switches.CheckFlightTimes = editor.Boolean("CheckFlightTimes", true);
 
-    session.StartNumber = settings.Number("StartNumber", 1);
-    form.txtStartNumber.text = std::to_string(session.StartNumber);
+    session.switches.StartNumber = settings.Number("StartNumber", 1);
+    form.txtStartNumber.text = std::to_string(session.switches.StartNumber);
     form.txtStartNumber.selectAllRequest = true;
 }
 
@@ -125,11 +127,11 @@ void ReadZones(Context& context) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
     const OwnSettings settings(context.services.userSettings, kSettings);
-    session.TTZone = settings.Text("TTZone", "GMT");
-    session.EXZone = settings.Text("EXZone", "GMT");
-    session.FEditZone = settings.Text("FEditZone", "GMT");
-    form.cmTTZone.SelectText(session.TTZone);
-    form.cmExZone.SelectText(session.EXZone);
+    session.switches.TTZone = settings.Text("TTZone", "GMT");
+    session.switches.EXZone = settings.Text("EXZone", "GMT");
+    session.switches.FEditZone = settings.Text("FEditZone", "GMT");
+    form.cmTTZone.SelectText(session.switches.TTZone);
+    form.cmExZone.SelectText(session.switches.EXZone);
     form.cmTTDay.SelectFirst();
     form.txtTTStart.text = "00:00:00";
     form.txtTTEnd.text = "23:59:59";
@@ -158,20 +160,20 @@ void WriteSettings(Context& context) {
     const MainForm& form = context.forms.frmMain;
     OwnSettings settings(context.services.userSettings, kSettings);
     WriteWindowPlace(context, settings);
-    settings.SaveNumber("TATime", session.TATime);
-    settings.SaveNumber("MaxTATime", session.MaxTATime);
-    settings.SaveBoolean("BackupPlan", session.BackupPlan);
-    settings.SaveBoolean("BackupAircraft", session.BackupAircraft);
-    settings.SaveNumber("StartNumber", session.StartNumber);
-    settings.SaveBoolean("DebugOn", session.DebugOn);
-    settings.SaveBoolean("ShowCompiler", session.ShowCompiler);
-    settings.SaveBoolean("Undo", session.Undo);
-    settings.SaveBoolean("ACCheck", session.ACCheck);
+    settings.SaveNumber("TATime", session.switches.TATime);
+    settings.SaveNumber("MaxTATime", session.switches.MaxTATime);
+    settings.SaveBoolean("BackupPlan", session.switches.BackupPlan);
+    settings.SaveBoolean("BackupAircraft", session.switches.BackupAircraft);
+    settings.SaveNumber("StartNumber", session.switches.StartNumber);
+    settings.SaveBoolean("DebugOn", session.switches.DebugOn);
+    settings.SaveBoolean("ShowCompiler", session.switches.ShowCompiler);
+    settings.SaveBoolean("Undo", session.switches.Undo);
+    settings.SaveBoolean("ACCheck", session.switches.ACCheck);
     WritePaths(context, kRecentFlightplans, session.RecentFlightplans);
     WritePaths(context, kRecentProjects, session.RecentProjects);
-    settings.Save("TTZone", session.TTZone);
-    settings.Save("EXZone", session.EXZone);
-    settings.Save("FEditZone", session.FEditZone);
+    settings.Save("TTZone", session.switches.TTZone);
+    settings.Save("EXZone", session.switches.EXZone);
+    settings.Save("FEditZone", session.switches.FEditZone);
     settings.SaveBoolean("GenerateTailNumber", form.ckOverwriteTailNumber.checked);
     settings.SaveBoolean("RemoveMinus", form.ckRemoveMinus.checked);
     settings.SaveBoolean("CheckFL", form.ckCheckFL.checked);
@@ -179,9 +181,9 @@ void WriteSettings(Context& context) {
     settings.SaveBoolean("CheckVisitedAirports", form.ckCheckVisitedAirports.checked);
     if (!session.SimulatorFolder.empty()) settings.Save(kSimulatorFolder, session.SimulatorFolder);
     OwnSettings editor(context.services.userSettings, kEditorSettings);
-    editor.SaveBoolean("CheckAircraftRange", session.CheckAircraftRange);
-    editor.SaveBoolean("CheckFlightLevels", session.CheckFlightLevels);
-    editor.SaveBoolean("CheckFlightTimes", session.CheckFlightTimes);
+    editor.SaveBoolean("CheckAircraftRange", session.switches.CheckAircraftRange);
+    editor.SaveBoolean("CheckFlightLevels", session.switches.CheckFlightLevels);
+    editor.SaveBoolean("CheckFlightTimes", session.switches.CheckFlightTimes);
     context.services.userSettings.Flush();
 }
 

@@ -18,11 +18,11 @@ constexpr int kShuffleStages = 4;
 void ReadOptions(Context& context) {
     Session& session = context.session;
     const MainForm& form = context.forms.frmMain;
-    session.ChangeIFRVFR = form.ckIFRVFR.checked;
-    session.OverwriteTailNumber = form.ckOverwriteTailNumber.checked;
-    session.CheckVisitedAirports = form.ckCheckVisitedAirports.checked;
-    session.RemoveMinus = form.ckRemoveMinus.checked;
-    session.CheckFL = form.ckCheckFL.checked;
+    session.shuffle.ChangeIFRVFR = form.ckIFRVFR.checked;
+    session.shuffle.OverwriteTailNumber = form.ckOverwriteTailNumber.checked;
+    session.shuffle.CheckVisitedAirports = form.ckCheckVisitedAirports.checked;
+    session.shuffle.RemoveMinus = form.ckRemoveMinus.checked;
+    session.shuffle.CheckFL = form.ckCheckFL.checked;
 }
 
 ShuffleResult Shuffle(Context& context) {
@@ -32,9 +32,10 @@ ShuffleResult Shuffle(Context& context) {
     ReadOptions(context);
     OpenProgress(context, "Creating Aircraft list...", kShuffleStages, 1);
     TakeUndoSnapshot(context);
-    BuildAircraftList(CheckedShuffleAircraft(form, session), session);
+    BuildAircraftList(CheckedShuffleAircraft(form, session), session.fleet, session.switches.StartNumber,
+                      session.plan);
     NextProgress(context, "Rearranging AI Traffic...", 2);
-    const ShuffleResult result = ShuffleFlightplan(session, context.services, session.FlightplanPath);
+    const ShuffleResult result = ShuffleFlightplan(session, context.services, session.plan.FlightplanPath);
 
     context.services.progress.SetMax(kShuffleStages);
     NextProgress(context, "Refreshing...", 3);
@@ -66,9 +67,9 @@ void OnShuffle(Context& context) {
 
 void OnCalcStartNumber(Context& context) {
     Session& session = context.session;
-    if (session.PlanAircraftCount() == 0) return;
-    session.StartNumber = NextStartNumber(session);
-    context.forms.frmMain.txtStartNumber.text = std::to_string(session.StartNumber);
+    if (session.plan.PlanAircraftCount() == 0) return;
+    session.switches.StartNumber = NextStartNumber(session.plan);
+    context.forms.frmMain.txtStartNumber.text = std::to_string(session.switches.StartNumber);
 }
 
 void OnLeaveStartNumber(Context& context, Event& event) {
@@ -78,7 +79,7 @@ void OnLeaveStartNumber(Context& context, Event& event) {
     } else if (*number < 1) {
         RefuseStartNumber(context, event, "Number should be greater than 0.");
     } else {
-        context.session.StartNumber = *number;
+        context.session.switches.StartNumber = *number;
     }
 }
 

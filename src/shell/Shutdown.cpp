@@ -15,15 +15,12 @@ constexpr int kCleaningStages = 2;
 void EraseMemory(Context& context) {
     Session& session = context.session;
     DiscardUndoSnapshot(context);
-    session.Airports = {};
-    session.Airlines = {};
-    session.RunAirlines = {};
-    session.Flights.Clear();
-    session.ClearSearch();
-    session.PlanAircrafts = {};
-    session.PlanAirports = {};
-    session.PlanAirportIndex.Clear();
-    session.FSAircrafts = {};
+    session.scenery = {};
+    session.rules.Airlines = {};
+    session.shuffle.RunAirlines = {};
+    session.search = {};
+    session.plan = {};
+    session.fleet = {};
 }
 
 }  // namespace
@@ -32,12 +29,12 @@ bool Shutdown(Context& context) {
     Session& session = context.session;
     context.services.progress.Close();
     if (context.services.windows.TimerArmed(kSplashTimer)) CloseSplash(context);
-    if (session.PlanModified) {
+    if (session.plan.PlanModified) {
         const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return false;
         if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
     }
-    if (session.ProjectModified) {
+    if (session.project.ProjectModified) {
         const MessageAnswer answer = AskToSave(context, "Save the modified Project?");
         if (answer == MessageAnswer::Cancel) return false;
         if (answer == MessageAnswer::Yes) {

@@ -60,7 +60,7 @@ bool StartUp(Context& context) {
     ReadRecentLists(context);
     ReadSimulatorFolder(context);
     windows.StartTimer(kSplashTimer, kSplashMilliseconds);
-    context.session.DebugOn = form.mnuToolsDebug.checked;
+    context.session.switches.DebugOn = form.mnuToolsDebug.checked;
     SelectFirstViews(form);
     if (!ReadRuleFiles(context)) {
         windows.StopTimer(kSplashTimer);

@@ -19,13 +19,13 @@ void ReportLevelError(Services& services, std::int32_t index) {
     ShowMessage(services.messages, Concat("Error (Flight ", index + 1, "):\nType mismatch"), kMarkCritical);
 }
 
-// Rewrites session.Flights. The error of a flight is reported here.
+// Rewrites session.plan.Flights. The error of a flight is reported here.
 ShuffleResult ShuffleFlights(Session& session, Services& services, ShuffleRun& run) {
     ShuffleResult result;
     result.succeeded = true;
     std::vector<std::int32_t> removed;
     std::int32_t sinceProgress = 0;
-    session.Flights.Rewrite([&](std::int32_t index, const FlightView& flight, LentFlight& changed) {
+    session.plan.Flights.Rewrite([&](std::int32_t index, const FlightView& flight, LentFlight& changed) {
         if (!result.succeeded || flight.Removed) return false;
         if (++sinceProgress == kFlightsBetweenProgress) {
             sinceProgress = 0;
@@ -47,7 +47,7 @@ ShuffleResult ShuffleFlights(Session& session, Services& services, ShuffleRun& r
         }
         return false;
     });
-    for (const std::int32_t index : removed) session.Flights.SetRemoved(index, true);
+    for (const std::int32_t index : removed) session.plan.Flights.SetRemoved(index, true);
     result.removed = static_cast<std::int32_t>(removed.size());
     return result;
 }
@@ -59,22 +59,22 @@ ShuffleResult ShuffleFlightplan(Session& session, Services& services, const std:
     ReadScenery(session, services);
     services.progress.SetText("Matching Aircraft...");
     ResetRunAirlines(session);
-    AirlineSet noAirlineSet =
-        MakeNoAirlineSet(MatchAircraft(session.PlanAircrafts, session.FSAircrafts, session.RunAirlines));
+    AirlineSet noAirlineSet = MakeNoAirlineSet(
+        MatchAircraft(session.plan.PlanAircrafts, session.fleet.FSAircrafts, session.shuffle.RunAirlines));
     services.random.SeedFromClock();
 
     services.progress.SetText("Preparing Cache...");
     LogFile log;
     ShuffleRun run(session, noAirlineSet, services.random, log);
-    if (session.DebugOn) OpenShuffleLog(log, services.files, flightplanPath);
+    if (session.switches.DebugOn) OpenShuffleLog(log, services.files, flightplanPath);
 
     services.progress.SetText("Rearranging Flightplan...");
-    services.progress.SetMax(session.FlightCount() + 1);
+    services.progress.SetMax(session.plan.FlightCount() + 1);
     const ShuffleResult result = ShuffleFlights(session, services, run);
     log.Close();
-    if (result.succeeded && session.DebugOn) {
-        WriteShuffleResultLog(services.files, flightplanPath, session.RunAirlines,
-                              noAirlineSet.Airlines.front(), session.FSAircrafts);
+    if (result.succeeded && session.switches.DebugOn) {
+        WriteShuffleResultLog(services.files, flightplanPath, session.shuffle.RunAirlines,
+                              noAirlineSet.Airlines.front(), session.fleet.FSAircrafts);
     }
     services.progress.SetText("Cleaning Cache...");
     return result;

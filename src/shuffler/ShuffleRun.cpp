@@ -36,8 +36,8 @@ std::vector<AirlineSet*> ListRunSets(AirlineSets& sets, AirlineSet& noAirlineSet
 }  // namespace
 
 void ResetRunAirlines(Session& session) {
-    session.RunAirlines = session.Airlines;
-    for (AirlineSet* set : ListAirlineSets(session.RunAirlines)) {
+    session.shuffle.RunAirlines = session.rules.Airlines;
+    for (AirlineSet* set : ListAirlineSets(session.shuffle.RunAirlines)) {
         set->Flights = 0;
         for (AirlineEntry& entry : set->Airlines) {
             entry.PlannedPercent = 0;
@@ -60,11 +60,11 @@ ShuffleRun::ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSourc
     : session_(sessionOf),
       random_(randomOf),
       log_(logOf),
-      positions_(sessionOf),
-      airports_(sessionOf.Airports, positions_, sessionOf.RunAirlines),
-      sets_(ListRunSets(sessionOf.RunAirlines, noAirlineSet)),
-      candidates_(sets_, sessionOf.FSAircrafts, sessionOf.CheckFL),
-      usagePlaces_(FindUsagePlaces(sessionOf.PlanAircrafts)),
+      positions_(sessionOf.plan),
+      airports_(sessionOf.scenery.Airports, positions_, sessionOf.shuffle.RunAirlines),
+      sets_(ListRunSets(sessionOf.shuffle.RunAirlines, noAirlineSet)),
+      candidates_(sets_, sessionOf.fleet.FSAircrafts, sessionOf.shuffle.CheckFL),
+      usagePlaces_(FindUsagePlaces(sessionOf.plan.PlanAircrafts)),
       failedFlight_(sets_.size(), 0) {}
 
 ShuffleRun::Decision ShuffleRun::Decide(const FlightView& row) {
@@ -139,7 +139,7 @@ ShuffleRun::Decision ShuffleRun::SearchAircraft() {
         }
         TakeTailPatterns(airport.countrySet);
         if (TrySet(airport.countrySet)) return Decision::Assigned;
-        if (session_.CheckVisitedAirports && visitedRetries < retries) {
+        if (session_.shuffle.CheckVisitedAirports && visitedRetries < retries) {
             current = flight_.LegAt(visitedRetries++).Airport;
             continue;
         }
@@ -204,12 +204,12 @@ bool ShuffleRun::AssignAircraft(std::int32_t set, std::int32_t setFlights) {
 
 void ShuffleRun::ApplyAircraft(const AirlineAircraft& chosen) {
     const auto planPlace = static_cast<std::size_t>(chosen.PlanAircraftIndex);
-    ++session_.PlanAircrafts[static_cast<std::size_t>(usagePlaces_[planPlace])].UsageCount;
-    const FSAircraft& aircraft = session_.FSAircrafts[static_cast<std::size_t>(chosen.AircraftIndex)];
-    flight_.ACNumber = session_.PlanAircrafts[planPlace].ACNumber;
-    if (session_.ChangeIFRVFR) ApplyFlightRules(aircraft.Class, flight_);
-    if (session_.CheckFL) {
-        ApplyFlightLevels(session_.FlightLevelRules, aircraft, airports_, random_, flight_);
+    ++session_.plan.PlanAircrafts[static_cast<std::size_t>(usagePlaces_[planPlace])].UsageCount;
+    const FSAircraft& aircraft = session_.fleet.FSAircrafts[static_cast<std::size_t>(chosen.AircraftIndex)];
+    flight_.ACNumber = session_.plan.PlanAircrafts[planPlace].ACNumber;
+    if (session_.shuffle.ChangeIFRVFR) ApplyFlightRules(aircraft.Class, flight_);
+    if (session_.shuffle.CheckFL) {
+        ApplyFlightLevels(session_.rules.FlightLevelRules, aircraft, airports_, random_, flight_);
     }
     ApplyFlightTimes(aircraft.CruiseSpeed, flight_);
     LogAircraft(log_, aircraft);
@@ -221,8 +221,8 @@ ShuffleRun::Decision ShuffleRun::RemoveFlight() {
 }
 
 void ShuffleRun::WriteTailNumber(std::string_view patterns) {
-    if (patterns.empty() || !session_.OverwriteTailNumber) return;
-    flight_.TailNumber = CreateTailNumber(patterns, session_.RemoveMinus, random_);
+    if (patterns.empty() || !session_.shuffle.OverwriteTailNumber) return;
+    flight_.TailNumber = CreateTailNumber(patterns, session_.shuffle.RemoveMinus, random_);
 }
 
 void ShuffleRun::TakeTailPatterns(std::int32_t set) {

@@ -14,14 +14,14 @@
 
 namespace orlo {
 
-// Starts session.RunAirlines from the rules as read: all counts 0, percents as read.
+// Starts session.shuffle.RunAirlines from the rules as read: all counts 0, percents as read.
 void ResetRunAirlines(Session& session);
 
 // The set of the aircraft without airline: one entry that may take all.
 AirlineSet MakeNoAirlineSet(std::vector<AirlineAircraft> aircraft);
 
-// The working data of one shuffle, built by its constructor for session.RunAirlines after the match. Of the
-// session, only PlanAircrafts' UsageCount and the counts of RunAirlines are changed.
+// The working data of one shuffle, built by its constructor for session.shuffle.RunAirlines after the match.
+// Of the session, only PlanAircrafts' UsageCount and the counts of RunAirlines are changed.
 class ShuffleRun {
   public:
     ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LogFile& logOf);

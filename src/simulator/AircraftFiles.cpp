@@ -71,13 +71,13 @@ std::string PartName(std::string_view part, std::string_view name) {
     return name.empty() ? std::string(part) : Concat(part, '.', NativePath(name));
 }
 
-void CheckAircraftFiles(Session& session, FileSystem& files) {
+void CheckAircraftFiles(Fleet& fleet, FileSystem& files) {
     std::optional<AircraftFolder> folder;
-    for (FSAircraft& aircraft : session.FSAircrafts) {
+    for (FSAircraft& aircraft : fleet.FSAircrafts) {
         const std::string path = ParentFolder(aircraft.ConfigFile);
         if (!folder || folder->Path() != path) folder.emplace(files, path);
         aircraft.Problem = FindProblem(aircraft, *folder, files);
-        if (!aircraft.Problem.empty()) session.FSAircraftProblems = true;
+        if (!aircraft.Problem.empty()) fleet.FSAircraftProblems = true;
     }
 }
 

@@ -15,8 +15,8 @@ std::string ConfigText(std::string_view value);
 // Name of a part's folder beside aircraft.cfg: the part alone, or with "." and the name behind it.
 std::string PartName(std::string_view part, std::string_view name);
 
-// Fills the Problem of each aircraft from what is missing among its files, and the session's flag for
+// Fills the Problem of each aircraft from what is missing among its files, and the fleet's flag for
 // problems found, which is only ever set here. Needs the values of a detailed scan.
-void CheckAircraftFiles(Session& session, FileSystem& files);
+void CheckAircraftFiles(Fleet& fleet, FileSystem& files);
 
 }  // namespace orlo

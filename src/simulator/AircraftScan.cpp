@@ -51,9 +51,9 @@ class ConfigFile {
 // What all variants of an aircraft.cfg share. Models and classes are looked up once for each name.
 class FolderReader {
   public:
-    FolderReader(Session& session, FileSystem& files, const std::string& folder,
+    FolderReader(Fleet& fleet, const ClassLists& classes, FileSystem& files, const std::string& folder,
                  const InitialisationFile& file)
-        : session_(session), files_(files), folder_(folder), config_(file) {
+        : fleet_(fleet), classLists_(classes), files_(files), folder_(folder), config_(file) {
         common_.ConfigFile = JoinPath(folder, "aircraft.cfg");
         common_.ATCModel = config_.Text("General", "atc_model");
         common_.ATCType = config_.Text("General", "atc_type");
@@ -79,12 +79,12 @@ class FolderReader {
         aircraft.Texture = config_.Text(section, "texture");
         if (detailed) ReadDetails(section, aircraft);
         ReadModelAndType(section, aircraft);
-        ApplyAircraftClass(aircraft, FindClass(aircraft), session_.Classes);
+        ApplyAircraftClass(aircraft, FindClass(aircraft), classLists_);
         const ModelRadius& model = FindModel(config_.Text(section, "model"));
         aircraft.ModelFile = model.Path;
         aircraft.ModelFormat = model.Format;
         aircraft.Radius = model.Radius;
-        session_.FSAircrafts.push_back(std::move(aircraft));
+        fleet_.FSAircrafts.push_back(std::move(aircraft));
     }
 
   private:
@@ -122,7 +122,7 @@ class FolderReader {
         const std::string& text = aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel;
         if (text.empty()) return {};
         if (const ClassMatch* known = classes_.Find(text)) return *known;
-        const ClassMatch match = GetAircraftClass(session_.Classes, text);
+        const ClassMatch match = GetAircraftClass(classLists_, text);
         classes_.Add(text, match);
         return match;
     }
@@ -132,7 +132,8 @@ class FolderReader {
         return *models_.Find(name);
     }
 
-    Session& session_;
+    Fleet& fleet_;
+    const ClassLists& classLists_;
     FileSystem& files_;
     const std::string& folder_;
     ConfigFile config_;
@@ -153,24 +154,25 @@ std::string SimulatorFolder(const Session& session, SettingsStore& machineSettin
     return session.SimulatorFolder.empty() ? GetSimulatorPath(machineSettings) : session.SimulatorFolder;
 }
 
-bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed) {
-    session.FSAircrafts.clear();
-    session.FSAircraftProblems = false;
+bool ScanAircraft(Fleet& fleet, const ClassLists& classes, FileSystem& files,
+                  const std::string& simulatorFolder, bool detailed) {
+    fleet = {};
     if (simulatorFolder.empty()) return false;
     const std::string root = JoinPath(simulatorFolder, "Aircraft");
     if (!files.FolderExists(root)) return false;
     for (const FolderEntry& entry : files.ListFolder(root)) {
-        if (entry.isFolder) ReadAircraftFolder(session, files, JoinPath(root, entry.name), detailed);
+        if (entry.isFolder) ReadAircraftFolder(fleet, classes, files, JoinPath(root, entry.name), detailed);
     }
-    if (detailed) CheckAircraftFiles(session, files);
+    if (detailed) CheckAircraftFiles(fleet, files);
     return true;
 }
 
-void ReadAircraftFolder(Session& session, FileSystem& files, const std::string& folder, bool detailed) {
+void ReadAircraftFolder(Fleet& fleet, const ClassLists& classes, FileSystem& files, const std::string& folder,
+                        bool detailed) {
     const auto text = ReadWholeFile(files, JoinPath(folder, "aircraft.cfg"));
     if (!text || text->empty()) return;
     const InitialisationFile file = ParseInitialisationFile(*text);
-    FolderReader reader(session, files, folder, file);
+    FolderReader reader(fleet, classes, files, folder, file);
     for (const InitialisationSection& section : file.sections) {
         if (reader.TakenSize() > kFreeRepeats + kMostRepeats * text->size()) break;
         if (StartsWithNoCase(section.name, kVariantSection)) reader.ReadVariant(section.name, detailed);

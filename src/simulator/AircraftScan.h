@@ -13,12 +13,14 @@ std::string GetSimulatorPath(SettingsStore& machineSettings);
 // The folder that the user chose, else that one.
 std::string SimulatorFolder(const Session& session, SettingsStore& machineSettings);
 
-// Replaces session.FSAircrafts by the variants of all folders below "Aircraft", in the order of the folders
+// Replaces the fleet by the variants of all folders below "Aircraft", in the order of the folders
 // and then of the sections. A detailed scan also reads the fields that only editors and checks need, and
 // checks the files of each variant. False, with an empty list, when there is no such folder.
-bool ScanAircraft(Session& session, FileSystem& files, const std::string& simulatorFolder, bool detailed);
+bool ScanAircraft(Fleet& fleet, const ClassLists& classes, FileSystem& files,
+                  const std::string& simulatorFolder, bool detailed);
 
 // Appends the variants of one aircraft's folder; none without an aircraft.cfg in it.
-void ReadAircraftFolder(Session& session, FileSystem& files, const std::string& folder, bool detailed);
+void ReadAircraftFolder(Fleet& fleet, const ClassLists& classes, FileSystem& files, const std::string& folder,
+                        bool detailed);
 
 }  // namespace orlo

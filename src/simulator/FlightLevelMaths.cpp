@@ -6,7 +6,7 @@
 namespace orlo {
 namespace {
 
-using Rules = std::vector<FlightLevelRule>;
+using LevelRules = std::vector<FlightLevelRule>;
 
 bool CourseFits(const FlightLevelRule& rule, std::int32_t course) {
     return rule.CourseFrom <= course && course <= rule.CourseTo;
@@ -14,7 +14,7 @@ bool CourseFits(const FlightLevelRule& rule, std::int32_t course) {
 
 // The first rule that `fits`; null without one.
 template <typename Fits>
-const FlightLevelRule* FirstRule(const Rules& rules, Fits fits) {
+const FlightLevelRule* FirstRule(const LevelRules& rules, Fits fits) {
     for (const FlightLevelRule& rule : rules) {
         if (fits(rule)) return &rule;
     }
@@ -23,7 +23,7 @@ const FlightLevelRule* FirstRule(const Rules& rules, Fits fits) {
 
 // The rule that reaches highest among those that begin within the aircraft's reach, the first of equal ones;
 // null without one. The distance is of no account here.
-const FlightLevelRule* HighestReachable(const Rules& rules, std::int32_t course, LevelLimits limits) {
+const FlightLevelRule* HighestReachable(const LevelRules& rules, std::int32_t course, LevelLimits limits) {
     const FlightLevelRule* best = nullptr;
     for (const FlightLevelRule& rule : rules) {
         if (rule.LevelFrom > limits.MaxFL || !CourseFits(rule, course)) continue;
@@ -34,7 +34,7 @@ const FlightLevelRule* HighestReachable(const Rules& rules, std::int32_t course,
 
 // The rule that serves the aircraft: `rule` where the aircraft reaches its top or begins inside its limits,
 // else the one that reaches highest. Where no rule begins within reach, `rule` stands.
-const FlightLevelRule& ServingRule(const Rules& rules, const FlightLevelRule& rule, std::int32_t course,
+const FlightLevelRule& ServingRule(const LevelRules& rules, const FlightLevelRule& rule, std::int32_t course,
                                    LevelLimits limits) {
     const bool topWithinReach = rule.LevelTo <= limits.MaxFL;
     const bool beginsInside = limits.MinFL <= rule.LevelFrom && rule.LevelFrom <= limits.MaxFL;
@@ -81,7 +81,7 @@ bool OnGrid(const LevelBand& band, std::int64_t level) {
 
 }  // namespace
 
-std::optional<LevelBand> FindLevelBand(const Rules& rules, std::string_view flightRules,
+std::optional<LevelBand> FindLevelBand(const LevelRules& rules, std::string_view flightRules,
                                        std::int32_t distance, std::int32_t course, LevelLimits limits) {
     if (EqualNoCase(flightRules, "VFR")) distance = -1;
     const FlightLevelRule* rule = FirstRule(rules, [&](const FlightLevelRule& candidate) {
@@ -102,7 +102,7 @@ std::optional<LevelBand> FindLevelBand(const Rules& rules, std::string_view flig
     return band;
 }
 
-std::string SuggestFlightLevel(const Rules& rules, std::string_view flightRules, std::int32_t distance,
+std::string SuggestFlightLevel(const LevelRules& rules, std::string_view flightRules, std::int32_t distance,
                                std::int32_t course, LevelLimits limits, bool useText, RandomSource& random) {
     if (useText) return SuggestFlightLevelText(rules, flightRules, distance, course, limits);
     const auto band = FindLevelBand(rules, flightRules, distance, course, limits);
@@ -113,13 +113,13 @@ std::string SuggestFlightLevel(const Rules& rules, std::string_view flightRules,
     return LevelText(band->Lower + band->Step * drawn);
 }
 
-std::string SuggestFlightLevelText(const Rules& rules, std::string_view flightRules, std::int32_t distance,
-                                   std::int32_t course, LevelLimits limits) {
+std::string SuggestFlightLevelText(const LevelRules& rules, std::string_view flightRules,
+                                   std::int32_t distance, std::int32_t course, LevelLimits limits) {
     const auto band = FindLevelBand(rules, flightRules, distance, course, limits);
     return band ? BandText(*band) : "FL100";
 }
 
-LevelCheck CheckFlightLevel(const Rules& rules, std::string_view flightRules, std::int32_t distance,
+LevelCheck CheckFlightLevel(const LevelRules& rules, std::string_view flightRules, std::int32_t distance,
                             std::int32_t course, LevelLimits limits, std::int32_t level) {
     const auto band = FindLevelBand(rules, flightRules, distance, course, limits);
     if (!band) return {false, "FL100"};

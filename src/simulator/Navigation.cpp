@@ -13,10 +13,10 @@ namespace {
 
 constexpr std::int32_t kMinutesOfUnknownLegs = 15;
 
-std::optional<Position> PlanPosition(const Session& session, std::string_view code) {
-    const std::int32_t* place = session.PlanAirportIndex.Find(code);
-    if (place == nullptr || *place < 0 || *place >= session.PlanAirportCount()) return std::nullopt;
-    const PlanAirport& airport = session.PlanAirports[static_cast<std::size_t>(*place)];
+std::optional<Position> PlanPosition(const Plan& plan, std::string_view code) {
+    const std::int32_t* place = plan.PlanAirportIndex.Find(code);
+    if (place == nullptr || *place < 0 || *place >= plan.PlanAirportCount()) return std::nullopt;
+    const PlanAirport& airport = plan.PlanAirports[static_cast<std::size_t>(*place)];
     return ParsePosition(airport.Latitude, airport.Longitude);
 }
 
@@ -47,17 +47,17 @@ std::string ArrivalText(std::int32_t distance, std::string_view departureText, b
 
 }  // namespace
 
-std::int32_t GetDistance(const Session& session, std::string_view from, std::string_view to) {
+std::int32_t GetDistance(const Plan& plan, std::string_view from, std::string_view to) {
     if (from == to) return 0;
-    const auto fromPosition = PlanPosition(session, from);
-    const auto toPosition = PlanPosition(session, to);
+    const auto fromPosition = PlanPosition(plan, from);
+    const auto toPosition = PlanPosition(plan, to);
     return fromPosition && toPosition ? GreatCircleDistance(*fromPosition, *toPosition) : -1;
 }
 
-std::int32_t GetCourse(const Session& session, std::string_view from, std::string_view to) {
+std::int32_t GetCourse(const Plan& plan, std::string_view from, std::string_view to) {
     if (from == to) return -1;
-    const auto fromPosition = PlanPosition(session, from);
-    const auto toPosition = PlanPosition(session, to);
+    const auto fromPosition = PlanPosition(plan, from);
+    const auto toPosition = PlanPosition(plan, to);
     return fromPosition && toPosition ? GreatCircleCourse(*fromPosition, *toPosition) : -1;
 }
 
@@ -82,12 +82,12 @@ std::string GetArrivalTime(std::int32_t distance, std::string_view departureText
     return ArrivalText(distance, departureText, IsWeekPeriod(periodText), speed);
 }
 
-std::string GetArrivalTime(const Session& session, std::int32_t distance, std::string_view departureText,
+std::string GetArrivalTime(const Plan& plan, std::int32_t distance, std::string_view departureText,
                            std::string_view periodText, std::int32_t aircraftIndex, std::int32_t speed) {
-    if (aircraftIndex < 0 || aircraftIndex >= session.PlanAircraftCount()) {
+    if (aircraftIndex < 0 || aircraftIndex >= plan.PlanAircraftCount()) {
         return GetArrivalTime(distance, departureText, periodText, speed);
     }
-    const PlanAircraft& aircraft = session.PlanAircrafts[static_cast<std::size_t>(aircraftIndex)];
+    const PlanAircraft& aircraft = plan.PlanAircrafts[static_cast<std::size_t>(aircraftIndex)];
     const auto cruiseSpeed = ParseWholeNumber(aircraft.CruiseSpeed);
     if (!cruiseSpeed) return std::string(departureText);
     return ArrivalText(distance, departureText, IsWeekPeriod(periodText), *cruiseSpeed);

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Session.h"
+#include "core/Plan.h"
 
 namespace orlo {
 
@@ -13,10 +13,10 @@ namespace orlo {
 
 // Nautical miles; 0 for equal codes (compared exactly), -1 when a code is not in the plan, its coordinates
 // can't be read, or two codes lie at one place.
-std::int32_t GetDistance(const Session& session, std::string_view from, std::string_view to);
+std::int32_t GetDistance(const Plan& plan, std::string_view from, std::string_view to);
 
 // Degrees, 0 to 359; -1 for equal codes and where the distance fails.
-std::int32_t GetCourse(const Session& session, std::string_view from, std::string_view to);
+std::int32_t GetCourse(const Plan& plan, std::string_view from, std::string_view to);
 
 // The distance without a plan, over the scenery's airports, which the caller has read. Codes are compared
 // exactly. -1 when there are no airports or the coordinates of a found one can't be read. A code that isn't
@@ -36,7 +36,7 @@ std::string GetArrivalTime(std::int32_t distance, std::string_view departureText
 
 // The same for an aircraft of the plan. A valid place in PlanAircrafts lends its cruise speed in place of
 // `speed`; below 1, such a speed gives 15 minutes, and where it is no number the departure text comes back.
-std::string GetArrivalTime(const Session& session, std::int32_t distance, std::string_view departureText,
+std::string GetArrivalTime(const Plan& plan, std::int32_t distance, std::string_view departureText,
                            std::string_view periodText, std::int32_t aircraftIndex, std::int32_t speed);
 
 }  // namespace orlo

@@ -2,9 +2,9 @@
 
 namespace orlo {
 
-PlanPositions::PlanPositions(const Session& session) : index_(session.PlanAirportIndex) {
-    points_.reserve(session.PlanAirports.size());
-    for (const PlanAirport& airport : session.PlanAirports) {
+PlanPositions::PlanPositions(const Plan& plan) : index_(plan.PlanAirportIndex) {
+    points_.reserve(plan.PlanAirports.size());
+    for (const PlanAirport& airport : plan.PlanAirports) {
         const auto position = ParsePosition(airport.Latitude, airport.Longitude);
         points_.push_back(position ? std::optional(PreparePoint(*position)) : std::nullopt);
     }

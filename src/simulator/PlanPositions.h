@@ -5,16 +5,16 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Session.h"
+#include "core/Plan.h"
 #include "simulator/GreatCircle.h"
 
 namespace orlo {
 
-// Where the airports of the open plan lie, with their sines and cosines prepared. Built once per operation;
-// the session must outlive it, and its list of airports must not change meanwhile.
+// Where the airports of a plan lie, with their sines and cosines prepared. Built once per operation;
+// the plan must outlive it, and its list of airports must not change meanwhile.
 class PlanPositions {
   public:
-    explicit PlanPositions(const Session& session);
+    explicit PlanPositions(const Plan& plan);
 
     // Place of a code in PlanAirports, case aside; -1 when it isn't there.
     std::int32_t Place(std::string_view code) const;

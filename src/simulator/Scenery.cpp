@@ -37,20 +37,20 @@ std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& 
 }
 
 bool ReadScenery(Session& session, Services& services) {
-    if (!session.Airports.empty()) return true;
+    if (!session.scenery.Airports.empty()) return true;
     const std::string cachePath = JoinPath(session.ProgramFolder, kAFDCacheName);
     AFDCacheHeader header;
-    if (ReadAFDCache(services.files, cachePath, session.Airports, header)) return true;
+    if (ReadAFDCache(services.files, cachePath, session.scenery.Airports, header)) return true;
 
     const std::string simulatorFolder = SimulatorFolder(session, services.machineSettings);
     if (simulatorFolder.empty()) {
         ShowMessage(services.messages, "Couldn't find FS2002 Path.", kMarkCritical);
         return false;
     }
-    ScanScenery(session.Airports, simulatorFolder, services);
-    if (session.Airports.empty()) return false;
+    ScanScenery(session.scenery.Airports, simulatorFolder, services);
+    if (session.scenery.Airports.empty()) return false;
     header.Date = DayCount(services.clock.Now());
-    WriteAFDCache(services.files, cachePath, session.Airports, header);
+    WriteAFDCache(services.files, cachePath, session.scenery.Airports, header);
     return true;
 }
 

@@ -17,9 +17,9 @@ std::string SceneryFolder(const std::string& simulatorFolder);
 // Names of the files in it that may hold airport data: those longer than 3 characters that end in "BGL".
 std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& sceneryFolder);
 
-// Fills session.Airports from the cache or, where that is missing, of another version or damaged, from the
-// simulator's scenery, and then writes the cache. Airports already in memory stay. False when there are none
-// afterwards; no cache is written then. An unknown simulator is told to the user.
+// Fills session.scenery.Airports from the cache or, where that is missing, of another version or damaged,
+// from the simulator's scenery, and then writes the cache. Airports already in memory stay. False when there
+// are none afterwards; no cache is written then. An unknown simulator is told to the user.
 bool ReadScenery(Session& session, Services& services);
 
 }  // namespace orlo

@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "core/AircraftRecords.h"
 #include "core/KeyedIndex.h"
-#include "core/Session.h"
 
 namespace orlo {
 
@@ -22,13 +22,5 @@ class TitleIndex {
   private:
     std::unordered_map<std::string_view, std::int32_t, NoCaseHash, NoCaseEqual> places_;
 };
-
-// For each plan aircraft in order, the place in FSAircrafts of the first aircraft of its title; -1 without
-// one.
-std::vector<std::int32_t> InstalledPlaces(const Session& session);
-
-// From an aircraft number, case aside, to the place in FSAircrafts of the first plan aircraft of that number
-// whose title is installed. A number of which none is installed has no key.
-KeyedIndex<std::int32_t> InstalledPlacesByNumber(const Session& session);
 
 }  // namespace orlo

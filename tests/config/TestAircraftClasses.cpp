@@ -122,12 +122,12 @@ TEST(AircraftClasses, AnEntryOfAnotherCountOfPartsStaysAsItWas) {
 TEST(AircraftClasses, FailuresAreToldAndLeaveTheLists) {
     ClassesWorld world;
     EXPECT_TRUE(world.Read("[Not Used]\r\nUFO\r\n"));
-    const ClassLists before = world.session.Classes;
+    const ClassLists before = world.session.rules.Classes;
     EXPECT_FALSE(world.Read("[Not Used]\r\nX\r\n[Huge Jet,1,2,3,4,5,6]\r\n"));
-    EXPECT_EQ(world.session.Classes, before);
+    EXPECT_EQ(world.session.rules.Classes, before);
     world.files.files.clear();
     EXPECT_FALSE(ReadAircraftClasses(world.session, world.files, world.messages));
-    EXPECT_EQ(world.session.Classes, before);
+    EXPECT_EQ(world.session.rules.Classes, before);
     const Messages expected = {
         {kMarkCritical, "Error in file 'ORLO_AC.CFG' in line:\n[Huge Jet,1,2,3,4,5,6]"},
         {kMarkCritical, "File 'ORLO_AC.CFG' not found. Please copy the file to the ORLO program folder."}};
@@ -162,9 +162,9 @@ TEST(AircraftClasses, WritingKeepsOrderAndLeavesUnsetEntriesAsTheirID) {
     EXPECT_EQ(world.files.files[kPath], expected);
 
     ASSERT_TRUE(ReadAircraftClasses(world.session, world.files, world.messages));
-    EXPECT_EQ(FormatAircraftClasses(world.session.Classes), expected);
+    EXPECT_EQ(FormatAircraftClasses(world.session.rules.Classes), expected);
 
-    world.session.Classes = ClassLists();
+    world.session.rules.Classes = ClassLists();
     world.files.failAfterBytes = 10;
     EXPECT_FALSE(WriteAircraftClasses(world.session, world.files));
     world.files.failCreate = true;

@@ -92,13 +92,13 @@ TEST(AirlineSetsFile, AReadReplacesTheSetsAndAMissingFileLeavesThem) {
     FakeWorld world;
     Session session;
     session.ProgramFolder = "/orlo";
-    session.Airlines = ParseAirlines("[Global]\nOLD\n[Region:Old]\n");
+    session.rules.Airlines = ParseAirlines("[Global]\nOLD\n[Region:Old]\n");
     world.files.files["/orlo/Orlo_al.cfg"] = "[Region:New]\r\nNEW,7\r\n";
     EXPECT_TRUE(ReadAirlines(session, world.files, world.messages));
     world.files.files.clear();
     EXPECT_FALSE(ReadAirlines(session, world.files, world.messages));
-    EXPECT_EQ(Told(session.Airlines.Global), "|");
-    EXPECT_EQ(Told(session.Airlines.Regions), std::vector<std::string>{"New||NEW=7"});
+    EXPECT_EQ(Told(session.rules.Airlines.Global), "|");
+    EXPECT_EQ(Told(session.rules.Airlines.Regions), std::vector<std::string>{"New||NEW=7"});
     EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, "File 'ORLO_AL.CFG' not found."}}));
 }
 

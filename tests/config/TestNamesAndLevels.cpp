@@ -37,13 +37,12 @@ TEST(NameLists, EachReaderFillsItsListAndAMissingFileEmptiesIt) {
         const char* path;
         const char* message;
         bool (*read)(Session&, FileSystem&, MessageHost&);
-        NameList Session::*list;
+        NameList Rules::*list;
     };
     for (const Case& c : std::initializer_list<Case>{
-             {"/orlo/ORLO_NAL.CFG", "File 'ORLO_NAL.CFG' not found.", ReadAirlineNames,
-              &Session::AirlineNames},
-             {"/orlo/ORLO_NMD.CFG", "File 'ORLO_NMD.CFG' not found.", ReadModelNames, &Session::ModelNames},
-             {"/orlo/ORLO_NTP.CFG", "File 'ORLO_NTP.CFG' not found.", ReadTypeNames, &Session::TypeNames}}) {
+             {"/orlo/ORLO_NAL.CFG", "File 'ORLO_NAL.CFG' not found.", ReadAirlineNames, &Rules::AirlineNames},
+             {"/orlo/ORLO_NMD.CFG", "File 'ORLO_NMD.CFG' not found.", ReadModelNames, &Rules::ModelNames},
+             {"/orlo/ORLO_NTP.CFG", "File 'ORLO_NTP.CFG' not found.", ReadTypeNames, &Rules::TypeNames}}) {
         FakeWorld world;
         Session session;
         session.ProgramFolder = "/orlo";
@@ -51,10 +50,10 @@ TEST(NameLists, EachReaderFillsItsListAndAMissingFileEmptiesIt) {
             world.files.files[c.path] = content;
             EXPECT_TRUE(c.read(session, world.files, world.messages)) << c.path;
         }
-        EXPECT_EQ((session.*c.list).Names, (Names{"A", "B"})) << c.path;
+        EXPECT_EQ((session.rules.*c.list).Names, (Names{"A", "B"})) << c.path;
         world.files.files.clear();
         EXPECT_FALSE(c.read(session, world.files, world.messages)) << c.path;
-        EXPECT_EQ(session.*c.list, NameList()) << c.path;
+        EXPECT_EQ(session.rules.*c.list, NameList()) << c.path;
         EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, c.message}}));
     }
 }
@@ -73,13 +72,13 @@ TEST(FlightLevelRules, AWrongCountOfFieldsKeepsTheRulesReadSoFar) {
         FakeWorld world;
         Session session;
         session.ProgramFolder = "/orlo";
-        session.FlightLevelRules.resize(5);
+        session.rules.FlightLevelRules.resize(5);
         world.files.files["/orlo/ORLO_FL.CFG"] = "1,2,3,4,5,6,7\r\n" + line + " \r\n8,8,8,8,8,8,8\r\n";
         EXPECT_FALSE(ReadFlightLevels(session, world.files, world.messages));
-        EXPECT_EQ(session.FlightLevelRules, (std::vector<FlightLevelRule>{{1, 2, 3, 4, 5, 6, 7}}));
+        EXPECT_EQ(session.rules.FlightLevelRules, (std::vector<FlightLevelRule>{{1, 2, 3, 4, 5, 6, 7}}));
         world.files.files.clear();
         EXPECT_FALSE(ReadFlightLevels(session, world.files, world.messages));
-        EXPECT_TRUE(session.FlightLevelRules.empty());
+        EXPECT_TRUE(session.rules.FlightLevelRules.empty());
         EXPECT_EQ(world.messages.shown,
                   (Messages{{kMarkCritical, "Error in file 'ORLO_FL.CFG' in line:\n" + line},
                             {kMarkCritical, "File 'ORLO_FL.CFG' not found."}}));
@@ -101,11 +100,12 @@ TEST(RuleFiles, TheInstalledFilesReadWithoutAMessage) {
     }
     EXPECT_TRUE(world.messages.shown.empty());
     for (std::size_t code = kClassNotUsed; code <= kClassHugeJet; ++code) {
-        EXPECT_FALSE(session.Classes.Entries[code].empty()) << code;
+        EXPECT_FALSE(session.rules.Classes.Entries[code].empty()) << code;
     }
-    EXPECT_FALSE(session.Airlines.Global.Airlines.empty() || session.Airlines.Countries.empty());
-    EXPECT_TRUE(ContainsName(session.TypeNames, "Boeing") && ContainsName(session.ModelNames, "a320"));
-    EXPECT_GT(session.FlightLevelRules.size(), 10u);
+    EXPECT_FALSE(session.rules.Airlines.Global.Airlines.empty() || session.rules.Airlines.Countries.empty());
+    EXPECT_TRUE(ContainsName(session.rules.TypeNames, "Boeing") &&
+                ContainsName(session.rules.ModelNames, "a320"));
+    EXPECT_GT(session.rules.FlightLevelRules.size(), 10u);
 }
 
 }  // namespace

@@ -12,12 +12,12 @@ constexpr std::string_view kPlanPath = "/plan/FlightPlans.txt";
 constexpr std::string_view kBackupPath = "/plan/FlightPlans.txt.orlo.bak";
 constexpr std::string_view kRemovedPath = "/plan/Removed Flights.txt";
 
-Session ReadText(test::FakeWorld& world, std::string text) {
+Plan ReadText(test::FakeWorld& world, std::string text) {
     world.files.files[std::string(kPlanPath)] = std::move(text);
-    Session session;
-    session.FlightplanPath = kPlanPath;
-    ReadFlightplan(session, world.services);
-    return session;
+    Plan plan;
+    plan.FlightplanPath = kPlanPath;
+    ReadFlightplan(plan, world.services);
+    return plan;
 }
 
 std::string& FileOf(test::FakeWorld& world, std::string_view path) {
@@ -66,9 +66,9 @@ TEST(FlightplanFile, AReadAndAWriteChangeALineAsTheFormSays) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         test::FakeWorld world;
-        const Session session = ReadText(world, c.line);
-        EXPECT_EQ(session.FlightCount(), c.written.empty() ? 0 : 1);
-        EXPECT_TRUE(WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, false).Complete());
+        const Plan plan = ReadText(world, c.line);
+        EXPECT_EQ(plan.FlightCount(), c.written.empty() ? 0 : 1);
+        EXPECT_TRUE(WriteFlightplan(world.files, std::string(kPlanPath), plan.Flights, false).Complete());
         EXPECT_EQ(FileOf(world, kPlanPath), c.written.empty() ? "" : c.written + "\r\n");
     }
 }
@@ -91,10 +91,10 @@ TEST(FlightplanFile, TheCutOfACommentIsFoundWhereverItStandsInTheLine) {
 
 TEST(FlightplanFile, AnUnreachableFileSaysSoAndLeavesNoFlights) {
     test::FakeWorld world;
-    Session session;
-    session.FlightplanPath = "/plan/none.txt";
-    ReadFlightplan(session, world.services);
-    EXPECT_EQ(session.FlightCount(), 0);
+    Plan plan;
+    plan.FlightplanPath = "/plan/none.txt";
+    ReadFlightplan(plan, world.services);
+    EXPECT_EQ(plan.FlightCount(), 0);
     ASSERT_EQ(world.messages.shown.size(), 1u);
     EXPECT_EQ(world.messages.shown[0],
               (std::pair<int, std::string>(16, "Flightplan file not found or access denied.")));
@@ -113,27 +113,26 @@ TEST(FlightplanFile, AllLegsOfAVeryLongLineAreKept) {
     std::string line = "AC#1,N1,50%,24Hr,IFR";
     for (int i = 0; i < 200'000; ++i) line += ",1,2,350,F,1,EDDF";
     test::FakeWorld world;
-    const Session session = ReadText(world, line + "\r\n");
-    ASSERT_EQ(session.FlightCount(), 1);
-    EXPECT_EQ(session.Flights.At(0).LegCount, 200'000);
-    WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, false);
+    const Plan plan = ReadText(world, line + "\r\n");
+    ASSERT_EQ(plan.FlightCount(), 1);
+    EXPECT_EQ(plan.Flights.At(0).LegCount, 200'000);
+    WriteFlightplan(world.files, std::string(kPlanPath), plan.Flights, false);
     EXPECT_EQ(FileOf(world, kPlanPath), line + "\r\n");
 }
 
 TEST(FlightplanFile, RemovedFlightsGoToTheirOwnFileWhichASaveWithoutThemDeletes) {
     test::FakeWorld world;
-    Session session = ReadText(world, kTwoLegs + "\r\n" + kTwoLegs + "\r\n");
-    session.Flights.SetRemoved(0, true);
-    const PlanWriteResult result =
-        WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, true);
+    Plan plan = ReadText(world, kTwoLegs + "\r\n" + kTwoLegs + "\r\n");
+    plan.Flights.SetRemoved(0, true);
+    const PlanWriteResult result = WriteFlightplan(world.files, std::string(kPlanPath), plan.Flights, true);
     EXPECT_TRUE(result.Complete());
     EXPECT_EQ(result.RemovedCount, 1);
     EXPECT_EQ(FileOf(world, kPlanPath), kTwoLegs + "\r\n");
     EXPECT_EQ(FileOf(world, kRemovedPath), kTwoLegs + "\r\n");
     EXPECT_EQ(FileOf(world, kBackupPath), kTwoLegs + "\r\n" + kTwoLegs + "\r\n");
 
-    session.Flights.SetRemoved(0, false);
-    WriteFlightplan(world.files, std::string(kPlanPath), session.Flights, true);
+    plan.Flights.SetRemoved(0, false);
+    WriteFlightplan(world.files, std::string(kPlanPath), plan.Flights, true);
     EXPECT_FALSE(world.files.FileExists(std::string(kRemovedPath)));
     EXPECT_EQ(FileOf(world, kBackupPath), kTwoLegs + "\r\n" + kTwoLegs + "\r\n") << "the first backup stays";
 }

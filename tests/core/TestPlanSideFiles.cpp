@@ -7,12 +7,12 @@
 namespace orlo {
 namespace {
 
-Session PlanBeside(test::FakeWorld& world, const std::string& aircraft, const std::string& airports) {
+Plan PlanBeside(test::FakeWorld& world, const std::string& aircraft, const std::string& airports) {
     world.files.files["/plan/AIRCRAFT.TXT"] = aircraft;
     world.files.files["/plan/airports.txt"] = airports;
-    Session session;
-    session.FlightplanPath = "/plan/FlightPlans.txt";
-    return session;
+    Plan plan;
+    plan.FlightplanPath = "/plan/FlightPlans.txt";
+    return plan;
 }
 
 TEST(PlanSideFiles, AircraftLinesReadAsTheFormSays) {
@@ -36,28 +36,28 @@ TEST(PlanSideFiles, AircraftLinesReadAsTheFormSays) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);
         test::FakeWorld world;
-        Session session = PlanBeside(world, c.line, "");
-        ReadPlanAircraft(session, world.services);
-        EXPECT_EQ(session.PlanAircrafts, c.expected);
-        EXPECT_EQ(session.MaxACNumber, c.highest);
+        Plan plan = PlanBeside(world, c.line, "");
+        ReadPlanAircraft(plan, world.services);
+        EXPECT_EQ(plan.PlanAircrafts, c.expected);
+        EXPECT_EQ(plan.MaxACNumber, c.highest);
     }
 }
 
 TEST(PlanSideFiles, ACodeThatStandsTwiceKeepsBothLinesAndItsFirstPlace) {
     test::FakeWorld world;
-    Session session =
+    Plan plan =
         PlanBeside(world, "", "EDDF, N50* 1.5' ,E8* 2.5',364\r\neddf,N1* 1.0',E1* 1.0',1\r\nA,B,C\r\n");
-    ReadPlanAirports(session, world.services);
-    ASSERT_EQ(session.PlanAirportCount(), 2);
-    EXPECT_EQ(session.PlanAirports[0], (PlanAirport{"EDDF", "N50* 1.5'", "E8* 2.5'", "364"}));
-    EXPECT_EQ(session.PlanAirportIndex.Count(), 1u);
-    EXPECT_EQ(*session.PlanAirportIndex.Find("EddF"), 0);
+    ReadPlanAirports(plan, world.services);
+    ASSERT_EQ(plan.PlanAirportCount(), 2);
+    EXPECT_EQ(plan.PlanAirports[0], (PlanAirport{"EDDF", "N50* 1.5'", "E8* 2.5'", "364"}));
+    EXPECT_EQ(plan.PlanAirportIndex.Count(), 1u);
+    EXPECT_EQ(*plan.PlanAirportIndex.Find("EddF"), 0);
 }
 
 TEST(PlanSideFiles, AMissingFileIsTold) {
     test::FakeWorld world;
-    Session session;
-    ReadPlanAircraft(session, world.services);
+    Plan plan;
+    ReadPlanAircraft(plan, world.services);
     ASSERT_EQ(world.messages.shown.size(), 1u);
     EXPECT_EQ(world.messages.shown[0].second,
               "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder.");
@@ -66,16 +66,16 @@ TEST(PlanSideFiles, AMissingFileIsTold) {
 TEST(PlanSideFiles, AWriteBacksTheOldFileUpOnceAndLeavesItWholeWhenItFails) {
     test::FakeWorld world;
     const std::string before = "; old\r\nAC#1,450,\"A\"\r\n";
-    Session session = PlanBeside(world, before, "");
-    ReadPlanAircraft(session, world.services);
-    session.PlanAircrafts[0].CruiseSpeed = "300";
+    Plan plan = PlanBeside(world, before, "");
+    ReadPlanAircraft(plan, world.services);
+    plan.PlanAircrafts[0].CruiseSpeed = "300";
 
     world.files.failCommit = true;
-    EXPECT_FALSE(WritePlanAircraft(session, world.files));
+    EXPECT_FALSE(WritePlanAircraft(plan, world.files, true));
     EXPECT_EQ(world.files.files["/plan/AIRCRAFT.TXT"], before);
 
     world.files.failCommit = false;
-    EXPECT_TRUE(WritePlanAircraft(session, world.files));
+    EXPECT_TRUE(WritePlanAircraft(plan, world.files, true));
     EXPECT_EQ(world.files.files["/plan/AIRCRAFT.TXT"], "AC#1,300,\"A\"\r\n");
     EXPECT_EQ(world.files.files["/plan/Aircraft.txt.orlo.bak"], before);
 }

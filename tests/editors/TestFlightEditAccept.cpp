@@ -69,12 +69,12 @@ TEST(FlightEditAccept, StandsAndTotalsWarnJustBeyondTheirLimits) {
     for (const Case& row : cases) {
         SCOPED_TRACE(row.times);
         Editor fake;
-        fake.session.CheckAircraftRange = fake.session.CheckFlightLevels = false;
-        fake.session.TATime = row.minimum;
-        fake.session.MaxTATime = row.maximum;
+        fake.session.switches.CheckAircraftRange = fake.session.switches.CheckFlightLevels = false;
+        fake.session.switches.TATime = row.minimum;
+        fake.session.switches.MaxTATime = row.maximum;
         const Flight flight = Editor::FlightOf(row.period, LegsOf(row.times));
         EXPECT_EQ(Warnings(fake, flight), row.warnings);
-        fake.session.CheckFlightTimes = false;
+        fake.session.switches.CheckFlightTimes = false;
         EXPECT_EQ(Warnings(fake, flight), Texts{});
     }
 }
@@ -110,8 +110,8 @@ TEST(FlightEditAccept, RangesAndLevelsOfAnInstalledAircraftAreCheckedLegByLeg) {
     for (const Case& row : cases) {
         SCOPED_TRACE(row.levels);
         Editor fake;
-        fake.session.FSAircrafts[0].MinRange = row.minRange;
-        fake.session.FSAircrafts[0].MaxRange = row.maxRange;
+        fake.session.fleet.FSAircrafts[0].MinRange = row.minRange;
+        fake.session.fleet.FSAircrafts[0].MaxRange = row.maxRange;
         Flight flight = Editor::FlightOf("24Hr", LegsOf("08:00:00-09:00:00 10:00:00-11:00:00"));
         flight.Legs[1].Destination = "AAAA";
         flight.Legs[0].FlightLevel = BeforeFirst(row.levels, " ");
@@ -119,9 +119,9 @@ TEST(FlightEditAccept, RangesAndLevelsOfAnInstalledAircraftAreCheckedLegByLeg) {
         flight.ACNumber = row.aircraft;
         EXPECT_EQ(Warnings(fake, flight), row.warnings);
 
-        fake.session.CheckAircraftRange = fake.session.CheckFlightLevels = false;
+        fake.session.switches.CheckAircraftRange = fake.session.switches.CheckFlightLevels = false;
         EXPECT_EQ(Warnings(fake, flight), Texts{});
-        fake.session.CheckAircraftRange = fake.session.CheckFlightLevels = true;
+        fake.session.switches.CheckAircraftRange = fake.session.switches.CheckFlightLevels = true;
         flight.Legs[0].Destination = "ZZZZ";
         EXPECT_EQ(Warnings(fake, flight), Texts{}) << "a leg to an unknown airport passes unseen";
     }
@@ -145,8 +145,8 @@ TEST(FlightEditAccept, ANoSelectsTheLegOrThePeriodAndStoresNothing) {
     for (const Case& row : cases) {
         SCOPED_TRACE(Concat(row.times, " after ", row.passed));
         Editor fake;
-        fake.session.CheckAircraftRange = fake.session.CheckFlightLevels = false;
-        fake.session.TATime = 60;
+        fake.session.switches.CheckAircraftRange = fake.session.switches.CheckFlightLevels = false;
+        fake.session.switches.TATime = 60;
         const Flight flight = Editor::FlightOf(row.period, LegsOf(row.times));
         const std::string result = fake.Edit(
             flight,
@@ -160,7 +160,7 @@ TEST(FlightEditAccept, ANoSelectsTheLegOrThePeriodAndStoresNothing) {
                 EXPECT_EQ(fake.editor.focus == &fake.editor.cmPeriod, row.atPeriod);
                 const Leg& leg = flight.Legs[static_cast<std::size_t>(row.selected)];
                 EXPECT_TRUE(EndsWithNoCase(leg.DepartTime, fake.editor.txtTime.text));
-                EXPECT_FALSE(fake.session.CheckFlightLevels) << "not stored before the end";
+                EXPECT_FALSE(fake.session.switches.CheckFlightLevels) << "not stored before the end";
             },
             std::vector(row.passed, Yes));
         EXPECT_EQ(result, "");

@@ -127,13 +127,13 @@ TEST(FlightEditLegs, TypedTimesAreTakenInTheZoneAndTheArrivalFollows) {
                   });
         fake.edited.Legs.resize(1);
         EXPECT_EQ(TimesOf(fake.edited), row.stored);
-        EXPECT_EQ(fake.session.FEditZone, row.zone);
+        EXPECT_EQ(fake.session.switches.FEditZone, row.zone);
     }
 }
 
 TEST(FlightEditLegs, AFixedArrivalStaysUntilItIsTypedOrSetFree) {
     Editor fake;
-    fake.session.FEditZone = "GMT +02:00";
+    fake.session.switches.FEditZone = "GMT +02:00";
     fake.Edit(Editor::FlightOf("WEEK", {Editor::FreeLeg("6/20:00:00", "BBBB"),
                                         Editor::FixedLeg("3/10:00:00", "3/11:00:00", "AAAA")}),
               [&] {

@@ -16,7 +16,7 @@ Flight TwoLegs(std::string_view period = "24Hr", std::string_view day = "") {
 
 TEST(FlightEditor, WithoutASelectedLegItsFieldsAreEmptyAndDisabled) {
     Editor fake;
-    fake.session.CheckFlightLevels = false;
+    fake.session.switches.CheckFlightLevels = false;
     fake.Edit(
         TwoLegs(),
         [&] {
@@ -43,16 +43,16 @@ TEST(FlightEditor, GivesTheTitleOfAnInstalledAircraftAndTheNumberOfAnother) {
     Editor fake;
     fake.SwitchChecksOff();
     for (const bool fromSearch : {false, true}) {
-        fake.session.SearchResults.Clear();
-        fake.session.SearchResults.Append(TwoLegs());
-        fake.session.Flights = fake.session.SearchResults;
+        fake.session.search.SearchResults.Clear();
+        fake.session.search.SearchResults.Append(TwoLegs());
+        fake.session.plan.Flights = fake.session.search.SearchResults;
         fake.inModal = [&] {
             fake.Type(fake.editor.txtReg, "D-ABCD");
             fake.Accept();
         };
         EXPECT_EQ(EditFlight(fake.context, 0, fromSearch, 0), "Jet (fast)");
-        EXPECT_EQ(fake.session.SearchResults.At(0).TailNumber, fromSearch ? "D-ABCD" : "N1");
-        EXPECT_EQ(fake.session.Flights.At(0).TailNumber, fromSearch ? "N1" : "D-ABCD");
+        EXPECT_EQ(fake.session.search.SearchResults.At(0).TailNumber, fromSearch ? "D-ABCD" : "N1");
+        EXPECT_EQ(fake.session.plan.Flights.At(0).TailNumber, fromSearch ? "N1" : "D-ABCD");
         EXPECT_EQ(EditFlight(fake.context, 1, fromSearch, 0), "") << "there is no such flight";
     }
     EXPECT_EQ(fake.Edit(TwoLegs(),
@@ -83,7 +83,8 @@ TEST(FlightEditor, AnUnknownAircraftHasToBeReplacedAndLeavesTheArrivalsAlone) {
     EXPECT_EQ(result, "Jet (fast)");
     EXPECT_EQ(fake.said, Texts{"You need to select an aircraft to save the flight."});
     EXPECT_EQ(fake.world.messages.shown.front().first, kMarkExclamation);
-    EXPECT_TRUE(fake.session.CheckFlightTimes && !fake.session.CheckFlightLevels) << "as the boxes were";
+    EXPECT_TRUE(fake.session.switches.CheckFlightTimes && !fake.session.switches.CheckFlightLevels)
+        << "as the boxes were";
     EXPECT_EQ(fake.edited.Legs[0].ETA, "11:00:00");
 }
 
@@ -95,14 +96,14 @@ TEST(FlightEditor, CancelAndTheCloseBoxKeepTheSwitchesAndNothingElse) {
                                 fake.Type(fake.editor.txtReg, "D-ABCD");
                                 fake.Type(fake.editor.txtTime, "nonsense");
                                 fake.Press(fake.editor.ckAircraftRange);
-                                EXPECT_TRUE(fake.session.CheckAircraftRange);
+                                EXPECT_TRUE(fake.session.switches.CheckAircraftRange);
                                 closeBox ? fake.CloseBox(fake.editor) : fake.Press(fake.editor.cmdCancel);
                                 EXPECT_TRUE(fake.editor.closeRequest);
                             }),
                   "");
         EXPECT_EQ(fake.edited, TwoLegs());
-        EXPECT_FALSE(fake.session.CheckAircraftRange);
-        EXPECT_TRUE(fake.session.CheckFlightTimes && fake.session.CheckFlightLevels);
+        EXPECT_FALSE(fake.session.switches.CheckAircraftRange);
+        EXPECT_TRUE(fake.session.switches.CheckFlightTimes && fake.session.switches.CheckFlightLevels);
     }
 }
 
@@ -140,7 +141,7 @@ TEST(FlightEditor, OddFlightsAreHarmless) {
     for (const std::vector<Leg>& legs : shapes) {
         for (const std::string_view period : {"WEEK", "24Hr", "3 months", ""}) {
             Editor fake;
-            fake.session.FEditZone = "nowhere";
+            fake.session.switches.FEditZone = "nowhere";
             const auto useAll = [&] {
                 FlightEditForm& form = fake.editor;
                 for (const std::int32_t row : {0, 1}) {

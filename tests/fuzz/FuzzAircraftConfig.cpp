@@ -15,10 +15,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Session session;
     ClassEntry entry;
     entry.ID = "7";
-    session.Classes.Entries[kClassHugeJet] = {entry};
-    ReadAircraftFolder(session, files, "a", true);
-    CheckAircraftFiles(session, files);
-    for (const FSAircraft& aircraft : session.FSAircrafts) {
+    session.rules.Classes.Entries[kClassHugeJet] = {entry};
+    ReadAircraftFolder(session.fleet, session.rules.Classes, files, "a", true);
+    CheckAircraftFiles(session.fleet, files);
+    for (const FSAircraft& aircraft : session.fleet.FSAircrafts) {
         if (aircraft.Title.empty()) __builtin_trap();
     }
     return 0;

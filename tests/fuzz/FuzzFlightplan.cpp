@@ -18,21 +18,21 @@ std::string Written(orlo::test::FakeWorld& world, const orlo::FlightList& flight
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     using namespace orlo;
     test::FakeWorld world;
-    Session session;
-    session.FlightplanPath = "/plan.txt";
+    Plan plan;
+    plan.FlightplanPath = "/plan.txt";
     world.files.files["/plan.txt"] = std::string(reinterpret_cast<const char*>(data), size);
-    ReadFlightplan(session, world.services);
+    ReadFlightplan(plan, world.services);
     FlightList unpacked;
-    for (std::int32_t i = 0; i < session.FlightCount(); ++i) unpacked.Append(session.Flights.Unpack(i));
-    const std::string written = Written(world, session.Flights);
+    for (std::int32_t i = 0; i < plan.FlightCount(); ++i) unpacked.Append(plan.Flights.Unpack(i));
+    const std::string written = Written(world, plan.Flights);
     if (Written(world, unpacked) != written) std::abort();
 
     world.files.files["/plan.txt"] = written;
-    Session again;
+    Plan again;
     again.FlightplanPath = "/plan.txt";
     ReadFlightplan(again, world.services);
     // Fields that begin or end in blanks, and lines that the cut turns into comments, may differ once, never
     // twice.
-    if (again.FlightCount() > session.FlightCount()) std::abort();
+    if (again.FlightCount() > plan.FlightCount()) std::abort();
     return 0;
 }

@@ -6,13 +6,13 @@
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     using namespace orlo;
     test::FakeWorld world;
-    Session session;
-    session.FlightplanPath = "/plan/FlightPlans.txt";
+    Plan plan;
+    plan.FlightplanPath = "/plan/FlightPlans.txt";
     const std::string text(reinterpret_cast<const char*>(data), size);
     world.files.files["/plan/Aircraft.txt"] = text;
     world.files.files["/plan/Airports.txt"] = text;
-    ReadPlanAircraft(session, world.services);
-    ReadPlanAirports(session, world.services);
-    WritePlanAircraft(session, world.files);
+    ReadPlanAircraft(plan, world.services);
+    ReadPlanAirports(plan, world.services);
+    WritePlanAircraft(plan, world.files, true);
     return 0;
 }

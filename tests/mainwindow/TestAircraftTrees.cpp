@@ -50,8 +50,8 @@ struct Trees : ::testing::Test {
         SetViews(2, 1);
         Flight flight;
         flight.Legs.resize(2);
-        session.Flights.Append(flight);
-        session.FSAircrafts = {
+        session.plan.Flights.Append(flight);
+        session.fleet.FSAircrafts = {
             Installed("Jumbo", "Hansa", "Boeing", "747", kClassHugeJet),
             Installed("  Airbus one ", "HANSA ", "Airbus", "A320", kClassSmallJet),
             Installed("~Hidden", "Secret", "Nobody", "X", kClassSmallJet),
@@ -60,11 +60,11 @@ struct Trees : ::testing::Test {
             Installed("Beech", "Hansa", "Boeing", "", 0),
             Installed("Airbus two", "Blue", "AIRBUS", "a320", kClassSmallJet),
         };
-        session.PlanAircrafts = {{"AC#7", "JUMBO", "480"},
-                                 {"AC#1", "Airbus one", "450"},
-                                 {"AC#9", "jumbo", "480"},
-                                 {"AC#3", "Nowhere", "100"},
-                                 {"AC#4", "~Hidden", "100"}};
+        session.plan.PlanAircrafts = {{"AC#7", "JUMBO", "480"},
+                                      {"AC#1", "Airbus one", "450"},
+                                      {"AC#9", "jumbo", "480"},
+                                      {"AC#3", "Nowhere", "100"},
+                                      {"AC#4", "~Hidden", "100"}};
     }
     void SetViews(std::int32_t shufflerView, std::int32_t moveView) {
         form.cmShufflerView.index = shufflerView;
@@ -116,15 +116,15 @@ TEST_F(Trees, TheCheckedAircraftAreTheCheckedLeavesWithoutTheirAirlines) {
     add(group, "Jet (large) (Alpha)", Colour::Blue, "2", true);
     add(group, "Unchecked (Alpha)", Colour::Blue, "1", false);
     add(group, "Prop", Colour::Blue, "0", true);
-    add(group, "Points nowhere", Colour::Blue, Concat(session.FSAircrafts.size()), true);
+    add(group, "Points nowhere", Colour::Blue, Concat(session.fleet.FSAircrafts.size()), true);
     EXPECT_EQ(CheckedShuffleAircraft(form, session),
               (std::vector<CheckedAircraft>{{2, "Jet (large)"}, {0, "Prop"}}));
 }
 
 TEST_F(Trees, GroupByClassInEachOfItsNames) {
-    session.FSAircrafts.clear();
+    session.fleet.FSAircrafts.clear();
     for (std::int32_t code = -1; code <= 9; ++code) {
-        session.FSAircrafts.push_back(Installed(Concat("T", code), "", "", "", code));
+        session.fleet.FSAircrafts.push_back(Installed(Concat("T", code), "", "", "", code));
     }
     SetViews(0, 0);
     FillAircraftTrees(form, session);
@@ -152,7 +152,7 @@ TEST_F(Trees, AViewOrACheckThatIsNoChangeChangesNothing) {
     const std::int64_t shown = move.contentRevision;
     ChangeMoveView(form, session);
     EXPECT_EQ(move.contentRevision, shown) << "the same view again rebuilds nothing";
-    session.Flights.Clear();
+    session.plan.Flights.Clear();
     form.cmMoveView.index = 0;
     ChangeMoveView(form, session);
     EXPECT_EQ(move.contentRevision, shown) << "nor does another one without flights";
@@ -175,7 +175,7 @@ TEST_F(Trees, SelectCommandsReachEveryNode) {
     InverseSelection(list);
     EXPECT_EQ(list.SelectedPlaces(), (std::vector<std::int32_t>{1, 2}));
     EXPECT_FALSE(OffersSelectMenu(form, session, form.lvTimetable));
-    session.Flights.Clear();
+    session.plan.Flights.Clear();
     EXPECT_FALSE(OffersSelectMenu(form, session, move));
 }
 
@@ -218,7 +218,7 @@ void InvertNodeByNode(TreeView& tree) {
 
 TEST(TreeSelection, ManyNodesInOnePassEndAsOneByOne) {
     Session session;
-    session.PlanLoaded = true;
+    session.plan.PlanLoaded = true;
     for (unsigned seed = 1; seed <= 2000; ++seed) {
         MainForm one;
         MainForm each;

@@ -17,26 +17,26 @@ Flight MakeFlight(std::string tail) {
 
 struct UndoWorld : test::FakeProgram {
     UndoWorld() {
-        session.Flights.Append(MakeFlight("N1"));
-        session.PlanAircrafts.push_back({"AC#1", "Jet One", "450", 0});
-        session.PlanLoaded = true;
+        session.plan.Flights.Append(MakeFlight("N1"));
+        session.plan.PlanAircrafts.push_back({"AC#1", "Jet One", "450", 0});
+        session.plan.PlanLoaded = true;
     }
     void Change(std::string tail) {
-        session.Flights.Replace(0, MakeFlight(std::move(tail)));
-        session.PlanAircrafts.clear();
+        session.plan.Flights.Replace(0, MakeFlight(std::move(tail)));
+        session.plan.PlanAircrafts.clear();
     }
-    std::string Tail() const { return std::string(session.Flights.At(0).TailNumber); }
+    std::string Tail() const { return std::string(session.plan.Flights.At(0).TailNumber); }
 };
 
 TEST(Undo, BringsFlightsAndAircraftBackOnce) {
     UndoWorld world;
     TakeUndoSnapshot(world.context);
-    world.session.PlanModified = true;
+    world.session.plan.PlanModified = true;
     world.Change("N2");
     ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
     EXPECT_EQ(world.Tail(), "N1");
-    EXPECT_EQ(world.session.PlanAircraftCount(), 1);
-    EXPECT_TRUE(world.session.PlanModified) << "the mark stays as it stood";
+    EXPECT_EQ(world.session.plan.PlanAircraftCount(), 1);
+    EXPECT_TRUE(world.session.plan.PlanModified) << "the mark stays as it stood";
     EXPECT_FALSE(world.form.mnuToolsUndo.enabled);
     EXPECT_FALSE(world.Press(world.form.mnuToolsUndo)) << "there is nothing left to undo";
 }

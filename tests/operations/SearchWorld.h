@@ -14,15 +14,15 @@ struct SearchWorld : FakeProgram {
         AddInstalled("Jet One", "Lufthansa", kClassLargeJet);
         AddInstalled("Prop Two", "", kClassMidProp);
         AddInstalled("Jet Tre", "KLM Cityhopper", kClassHugeJet);
-        session.PlanAircrafts = {{"AC#1", "JET ONE", "450", 0},
-                                 {"AC#2", "Prop Two", "200", 0},
-                                 {"AC#3", "Gone", "400", 0},
-                                 {"AC#4", "jet tre", "480", 0}};
+        session.plan.PlanAircrafts = {{"AC#1", "JET ONE", "450", 0},
+                                      {"AC#2", "Prop Two", "200", 0},
+                                      {"AC#3", "Gone", "400", 0},
+                                      {"AC#4", "jet tre", "480", 0}};
         AddAirport("EDDF", "Europe", "Germany", "N50* 2.0'", "E8* 34.0'");
         AddAirport("KEDW", "North America", "United States", "N34* 54.0'", "W117* 53.0'");
         AddAirport("EHAM", "Europe", "Netherlands", "N52* 18.0'", "E4* 45.0'");
-        session.FlightLevelRules = {{0, 9999, 0, 359, 250, 390, 20}};
-        session.PlanLoaded = true;
+        session.rules.FlightLevelRules = {{0, 9999, 0, 359, 250, 390, 20}};
+        session.plan.PlanLoaded = true;
     }
 
     void AddInstalled(std::string title, std::string airline, std::int32_t aircraftClass) {
@@ -34,7 +34,7 @@ struct SearchWorld : FakeProgram {
         aircraft.MaxFL = 410;
         aircraft.MinRange = 0;
         aircraft.MaxRange = 9999;
-        session.FSAircrafts.push_back(aircraft);
+        session.fleet.FSAircrafts.push_back(aircraft);
     }
 
     void AddAirport(std::string code, std::string region, std::string country, std::string latitude,
@@ -44,16 +44,16 @@ struct SearchWorld : FakeProgram {
         record.ICAO = std::move(code);
         record.Region = std::move(region);
         record.Country = std::move(country);
-        session.Airports.push_back(record);
+        session.scenery.Airports.push_back(record);
     }
 
     void Add(const std::string& line, bool removed = false) {
         AddFlight(line);
-        session.Flights.SetRemoved(session.FlightCount() - 1, removed);
+        session.plan.Flights.SetRemoved(session.plan.FlightCount() - 1, removed);
     }
 
     // Places of the results.
-    const std::vector<std::int32_t>& Found() const { return session.SearchResultIndex; }
+    const std::vector<std::int32_t>& Found() const { return session.search.SearchResultIndex; }
 
     // A row of the list as displayed, texts joined by "|".
     std::string Row(std::int32_t position) const {

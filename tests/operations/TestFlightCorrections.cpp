@@ -20,24 +20,24 @@ constexpr std::int32_t kOff = kNoTurnAroundLimit;
 struct CorrectionWorld : test::FakeProgram {
     CorrectionWorld() { form.mnuToolsCheckFL.enabled = form.mnuToolsCheckFT.enabled = true; }
 
-    std::string Line(std::int32_t index) const { return session.Flights.Line(index); }
+    std::string Line(std::int32_t index) const { return session.plan.Flights.Line(index); }
     std::string Check(std::int32_t index) const {
-        const FlightTimesCheck check =
-            CheckFlightTimes(session.Flights.At(index), session.TATime, session.MaxTATime);
+        const FlightTimesCheck check = CheckFlightTimes(session.plan.Flights.At(index),
+                                                        session.switches.TATime, session.switches.MaxTATime);
         EXPECT_EQ(check.Right, check.Text.empty());
         return check.Text;
     }
     void SetLimits(std::int32_t minimum, std::int32_t maximum) {
-        session.TATime = minimum;
-        session.MaxTATime = maximum;
+        session.switches.TATime = minimum;
+        session.switches.MaxTATime = maximum;
     }
     void AddAircraft(std::string number, std::string title, std::int32_t minFL, std::int32_t maxFL) {
-        session.PlanAircrafts.push_back({std::move(number), title, "450", 0});
+        session.plan.PlanAircrafts.push_back({std::move(number), title, "450", 0});
         FSAircraft aircraft;
         aircraft.Title = UpperText(title);
         aircraft.MinFL = minFL;
         aircraft.MaxFL = maxFL;
-        session.FSAircrafts.push_back(aircraft);
+        session.fleet.FSAircrafts.push_back(aircraft);
     }
 };
 
@@ -156,7 +156,7 @@ TEST(FlightCorrections, AWeekFlightOfManyLegsTakesLinearTime) {
     world.AddFlight(LineOf("WEEK", times));
     EXPECT_NE(world.Check(0), "");
     world.Press(world.form.mnuToolsCheckFT);
-    EXPECT_EQ(world.session.Flights.At(0).LegCount, 199999);
+    EXPECT_EQ(world.session.plan.Flights.At(0).LegCount, 199999);
     EXPECT_NE(world.Line(0), LineOf("WEEK", times));
 }
 
@@ -181,9 +181,9 @@ TEST(FlightCorrections, CorrectedFlightsKeepOnlyFaultsThatMayRemain) {
         }
         world.AddFlight(LineOf("24Hr", times));
         faulty += world.Check(0) != "";
-        const FlightTimes before(world.session.Flights.At(0));
+        const FlightTimes before(world.session.plan.Flights.At(0));
         world.Press(world.form.mnuToolsCheckFT);
-        const FlightView after = world.session.Flights.At(0);
+        const FlightView after = world.session.plan.Flights.At(0);
         const FlightTimes corrected(after);
         std::int64_t total = 0;
         for (std::int32_t leg = 0; leg < legs; ++leg) {
@@ -191,9 +191,9 @@ TEST(FlightCorrections, CorrectedFlightsKeepOnlyFaultsThatMayRemain) {
             total += *corrected.FlightTime(leg);
             if (leg == 0) continue;
             total += *corrected.TurnAround(leg);
-            EXPECT_EQ(
-                TestTurnAround(*corrected.TurnAround(leg), world.session.TATime, world.session.MaxTATime),
-                TurnAroundTest::Passes)
+            EXPECT_EQ(TestTurnAround(*corrected.TurnAround(leg), world.session.switches.TATime,
+                                     world.session.switches.MaxTATime),
+                      TurnAroundTest::Passes)
                 << times;
         }
         EXPECT_EQ(after.begin()->DepartTime, times.substr(0, 8));
@@ -208,20 +208,20 @@ TEST(FlightCorrections, CorrectedFlightsKeepOnlyFaultsThatMayRemain) {
 
 TEST(FlightCorrections, LevelsAreDrawnForKnownAircraftFromTheSecondLegOn) {
     CorrectionWorld world;
-    world.session.FlightLevelRules = {
+    world.session.rules.FlightLevelRules = {
         {0, 9999, 0, 179, 250, 410, 20}, {0, 9999, 180, 359, 260, 400, 20}, {-1, 9999, -1, -1, 50, 90, 40}};
     world.AddPlanAirport("EAST", "N50* 0.00'", "E10* 0.00'");
     world.AddPlanAirport("WEST", "N50* 0.00'", "E5* 0.00'");
     world.AddAircraft("AC#1", "Jet One", 0, 999);
     world.AddAircraft("AC#3", "Jet Three", 300, 310);
-    world.session.PlanAircrafts.push_back({"AC#2", "Not installed", "450", 0});
+    world.session.plan.PlanAircrafts.push_back({"AC#2", "Not installed", "450", 0});
     const std::string rest = ",IFR,08:00:00,09:00:00,100,F,1,WEST,10:00:00,@11:00:00,100,F,2,";
     for (const char* number : {"ac#1", "AC#2", "AC#3", "AC#1", "AC#1"}) {
         world.AddFlight(Concat(number, ",N-1,50%,24Hr", rest, "EAST"));
     }
-    world.session.Flights.SetRemoved(3, true);
-    world.session.Flights.Replace(4, [&] {
-        Flight flight = world.session.Flights.Unpack(4);
+    world.session.plan.Flights.SetRemoved(3, true);
+    world.session.plan.Flights.Replace(4, [&] {
+        Flight flight = world.session.plan.Flights.Unpack(4);
         flight.Legs[0].Destination = flight.Legs[1].Destination = "NONE";
         return flight;
     }());
@@ -229,8 +229,8 @@ TEST(FlightCorrections, LevelsAreDrawnForKnownAircraftFromTheSecondLegOn) {
     ASSERT_TRUE(world.Press(world.form.mnuToolsCheckFL));
 
     std::vector<std::string> levels;
-    for (std::int32_t i = 0; i < world.session.FlightCount(); ++i) {
-        const Flight flight = world.session.Flights.Unpack(i);
+    for (std::int32_t i = 0; i < world.session.plan.FlightCount(); ++i) {
+        const Flight flight = world.session.plan.Flights.Unpack(i);
         levels.push_back(Concat(flight.Legs[0].FlightLevel, " ", flight.Legs[1].FlightLevel));
         EXPECT_TRUE(flight.Legs[1].FixedETA);
         EXPECT_EQ(flight.Legs[0].ETA, "09:00:00");
@@ -255,13 +255,13 @@ TEST(FlightCorrections, AToolIsOneUndoStepAndResetsTheViews) {
     CorrectionWorld world;
     world.AddFlight("AC#1,N-1,50%,24Hr,IFR,08:00:00,09:00:00,350,F,1,EDDM,09:00:00,11:00:00,350,F,2,EDDF");
     const std::string line = world.Line(0);
-    world.session.SearchResults = world.session.Flights;
+    world.session.search.SearchResults = world.session.plan.Flights;
     world.form.cmdTTSave.enabled = world.form.cmdExport.enabled = true;
     ASSERT_TRUE(world.Press(world.form.mnuToolsCheckFT));
     EXPECT_NE(world.Line(0), line);
-    EXPECT_TRUE(world.session.SearchResults.Empty());
+    EXPECT_TRUE(world.session.search.SearchResults.Empty());
     EXPECT_FALSE(world.form.cmdTTSave.enabled || world.form.cmdExport.enabled);
-    EXPECT_TRUE(world.session.PlanModified && world.form.mnuFileSave.enabled && world.form.enabled);
+    EXPECT_TRUE(world.session.plan.PlanModified && world.form.mnuFileSave.enabled && world.form.enabled);
     EXPECT_TRUE(world.world.progress.lines.empty());
     ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
     EXPECT_EQ(world.Line(0), line);

@@ -93,14 +93,14 @@ TEST(Search, ReportsFindTheirFaults) {
     };
     for (const auto& [mode, found] : cases) {
         SampleSearch world;
-        world.session.FlightLevelRules.front().LevelFrom = 260;
+        world.session.rules.FlightLevelRules.front().LevelFrom = 260;
         world.form.opORSearch.Check();
         world.form.txtExDeparture.text = "nowhere";
         world.Report(mode);
         EXPECT_EQ(world.Found(), found) << "mode " << static_cast<int>(mode);
     }
     SampleSearch world;
-    world.session.TATime = 90;
+    world.session.switches.TATime = 90;
     world.Report(SearchMode::WrongTime);
     EXPECT_EQ(world.Found(), (Places{0, 1, 2, 3, 4, 6, 7}));
     EXPECT_EQ(world.form.lvExPreview.columns.back().caption, "Errors");
@@ -146,14 +146,14 @@ TEST(Search, ColumnsTakeOddTexts) {
 TEST(Search, WithoutSceneryItEndsAndLeavesTheListAsItWas) {
     SampleSearch world;
     SearchFlights(world.context, "", "", SearchMode::Fields);
-    world.session.Airports.clear();
+    world.session.scenery.Airports.clear();
     world.form.txtExCountry.text = "Germany";
     SearchFlights(world.context, "", "", SearchMode::Fields);
     EXPECT_FALSE(world.form.enabled);
     EXPECT_NE(world.world.progress.lines.back(), "close");
     EXPECT_EQ(world.form.lvExPreview.Count(), 7);
     EXPECT_EQ(world.Row(6).substr(0, 10), "Lufthansa|") << "the rows can still be drawn";
-    EXPECT_EQ(world.session.SearchResultCount, 0);
+    EXPECT_EQ(world.session.search.SearchResultCount, 0);
 }
 
 TEST(Search, EmptyPlanGivesAnEmptyList) {

@@ -17,7 +17,7 @@ struct EditWorld : test::SearchWorld {
             Add(Concat("AC#1,N", i,
                        ",5%,24Hr,IFR,10:00:00,11:00:00,350,F,1,EHAM,12:00:00,13:00:00,330,F,2,EDDF"));
         }
-        session.FlightplanPath = "/plan/FlightPlans.txt";
+        session.plan.FlightplanPath = "/plan/FlightPlans.txt";
         ResetExportView(context);
         SearchFlights(context, "", "", SearchMode::Fields);
         EnableResultCommands(form);
@@ -62,8 +62,8 @@ TEST(SingleEdits, DeletedFlightsLeaveTheListAndStayInThePlan) {
         EXPECT_TRUE(world.Press(world.form.cmdDeleteFlight));
     };
     remove({1, 3});
-    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1- N2 N3- N4 N5 N6 ");
-    EXPECT_EQ(world.session.SearchResultCount, 7);
+    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1- N2 N3- N4 N5 N6 ");
+    EXPECT_EQ(world.session.search.SearchResultCount, 7);
     world.world.windows.paths = {"/plan/Out.txt"};
     ExportFlights(world.context);
     EXPECT_EQ(world.LinesOf("/plan/Out.txt"), "N0 N2 N4 N5 N6 ");
@@ -75,16 +75,17 @@ TEST(SingleEdits, DeletedFlightsLeaveTheListAndStayInThePlan) {
     SearchFlights(world.context, "", "", SearchMode::Fields);
     EXPECT_EQ(world.form.lvExPreview.Count(), 0);
     ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
-    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 ") << "all deletions are one step";
+    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 N2 N3 N4 N5 N6 ")
+        << "all deletions are one step";
 }
 
 TEST(SingleEdits, TheRemainderIsWhatWasNotFound) {
     EditWorld world;
-    world.session.Flights.SetRemoved(6, true);
+    world.session.plan.Flights.SetRemoved(6, true);
     for (const std::int32_t place : {1, 4}) {
-        Flight moved = world.session.Flights.Unpack(place);
+        Flight moved = world.session.plan.Flights.Unpack(place);
         moved.Legs.back().Destination = "KEDW";
-        world.session.Flights.Replace(place, moved);
+        world.session.plan.Flights.Replace(place, moved);
     }
     SearchFlights(world.context, "KED", "", SearchMode::Fields);
     world.world.windows.paths = {"/plan/Rest.txt"};
@@ -92,7 +93,7 @@ TEST(SingleEdits, TheRemainderIsWhatWasNotFound) {
     EXPECT_EQ(world.Said(), "Successfully exported 5 flights.");
     EXPECT_EQ(world.LinesOf("/plan/Rest.txt"), "N0 N2 N3 N5 ");
     EXPECT_EQ(world.LinesOf("/plan/Removed Flights.txt"), "N6 ");
-    EXPECT_FALSE(world.session.PlanModified);
+    EXPECT_FALSE(world.session.plan.PlanModified);
 }
 
 TEST(SingleEdits, AnEditedFlightGoesBackToItsPlace) {
@@ -100,13 +101,13 @@ TEST(SingleEdits, AnEditedFlightGoesBackToItsPlace) {
     world.form.lvExPreview.current = 2;
     world.EditorSays("");
     ASSERT_TRUE(world.Press(world.form.cmdEditFlight));
-    EXPECT_FALSE(world.session.PlanModified);
+    EXPECT_FALSE(world.session.plan.PlanModified);
     world.EditorSays("D-NEW");
     Event doubleClick{&world.form, &world.form.lvExPreview, EventKind::DoubleClick, 2};
     ASSERT_TRUE(world.program.pump.Deliver(doubleClick));
-    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 D-NEW N3 N4 N5 N6 ");
+    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 D-NEW N3 N4 N5 N6 ");
     EXPECT_EQ(world.form.lvExPreview.Text(2, 3), "D-NEW");
-    EXPECT_TRUE(world.session.PlanModified);
+    EXPECT_TRUE(world.session.plan.PlanModified);
     EXPECT_TRUE(world.form.enabled);
 }
 
@@ -126,7 +127,7 @@ TEST(SingleEdits, FlightsAreAddedToAnEmptyList) {
         world.world.messages.answers = {MessageAnswer::Yes};
         ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
     }
-    EXPECT_EQ(world.Tails(world.session.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ONE- D-TWO- ");
+    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ONE- D-TWO- ");
 }
 
 // A flight that was given up is exported, uncounted, until the next search.
@@ -141,10 +142,10 @@ TEST(SingleEdits, AFlightThatWasGivenUpStaysBehindTheResults) {
     EXPECT_EQ(world.LinesOf("/plan/Out.txt"), "N0 N1 N2 N3 N4 N5 N6 N700MS ");
     ExportRemainder(world.context);
     EXPECT_EQ(world.LinesOf("/plan/Rest.txt"), "");
-    EXPECT_EQ(world.session.FlightCount(), 7);
+    EXPECT_EQ(world.session.plan.FlightCount(), 7);
     world.EditorSays("D-ADD");
     ASSERT_TRUE(world.Press(world.form.cmdAddFlight));
-    EXPECT_EQ(world.Tails(world.session.SearchResults), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
+    EXPECT_EQ(world.Tails(world.session.search.SearchResults), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
     SearchFlights(world.context, "", "", SearchMode::Fields);
     ExportFlights(world.context);
     EXPECT_EQ(world.LinesOf("/plan/Next.txt"), "N0 N1 N2 N3 N4 N5 N6 D-ADD ");
@@ -152,10 +153,10 @@ TEST(SingleEdits, AFlightThatWasGivenUpStaysBehindTheResults) {
 
 TEST(SingleEdits, AnAircraftThatIsNotFoundIsPrintedAsSuch) {
     EditWorld world;
-    Flight unknown = world.session.Flights.Unpack(0);
+    Flight unknown = world.session.plan.Flights.Unpack(0);
     unknown.ACNumber = "AC#3";
-    world.session.Flights.Clear();
-    world.session.Flights.Append(unknown);
+    world.session.plan.Flights.Clear();
+    world.session.plan.Flights.Append(unknown);
     SearchFlights(world.context, "", "", SearchMode::Fields);
     PrintFlights(world.context);
     EXPECT_TRUE(world.world.windows.printed.back().starts_with("AC#3 # NOT FOUND # - N0/5%/24Hr/IFR\r\n"));

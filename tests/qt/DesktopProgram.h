@@ -114,11 +114,9 @@ inline EventTable SampleEvents() {
 
 // A small program behind the desktop front end, with one form open.
 struct DesktopProgram {
-    FakeWorld world;
     DesktopHost host;
-    Services services{world.files,  world.userSettings, world.machineSettings, host, host, host,
-                      world.random, world.clock};
-    Program program{services, "/program"};
+    FakeWorld world{{.frontEnd = &host}};
+    Program program{world.services, "/program"};
     Context& context = program.context;
     SampleForm form;
 

@@ -8,8 +8,7 @@
 #include "desktop/DesktopHost.h"
 #include "desktop/MainLayout.h"
 #include "desktop/ScreenText.h"
-#include "platform/Platform.h"
-#include "platform/common/SystemRandom.h"
+#include "platform/SystemServices.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 #include "support/FakeHosts.h"
@@ -25,24 +24,24 @@ inline bool MakeSampleWorld(const std::string& folder, int flights) {
     return tool.waitForFinished(-1) && tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
 }
 
-// The desktop program on a sample world, with the services that its main makes. The settings are a text file
-// in the world, the clock stands, and each seeding starts the same row of random values.
+// The system's services on a sample world: the settings are a text file in it, the clock stands, and each
+// seeding starts the same row of random values.
+inline SystemServices ServicesOn(const std::string& world) {
+    SystemServices system(JoinPath(world, "settings.txt"), JoinPath(world, "Simulator"), 1);
+    system.clock = std::make_unique<FakeClock>();
+    return system;
+}
+
+// The desktop program on a sample world, with the services that its main makes.
 struct RealProgram {
-    std::unique_ptr<FileSystem> files = MakeFileSystem();
-    std::unique_ptr<SettingsStore> userSettings;
-    std::unique_ptr<SettingsStore> machineSettings;
-    FakeClock clock;
-    SystemRandom random{1};
+    SystemServices system;
     DesktopHost host;
-    Services services;
+    Services services = system.Behind(host);
     Program program;
     MainForm& form = program.forms.frmMain;
 
     explicit RealProgram(const std::string& world)
-        : userSettings(MakeUserSettings(*files, JoinPath(world, "settings.txt"))),
-          machineSettings(MakeMachineSettings(*files, JoinPath(world, "Simulator"))),
-          services{*files, *userSettings, *machineSettings, host, host, host, random, clock},
-          program(services, JoinPath(world, "Program")) {
+        : system(ServicesOn(world)), program(services, JoinPath(world, "Program")) {
         host.Attach(program.pump, program.forms.frmProgress);
         DesignMainForm(form);
     }

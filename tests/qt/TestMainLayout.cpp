@@ -38,11 +38,9 @@ class FontOfSize {
 
 // The main window as the start leaves it.
 struct MainWindow {
-    test::FakeWorld world;
     DesktopHost host;
-    Services services{world.files,  world.userSettings, world.machineSettings, host, host, host,
-                      world.random, world.clock};
-    Program program{services, "/program"};
+    test::FakeWorld world{{.frontEnd = &host}};
+    Program program{world.services, "/program"};
     MainForm& form = program.forms.frmMain;
 
     explicit MainWindow(WindowBox stored = {}) {

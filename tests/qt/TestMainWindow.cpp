@@ -37,8 +37,9 @@ TEST(MainWindow, TheCloseBoxEndsTheProgramAndStoresThePlaceOfTheWindow) {
     window.setGeometry(40, 30, 700, 500);
     QTimer::singleShot(50, [&] { window.close(); });
     desktop.host.RunUntilClosed(desktop.form);
-    EXPECT_EQ(desktop.userSettings->Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "MainLeft"),
-              "40");
+    EXPECT_EQ(
+        desktop.system.userSettings->Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "MainLeft"),
+        "40");
 }
 
 TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {

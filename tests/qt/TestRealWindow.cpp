@@ -81,16 +81,12 @@ Outcome RunInWindow(World& world, const std::string& script) {
 
 Outcome RunOnConsole(World& world, const std::string& script) {
     world.Renew();
-    const auto files = MakeFileSystem();
-    const auto userSettings = MakeUserSettings(*files, JoinPath(world.Path(), "settings.txt"));
-    const auto machineSettings = MakeMachineSettings(*files, JoinPath(world.Path(), "Simulator"));
-    test::FakeClock clock;
-    SystemRandom random(1);
+    SystemServices system = test::ServicesOn(world.Path());
     std::istringstream lines(script);
     std::ostringstream said;
     std::ostringstream errors;
-    ConsoleHost host(*files, said, false, false);
-    Services services{*files, *userSettings, *machineSettings, host, host, host, random, clock};
+    ConsoleHost host(*system.files, said, false, false);
+    Services services = system.Behind(host);
     Program program(services, JoinPath(world.Path(), "Program"));
     ScriptRunner runner(program, host, lines, said, errors, false);
     EXPECT_TRUE(StartUp(program.context));

@@ -28,7 +28,7 @@ TEST(EventPump, EventsThatNoUserCouldCauseAreDropped) {
     EXPECT_FALSE(fake.Press(fake.form.mnuToolsDebug)) << "a window under a modal one";
     pump.Windows().Unload(about);
     EXPECT_TRUE(fake.Press(fake.form.mnuToolsDebug));
-    EXPECT_FALSE(fake.session.DebugOn) << "two clicks arrived";
+    EXPECT_FALSE(fake.session.switches.DebugOn) << "two clicks arrived";
 }
 
 TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {

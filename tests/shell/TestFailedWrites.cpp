@@ -21,13 +21,13 @@ struct Writer {
 };
 
 void AddPlan(test::FakeProgram& fake) {
-    fake.session.FlightplanPath = "/plan/FlightPlans.txt";
-    fake.session.BackupPlan = false;
-    fake.session.PlanAircrafts = {{"AC#1", "Jet One", "450", 0}};
+    fake.session.plan.FlightplanPath = "/plan/FlightPlans.txt";
+    fake.session.switches.BackupPlan = false;
+    fake.session.plan.PlanAircrafts = {{"AC#1", "Jet One", "450", 0}};
     Flight flight;
     flight.ACNumber = "AC#1";
     flight.Legs.resize(2);
-    fake.session.Flights.Append(flight);
+    fake.session.plan.Flights.Append(flight);
     fake.form.mnuFileSave.enabled = true;
 }
 
@@ -36,14 +36,14 @@ const std::vector<Writer> kWriters = {
      [](test::FakeProgram& fake) { fake.Press(fake.form.mnuFileSave); }},
     {"the removed flights", "/plan/Removed Flights.txt", true,
      [](test::FakeProgram& fake) {
-         fake.session.Flights.SetRemoved(0, true);
+         fake.session.plan.Flights.SetRemoved(0, true);
          fake.Press(fake.form.mnuFileSave);
      }},
     {"the plan's aircraft", "/plan/Aircraft.txt", true,
      [](test::FakeProgram& fake) { fake.Press(fake.form.mnuFileSave); }},
     {"the airline skeleton", "/program/New ORLO_AL.CFG", true,
      [](test::FakeProgram& fake) {
-         fake.session.Airports.resize(1);
+         fake.session.scenery.Airports.resize(1);
          fake.Press(fake.form.mnuToolsAirlinesCFG);
      }},
     {"the aircraft classes", "/program/ORLO_AC.CFG", false,
@@ -89,10 +89,10 @@ TEST(FailedWrites, AKillBetweenTwoFilesOfASaveLosesNoFlight) {
         SCOPED_TRACE(written);
         test::FakeProgram fake;
         AddPlan(fake);
-        Flight removed = fake.session.Flights.Unpack(0);
+        Flight removed = fake.session.plan.Flights.Unpack(0);
         removed.TailNumber = "REMOVED";
         removed.Removed = true;
-        fake.session.Flights.Append(removed);
+        fake.session.plan.Flights.Append(removed);
         fake.world.files.files["/plan/FlightPlans.txt"] = "old plan with REMOVED";
         fake.world.files.files["/plan/Aircraft.txt"] = "old aircraft";
         fake.world.files.commitsBeforeKill = written;

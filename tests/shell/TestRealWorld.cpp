@@ -25,11 +25,9 @@ namespace fs = std::filesystem;
 // A copy of the plan, a program folder with the default rules, and the program on them.
 struct RealWorld {
     fs::path folder;
-    test::FakeWorld fakes;
     PosixFileSystem files;
-    Services services{files,          fakes.userSettings, fakes.machineSettings, fakes.progress,
-                      fakes.messages, fakes.windows,      fakes.random,          fakes.clock};
-    Program program{services, (folder / "Program").string()};
+    test::FakeWorld fakes{{.files = &files}};
+    Program program{fakes.services, (folder / "Program").string()};
 
     static fs::path Source() { return fs::path(ORLO_SOURCE_DIR) / ".." / "shared" / "real"; }
 
@@ -65,7 +63,7 @@ std::string Misfit(const Session& session,
     for (const LegView& leg : flight) {
         const std::int32_t distance = positions.Distance(from, leg.Destination);
         if (distance < aircraft.MinRange || distance > aircraft.MaxRange) return "range";
-        if (!session.CheckFL) {
+        if (!session.shuffle.CheckFL) {
             const std::int32_t level = ParseWholeNumber(leg.FlightLevel).value_or(-1);
             if (level < aircraft.MinFL || level > aircraft.MaxFL) return "level";
         }
@@ -93,47 +91,47 @@ void ShuffleAndCheck(bool checkFL) {
     world.program.pump.Windows().Show(form);
     world.fakes.windows.paths.push_back((world.folder / "Plan" / "FlightPlans.txt").string());
     world.Press(form.mnuFileLoad);
-    const std::string lines = ReadWholeFile(world.files, session.FlightplanPath).value_or("");
-    ASSERT_EQ(session.FlightCount(), std::count(lines.begin(), lines.end(), '\n'));
+    const std::string lines = ReadWholeFile(world.files, session.plan.FlightplanPath).value_or("");
+    ASSERT_EQ(session.plan.FlightCount(), std::count(lines.begin(), lines.end(), '\n'));
     form.ckCheckFL.checked = checkFL;
     world.Press(form.cmdShuffle);
     ASSERT_TRUE(world.fakes.messages.shown.back().second.ends_with(" flights remaining."));
 
     std::map<std::string, const AirportRecord*, std::less<>> airports;
-    for (const AirportRecord& airport : session.Airports)
+    for (const AirportRecord& airport : session.scenery.Airports)
         airports.try_emplace(UpperText(airport.ICAO), &airport);
     std::map<std::string, const FSAircraft*, std::less<>> aircraft;
-    for (const PlanAircraft& plan : session.PlanAircrafts) {
-        for (const FSAircraft& installed : session.FSAircrafts) {
+    for (const PlanAircraft& plan : session.plan.PlanAircrafts) {
+        for (const FSAircraft& installed : session.fleet.FSAircrafts) {
             if (EqualNoCase(installed.Title, plan.Title)) aircraft.try_emplace(plan.ACNumber, &installed);
         }
     }
-    const PlanPositions positions(session);
+    const PlanPositions positions(session.plan);
     std::int32_t removed = 0;
-    for (std::int32_t i = 0; i < session.FlightCount(); ++i) {
-        const FlightView flight = session.Flights.At(i);
+    for (std::int32_t i = 0; i < session.plan.FlightCount(); ++i) {
+        const FlightView flight = session.plan.Flights.At(i);
         if (flight.Removed) {
             // Nothing in the fleet can fly it. With levels recomputed, so can nothing at any level.
             ++removed;
             for (const auto& [number, candidate] : aircraft) {
                 ASSERT_NE(Misfit(session, airports, positions, *candidate, flight), "")
-                    << session.Flights.Line(i);
+                    << session.plan.Flights.Line(i);
             }
             continue;
         }
         const auto chosen = aircraft.find(flight.ACNumber);
         ASSERT_NE(chosen, aircraft.end());
         ASSERT_EQ(Misfit(session, airports, positions, *chosen->second, flight), "")
-            << session.Flights.Line(i);
+            << session.plan.Flights.Line(i);
     }
 
     world.Press(form.mnuFileSave);
-    Session again;
-    again.FlightplanPath = session.FlightplanPath;
-    ReadFlightplan(again, world.services);
-    EXPECT_EQ(again.FlightCount(), session.FlightCount() - removed);
+    Plan again;
+    again.FlightplanPath = session.plan.FlightplanPath;
+    ReadFlightplan(again, world.fakes.services);
+    EXPECT_EQ(again.FlightCount(), session.plan.FlightCount() - removed);
     again.FlightplanPath = (world.folder / "Plan" / kRemovedFlightsName).string();
-    ReadFlightplan(again, world.services);
+    ReadFlightplan(again, world.fakes.services);
     EXPECT_EQ(again.FlightCount(), removed);
 }
 

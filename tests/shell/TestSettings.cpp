@@ -33,7 +33,7 @@ TEST(Settings, BooleansReadInBothForms) {
         test::FakeProgram fake;
         Store(fake, "Settings", "Undo", c.stored);
         ReadAll(fake);
-        EXPECT_EQ(fake.session.Undo, c.read) << c.stored;
+        EXPECT_EQ(fake.session.switches.Undo, c.read) << c.stored;
         EXPECT_EQ(fake.form.mnuToolsUndoOn.checked, c.read) << c.stored;
     }
 }
@@ -43,8 +43,8 @@ TEST(Settings, ATurnAroundThatIsNoneOfTheMenuIsOff) {
     Store(fake, "Settings", "TATime", "40");
     Store(fake, "Settings", "MaxTATime", "3");
     ReadAll(fake);
-    EXPECT_EQ(fake.session.TATime, kNoTurnAroundLimit);
-    EXPECT_EQ(fake.session.MaxTATime, kNoTurnAroundLimit);
+    EXPECT_EQ(fake.session.switches.TATime, kNoTurnAroundLimit);
+    EXPECT_EQ(fake.session.switches.MaxTATime, kNoTurnAroundLimit);
     EXPECT_TRUE(fake.form.mnuTAOff.checked && fake.form.mnuMaxTAOff.checked);
     EXPECT_FALSE(fake.form.mnuTA30.checked);
     WriteSettings(fake.context);
@@ -68,12 +68,12 @@ TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) 
                                                      {"/own", "/own", true},
                                                      {"/machine", "/machine", false}}) {
         fake.world.files.files[cache] = "cache";
-        fake.session.Airports.resize(1);
+        fake.session.scenery.Airports.resize(1);
         if (*c.chosen != 0) fake.world.windows.paths.push_back(c.chosen);
         fake.Press(fake.form.mnuToolsSimulatorFolder);
         EXPECT_EQ(SimulatorFolder(fake.session, fake.world.machineSettings), c.folder);
         EXPECT_EQ(fake.world.files.FileExists(cache), c.airportsKept) << c.chosen;
-        EXPECT_EQ(fake.session.Airports.size(), c.airportsKept ? 1u : 0u) << c.chosen;
+        EXPECT_EQ(fake.session.scenery.Airports.size(), c.airportsKept ? 1u : 0u) << c.chosen;
     }
     WriteSettings(fake.context);
     test::FakeProgram next;

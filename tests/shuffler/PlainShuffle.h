@@ -27,17 +27,17 @@ class PlainShuffle {
     std::int32_t noAirlineFlights = 0;
 
     PlainShuffle(const Session& before, RandomSource& random)
-        : session(before), random_(random), positions_(session) {
+        : session(before), random_(random), positions_(session.plan) {
         MatchAll();
         random_.SeedFromClock();
-        for (std::int32_t i = 0; i < session.FlightCount(); ++i) {
-            flight_ = session.Flights.Unpack(i);
+        for (std::int32_t i = 0; i < session.plan.FlightCount(); ++i) {
+            flight_ = session.plan.Flights.Unpack(i);
             if (flight_.Removed) continue;
             succeeded = FindLimits();
             if (!succeeded) break;
             Decide();
-            session.Flights.Replace(i, flight_);
-            session.Flights.SetRemoved(i, flight_.Removed);
+            session.plan.Flights.Replace(i, flight_);
+            session.plan.Flights.SetRemoved(i, flight_.Removed);
         }
     }
 
@@ -55,14 +55,16 @@ class PlainShuffle {
     std::size_t Draw(std::size_t last) {
         return static_cast<std::size_t>(Round(static_cast<double>(last) * random_.Next()));
     }
-    FSAircraft& FSAt(std::int32_t index) { return session.FSAircrafts[static_cast<std::size_t>(index)]; }
+    FSAircraft& FSAt(std::int32_t index) {
+        return session.fleet.FSAircrafts[static_cast<std::size_t>(index)];
+    }
     PlanAircraft& PlanAt(std::int32_t index) {
-        return session.PlanAircrafts[static_cast<std::size_t>(index)];
+        return session.plan.PlanAircrafts[static_cast<std::size_t>(index)];
     }
 
     void MatchAll() {
-        session.RunAirlines = session.Airlines;
-        for (AirlineSet* set : ListAirlineSets(session.RunAirlines)) {
+        session.shuffle.RunAirlines = session.rules.Airlines;
+        for (AirlineSet* set : ListAirlineSets(session.shuffle.RunAirlines)) {
             set->Flights = 0;
             for (AirlineEntry& entry : set->Airlines) {
                 entry.Flights = entry.PlannedPercent = 0;
@@ -71,20 +73,20 @@ class PlainShuffle {
         }
         noAirline_.resize(1);
         noAirline_[0].PlannedPercent = 100;
-        for (std::int32_t p = 0; p < session.PlanAircraftCount(); ++p) {
-            for (std::int32_t f = 0; f < session.FSAircraftCount(); ++f) {
+        for (std::int32_t p = 0; p < session.plan.PlanAircraftCount(); ++p) {
+            for (std::int32_t f = 0; f < session.fleet.FSAircraftCount(); ++f) {
                 if (UpperText(FSAt(f).Title) != UpperText(PlanAt(p).Title)) continue;
                 Match({f, p, 0});
                 break;
             }
         }
-        for (AirlineSet* set : ListAirlineSets(session.RunAirlines)) Normalise(*set);
+        for (AirlineSet* set : ListAirlineSets(session.shuffle.RunAirlines)) Normalise(*set);
     }
 
     void Match(AirlineAircraft aircraft) {
         const std::string airline = UpperText(FSAt(aircraft.AircraftIndex).Airline);
         if (airline.empty()) return noAirline_[0].Aircraft.push_back(aircraft);
-        for (AirlineSet* set : ListAirlineSets(session.RunAirlines)) {
+        for (AirlineSet* set : ListAirlineSets(session.shuffle.RunAirlines)) {
             for (AirlineEntry& entry : set->Airlines) {
                 if (UpperText(entry.Name) == airline) entry.Aircraft.push_back(aircraft);
             }
@@ -132,7 +134,7 @@ class PlainShuffle {
     }
 
     const AirportRecord* FindRecord(std::string_view code) const {
-        for (const AirportRecord& record : session.Airports) {
+        for (const AirportRecord& record : session.scenery.Airports) {
             if (UpperText(record.ICAO) == UpperText(code)) return &record;
         }
         return nullptr;
@@ -162,7 +164,7 @@ class PlainShuffle {
     }
 
     void Decide() {
-        AirlineSets& sets = session.RunAirlines;
+        AirlineSets& sets = session.shuffle.RunAirlines;
         std::string patterns;
         std::size_t first = 0, second = 0;
         std::string code = flight_.Legs.empty() ? "" : flight_.Legs.back().Destination;
@@ -183,7 +185,7 @@ class PlainShuffle {
                 continue;
             }
             if (level(sets.Countries, country, false)) return;
-            if (session.CheckVisitedAirports && second + 1 < flight_.Legs.size()) {
+            if (session.shuffle.CheckVisitedAirports && second + 1 < flight_.Legs.size()) {
                 code = flight_.Legs[second++].Destination;
                 continue;
             }
@@ -220,7 +222,7 @@ class PlainShuffle {
             for (AirlineAircraft& choice : entry.Aircraft) {
                 const FSAircraft& aircraft = FSAt(choice.AircraftIndex);
                 const bool levels = limits_.minLevel >= aircraft.MinFL && limits_.maxLevel <= aircraft.MaxFL;
-                if (!levels && !session.CheckFL) continue;
+                if (!levels && !session.shuffle.CheckFL) continue;
                 if (limits_.minDistance < aircraft.MinRange) continue;
                 if (limits_.maxDistance > aircraft.MaxRange) continue;
                 if (aircraft.RunwayLength > minRunway) continue;
@@ -242,7 +244,7 @@ class PlainShuffle {
 
     void Take(AirlineEntry& entry, AirlineAircraft& aircraft) {
         flight_.ACNumber = PlanAt(aircraft.PlanAircraftIndex).ACNumber;
-        for (PlanAircraft& plan : session.PlanAircrafts) {
+        for (PlanAircraft& plan : session.plan.PlanAircrafts) {
             if (plan.ACNumber != flight_.ACNumber) continue;
             ++plan.UsageCount;
             break;
@@ -251,7 +253,7 @@ class PlainShuffle {
         ++entry.Flights;
         ++assigned;
         const FSAircraft& chosen = FSAt(aircraft.AircraftIndex);
-        if (session.ChangeIFRVFR) ApplyRules(chosen.Class);
+        if (session.shuffle.ChangeIFRVFR) ApplyRules(chosen.Class);
         ApplyLevelsAndTimes(chosen);
     }
 
@@ -267,24 +269,24 @@ class PlainShuffle {
             const std::size_t i = n % flight_.Legs.size();  // the first leg last
             Leg& leg = flight_.Legs[i];
             const std::int32_t course = positions_.Course(From(i), std::string_view(leg.Destination));
-            if (session.CheckFL) {
+            if (session.shuffle.CheckFL) {
                 leg.FlightLevel =
-                    SuggestFlightLevel(session.FlightLevelRules, flight_.FlightType, DistanceOf(i), course,
-                                       {aircraft.MinFL, aircraft.MaxFL}, false, random_);
+                    SuggestFlightLevel(session.rules.FlightLevelRules, flight_.FlightType, DistanceOf(i),
+                                       course, {aircraft.MinFL, aircraft.MaxFL}, false, random_);
             }
             leg.ETA = GetArrivalTime(DistanceOf(i), leg.DepartTime, flight_.Period, aircraft.CruiseSpeed);
         }
     }
 
     void OverwriteTail(const std::string& patterns) {
-        if (patterns.empty() || !session.OverwriteTailNumber) return;
+        if (patterns.empty() || !session.shuffle.OverwriteTailNumber) return;
         const std::vector<std::string_view> list = SplitText(patterns, ',');
         flight_.TailNumber.clear();
         for (char character : list[Draw(list.size() - 1)]) {
             if (character == '?') character = Draw(1) == 1 ? '!' : '.';
             if (character == '!') character = static_cast<char>('0' + Draw(9));
             if (character == '.') character = static_cast<char>('A' + Draw(25));
-            if (character != '-' || !session.RemoveMinus) flight_.TailNumber += character;
+            if (character != '-' || !session.shuffle.RemoveMinus) flight_.TailNumber += character;
         }
     }
 

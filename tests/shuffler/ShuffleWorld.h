@@ -50,20 +50,18 @@ inline AirlineSet MakeSet(std::string_view name, const std::vector<Share>& share
 // A session in which a shuffle can run, with all options off, and the fakes that it needs. Airports lie one
 // degree of longitude apart on the equator, so 60 nautical miles each from the next.
 struct ShuffleWorld {
-    FakeWorld world;
     SeededRandom random;
-    Services services{world.files,    world.userSettings, world.machineSettings,
-                      world.progress, world.messages,     world.windows,
-                      random,         world.clock};
+    FakeWorld world{{.random = &random}};
+    Services& services = world.services;
     Session session;
 
     explicit ShuffleWorld(unsigned seed = 1) : random(seed) {
-        session.PlanLoaded = true;
-        session.OverwriteTailNumber = false;
-        session.CheckVisitedAirports = false;
-        session.ChangeIFRVFR = false;
-        session.CheckFL = false;
-        session.FlightLevelRules = {{-1, -1, 0, 359, 35, 95, 20}, {0, 9999, 0, 359, 100, 400, 20}};
+        session.plan.PlanLoaded = true;
+        session.shuffle.OverwriteTailNumber = false;
+        session.shuffle.CheckVisitedAirports = false;
+        session.shuffle.ChangeIFRVFR = false;
+        session.shuffle.CheckFL = false;
+        session.rules.FlightLevelRules = {{-1, -1, 0, 359, 35, 95, 20}, {0, 9999, 0, 359, 100, 400, 20}};
     }
 
     AirportRecord& AddAirport(std::string_view code, std::string_view region, std::string_view country,
@@ -78,14 +76,14 @@ struct ShuffleWorld {
         record.TakeoffSurface = record.LandingSurface = kSurfaceHard;
         record.MinParkingRadius = 50;
         AddPosition(code);
-        session.Airports.push_back(std::move(record));
-        return session.Airports.back();
+        session.scenery.Airports.push_back(std::move(record));
+        return session.scenery.Airports.back();
     }
 
     void AddPosition(std::string_view code) {
-        const std::int32_t place = session.PlanAirportCount();
-        session.PlanAirportIndex.Add(code, place);
-        session.PlanAirports.push_back(
+        const std::int32_t place = session.plan.PlanAirportCount();
+        session.plan.PlanAirportIndex.Add(code, place);
+        session.plan.PlanAirports.push_back(
             {std::string(code), "N0* 00.00'", Concat("W", place, "* 00.00'"), "0"});
     }
 
@@ -105,10 +103,10 @@ struct ShuffleWorld {
         aircraft.RunwayLength = 1000;
         aircraft.RunwayTypes = "Hard/Soft";
         aircraft.MinParkingRadius = 10;
-        session.PlanAircrafts.push_back(
-            {Concat("AC#", session.PlanAircraftCount() + 1), std::string(title), "120", 0});
-        session.FSAircrafts.push_back(std::move(aircraft));
-        return session.FSAircrafts.back();
+        session.plan.PlanAircrafts.push_back(
+            {Concat("AC#", session.plan.PlanAircraftCount() + 1), std::string(title), "120", 0});
+        session.fleet.FSAircrafts.push_back(std::move(aircraft));
+        return session.fleet.FSAircrafts.back();
     }
 
     // A flight that ends its legs at `codes`, all at one level, departing an hour apart.
@@ -119,19 +117,20 @@ struct ShuffleWorld {
             flight.Legs.push_back({Concat("0", flight.LegCount(), ":00:00"), "09:09:09", false,
                                    std::string(level), "X", "1234", std::string(code)});
         }
-        session.Flights.Append(flight);
+        session.plan.Flights.Append(flight);
     }
 
     ShuffleResult Shuffle() { return ShuffleFlightplan(session, services, "/plan/FlightPlans.txt"); }
 
     // The aircraft of a flight, "-" where it was removed.
     std::string AircraftOf(std::int32_t index) const {
-        return session.Flights.Removed(index) ? "-" : std::string(session.Flights.At(index).ACNumber);
+        return session.plan.Flights.Removed(index) ? "-"
+                                                   : std::string(session.plan.Flights.At(index).ACNumber);
     }
     // Those of all flights, with a blank between them.
     std::string Aircraft() const {
         std::string text;
-        for (std::int32_t i = 0; i < session.FlightCount(); ++i) {
+        for (std::int32_t i = 0; i < session.plan.FlightCount(); ++i) {
             if (i > 0) text.push_back(' ');
             text.append(AircraftOf(i));
         }

@@ -16,18 +16,18 @@ class WorldMaker {
 
     void Fill(ShuffleWorld& made) {
         Session& session = made.session;
-        session.OverwriteTailNumber = Chance(60);
-        session.CheckVisitedAirports = Chance(50);
-        session.ChangeIFRVFR = Chance(50);
-        session.RemoveMinus = Chance(50);
-        session.CheckFL = Chance(50);
+        session.shuffle.OverwriteTailNumber = Chance(60);
+        session.shuffle.CheckVisitedAirports = Chance(50);
+        session.shuffle.ChangeIFRVFR = Chance(50);
+        session.shuffle.RemoveMinus = Chance(50);
+        session.shuffle.CheckFL = Chance(50);
         const bool longRunways = Chance(3);
         for (std::string_view code : kCodes) AddAirport(made, code);
-        for (AirportRecord& airport : session.Airports) {
+        for (AirportRecord& airport : session.scenery.Airports) {
             if (longRunways) airport.TakeoffLength = airport.LandingLength = 999999;
         }
         for (int i = 0, count = Below(30); i < count; ++i) AddAircraft(made);
-        AddSets(session.Airlines);
+        AddSets(session.rules.Airlines);
         const int badLevels = Chance(20) ? 2 : 0;
         for (int i = 0, count = 5 + Below(60); i < count; ++i) AddFlight(session, badLevels);
     }
@@ -52,8 +52,8 @@ class WorldMaker {
 
     void AddAirport(ShuffleWorld& made, std::string_view code) {
         if (Chance(92)) made.AddPosition(code);
-        if (Chance(10) && !made.session.PlanAirports.empty())
-            made.session.PlanAirports.back().Longitude = "W1* 00.00'";
+        if (Chance(10) && !made.session.plan.PlanAirports.empty())
+            made.session.plan.PlanAirports.back().Longitude = "W1* 00.00'";
         if (code.empty() ? Chance(95) : Chance(5)) return;
         const bool oneCountry = Chance(70);
         AirportRecord record;
@@ -67,15 +67,15 @@ class WorldMaker {
         record.TakeoffSurface = Chance(85) ? 1 : Below(6);
         record.LandingSurface = Chance(85) ? 1 : Below(5);
         record.MinParkingRadius = Chance(50) ? 9999 : 5 + 10 * Below(4);
-        made.session.Airports.push_back(record);
+        made.session.scenery.Airports.push_back(record);
     }
 
     void AddAircraft(ShuffleWorld& made) {
         const std::string title = Concat("Title ", Below(30));
         FSAircraft& aircraft = made.AddAircraft(title, AnyCase(Pick(kAirlines)));
-        if (Chance(15)) made.session.PlanAircrafts.back().ACNumber = "AC#1";
-        if (Chance(15)) made.session.PlanAircrafts.back().Title = "not installed";
-        if (Chance(30)) made.session.PlanAircrafts.back().Title = UpperText(title);
+        if (Chance(15)) made.session.plan.PlanAircrafts.back().ACNumber = "AC#1";
+        if (Chance(15)) made.session.plan.PlanAircrafts.back().Title = "not installed";
+        if (Chance(30)) made.session.plan.PlanAircrafts.back().Title = UpperText(title);
         aircraft.Class = Below(9);
         aircraft.CruiseSpeed = Chance(5) ? 0 : 60 + Below(400);
         aircraft.MinFL = Chance(50) ? 0 : 20 * Below(8);
@@ -137,7 +137,7 @@ class WorldMaker {
             leg.Destination = kCodes[static_cast<std::size_t>(Below(Chance(3) ? 10 : Chance(40) ? 9 : 4))];
             flight.Legs.push_back(leg);
         }
-        session.Flights.Append(flight);
+        session.plan.Flights.Append(flight);
     }
 
     static std::string FormatHour(int hour) { return Concat(hour / 10, hour % 10, ":05:00"); }
@@ -183,13 +183,13 @@ void CompareOneWorld(unsigned seed, Seen& seen) {
     EXPECT_EQ(result.removed, plain.removed);
     EXPECT_EQ(result.assigned, plain.assigned);
     EXPECT_EQ(made.random.taken, plainRandom.taken);
-    ASSERT_EQ(made.session.FlightCount(), plain.session.FlightCount());
-    for (std::int32_t i = 0; i < made.session.FlightCount(); ++i) {
-        ASSERT_EQ(made.session.Flights.Line(i), plain.session.Flights.Line(i));
-        ASSERT_EQ(made.session.Flights.Removed(i), plain.session.Flights.Removed(i)) << i;
+    ASSERT_EQ(made.session.plan.FlightCount(), plain.session.plan.FlightCount());
+    for (std::int32_t i = 0; i < made.session.plan.FlightCount(); ++i) {
+        ASSERT_EQ(made.session.plan.Flights.Line(i), plain.session.plan.Flights.Line(i));
+        ASSERT_EQ(made.session.plan.Flights.Removed(i), plain.session.plan.Flights.Removed(i)) << i;
     }
-    EXPECT_EQ(Describe(made.session.RunAirlines), Describe(plain.session.RunAirlines));
-    EXPECT_EQ(made.session.PlanAircrafts, plain.session.PlanAircrafts);
+    EXPECT_EQ(Describe(made.session.shuffle.RunAirlines), Describe(plain.session.shuffle.RunAirlines));
+    EXPECT_EQ(made.session.plan.PlanAircrafts, plain.session.plan.PlanAircrafts);
     seen.assigned += plain.assigned;
     seen.removed += plain.removed;
     seen.noAirline += plain.noAirlineFlights;

@@ -9,7 +9,7 @@ namespace {
 void AddManyFlights(ShuffleWorld& made, AirlineSet set, int flights) {
     made.AddAirport("ONE1", "N", "One", "", "");
     made.AddAirport("ONE2", "N", "One", "", "");
-    made.session.Airlines.Airports = {std::move(set)};
+    made.session.rules.Airlines.Airports = {std::move(set)};
     for (int i = 0; i < flights; ++i) made.AddFlight({"ONE2", "ONE1"});
 }
 
@@ -36,7 +36,7 @@ TEST(ShuffleEngine, AirlinesEndNearTheirShares) {
         int number = 0;
         for (std::string_view airline : test.airlines) made.AddAircraft(Concat("T", ++number), airline);
         EXPECT_EQ(made.Shuffle().assigned, kFlights);
-        const AirlineSet& set = made.session.RunAirlines.Airports[0];
+        const AirlineSet& set = made.session.shuffle.RunAirlines.Airports[0];
         EXPECT_EQ(set.Flights, kFlights);
         for (std::size_t i = 0; i < test.expected.size(); ++i) {
             EXPECT_NEAR(set.Airlines[i].Flights * 100.0 / kFlights, test.expected[i], test.tolerance) << i;
@@ -49,41 +49,41 @@ TEST(ShuffleEngine, ASeedGivesOnePlanAndEachRunStartsFromTheRulesAsRead) {
         auto made = std::make_unique<ShuffleWorld>(seed);
         AddManyFlights(*made, MakeSet("ONE1", {{"A", 80}, {"B", 70}}, "N!!!,D-..."), 50);
         for (std::string_view airline : {"A", "A", "B", "B"}) {
-            made->AddAircraft(Concat("T", made->session.PlanAircraftCount()), airline);
+            made->AddAircraft(Concat("T", made->session.plan.PlanAircraftCount()), airline);
         }
-        made->session.OverwriteTailNumber = true;
-        made->session.CheckFL = true;
+        made->session.shuffle.OverwriteTailNumber = true;
+        made->session.shuffle.CheckFL = true;
         made->Shuffle();
         return made;
     };
     const auto rows = [](const ShuffleWorld& made) {
         std::string text;
-        for (std::int32_t i = 0; i < made.session.FlightCount(); ++i)
-            text.append(made.session.Flights.Line(i));
+        for (std::int32_t i = 0; i < made.session.plan.FlightCount(); ++i)
+            text.append(made.session.plan.Flights.Line(i));
         return text;
     };
     const auto first = make(7);
     EXPECT_EQ(rows(*make(7)), rows(*first));
     EXPECT_NE(rows(*make(8)), rows(*first));
 
-    EXPECT_EQ(first->session.Airlines.Airports[0].Airlines[1].Percent, 70);
+    EXPECT_EQ(first->session.rules.Airlines.Airports[0].Airlines[1].Percent, 70);
     const std::string before = rows(*first);
     first->Shuffle();
     EXPECT_EQ(rows(*first), before);
-    EXPECT_EQ(first->session.RunAirlines.Airports[0].Flights, 50);
+    EXPECT_EQ(first->session.shuffle.RunAirlines.Airports[0].Flights, 50);
 }
 
 TEST(ShuffleEngine, ALevelThatIsNoNumberEndsTheRunAndKeepsWhatWasDecided) {
     for (std::string_view level : {"", "FL100", "99999999999"}) {
         SCOPED_TRACE(level);
         ShuffleWorld made;
-        made.session.DebugOn = true;
+        made.session.switches.DebugOn = true;
         AddManyFlights(made, MakeSet("ONE1", {{"A"}}), 1);
         made.AddAircraft("T1", "A");
         made.AddFlight({"ONE2", "NONE"});
         made.AddFlight({"ONE2", "ONE1"}, level);
         made.AddFlight({"ONE2", "NONE"});
-        made.session.Flights.SetRemoved(1, true);  // left as it is
+        made.session.plan.Flights.SetRemoved(1, true);  // left as it is
         const ShuffleResult result = made.Shuffle();
         EXPECT_FALSE(result.succeeded);
         EXPECT_EQ(result.assigned, 1);

@@ -16,9 +16,9 @@ std::string Lines(const std::string& log) {
 // One flight of each outcome: by airport set, by the world's set, without airline, for want of a runway, for
 // an unknown airport.
 void FillWorld(ShuffleWorld& made) {
-    made.session.DebugOn = true;
-    made.session.OverwriteTailNumber = true;
-    made.session.ChangeIFRVFR = true;
+    made.session.switches.DebugOn = true;
+    made.session.shuffle.OverwriteTailNumber = true;
+    made.session.shuffle.ChangeIFRVFR = true;
     made.AddAirport("ONE1", "North", "One", "", "");
     made.AddAirport("ONE2", "North", "One", "", "");
     made.AddAirport("WET1", "North", "Two", "", "").LandingSurface = kSurfaceWater;
@@ -26,17 +26,17 @@ void FillWorld(ShuffleWorld& made) {
     made.AddAircraft("Jet One", "Alpha");
     made.AddAircraft("Boat", "Beta").RunwayTypes = "WATER";
     made.AddAircraft("Sledge", "").RunwayTypes = "SNOW";
-    made.session.FSAircrafts[1].Class = 77;
-    made.session.FSAircrafts[2].Class = kClassMicroProp;
-    made.session.Airlines.Airports = {MakeSet("ONE1", {{"Alpha", 70}, {"Gamma", 10}}, "N1")};
-    made.session.Airlines.Cities = {MakeSet("North/One/Empty", {})};
-    made.session.Airlines.Global = MakeSet("", {{"Alpha"}, {"Beta"}, {"Alpha"}});
+    made.session.fleet.FSAircrafts[1].Class = 77;
+    made.session.fleet.FSAircrafts[2].Class = kClassMicroProp;
+    made.session.rules.Airlines.Airports = {MakeSet("ONE1", {{"Alpha", 70}, {"Gamma", 10}}, "N1")};
+    made.session.rules.Airlines.Cities = {MakeSet("North/One/Empty", {})};
+    made.session.rules.Airlines.Global = MakeSet("", {{"Alpha"}, {"Beta"}, {"Alpha"}});
     made.AddFlight({"ONE2", "ONE1"}, "200", "VFR");
     made.AddFlight({"WET1", "ONE2"}, "95");
     made.AddFlight({"ICE1", "ONE2"});
-    made.session.FSAircrafts[2].MaxRange = 180;
+    made.session.fleet.FSAircrafts[2].MaxRange = 180;
     made.AddFlight({"ICE1", "ONE1", "WET1", "ICE1"});
-    made.session.Airports[0].LandingLength = 1200;
+    made.session.scenery.Airports[0].LandingLength = 1200;
     made.AddFlight({"ONE1", "none"});
     made.AddFlight({"WET1", "WET1"});
 }
@@ -44,7 +44,7 @@ void FillWorld(ShuffleWorld& made) {
 TEST(ShuffleLogs, EachFlightIsExplained) {
     ShuffleWorld made;
     FillWorld(made);
-    made.session.FSAircrafts[2].RunwayLength = 1300;
+    made.session.fleet.FSAircrafts[2].RunwayLength = 1300;
     made.Shuffle();
     EXPECT_EQ(Lines(made.world.files.files["/plan/Shuffle.log"]),
               R"(;---------------------------------------------------------------------------------
@@ -108,13 +108,13 @@ TEST(ShuffleLogs, EachSetTellsWhatItWasGiven) {
 TEST(ShuffleLogs, WithoutLoggingOldLogsStayAndAFullDiskHarmsNothing) {
     ShuffleWorld made;
     FillWorld(made);
-    made.session.DebugOn = false;
+    made.session.switches.DebugOn = false;
     made.world.files.files["/plan/Shuffle.log"] = "old";
     made.Shuffle();
     EXPECT_EQ(made.world.files.files.size(), 1u);
     EXPECT_EQ(made.world.files.files["/plan/Shuffle.log"], "old");
 
-    made.session.DebugOn = true;
+    made.session.switches.DebugOn = true;
     made.world.files.failAfterBytes = 100;
     EXPECT_TRUE(made.Shuffle().succeeded);
     made.world.files.failCreate = true;

@@ -25,8 +25,8 @@ struct ScanWorld {
     }
     const std::vector<FSAircraft>& Scan(const std::string& config, bool detailed = true) {
         Put("aircraft.cfg", config);
-        EXPECT_TRUE(ScanAircraft(session, files, NativePath("\\fs"), detailed));
-        return session.FSAircrafts;
+        EXPECT_TRUE(ScanAircraft(session.fleet, session.rules.Classes, files, NativePath("\\fs"), detailed));
+        return session.fleet.FSAircrafts;
     }
 };
 
@@ -127,12 +127,13 @@ TEST(AircraftScan, AScanReplacesTheListAndFailsWithoutAFolder) {
     world.files.files[NativePath("\\fs\\Aircraft\\readme.txt")] = "[fltsim.0]\ntitle=None\n";
     world.Scan("[fltsim.0]\ntitle=Second\n");
     ASSERT_EQ(world.Scan("[fltsim.0]\ntitle=Second\n").size(), 2u);
-    EXPECT_EQ(world.session.FSAircrafts[0].Title, "First");
-    EXPECT_TRUE(world.session.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session, world.files, NativePath("\\nowhere"), true));
-    EXPECT_TRUE(world.session.FSAircrafts.empty());
-    EXPECT_FALSE(world.session.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session, world.files, "", true));
+    EXPECT_EQ(world.session.fleet.FSAircrafts[0].Title, "First");
+    EXPECT_TRUE(world.session.fleet.FSAircraftProblems);
+    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files,
+                              NativePath("\\nowhere"), true));
+    EXPECT_TRUE(world.session.fleet.FSAircrafts.empty());
+    EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
+    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files, "", true));
 }
 
 TEST(AircraftScan, ClassValuesComeFromTheEntryOrTheProfile) {
@@ -154,7 +155,7 @@ TEST(AircraftScan, ClassValuesComeFromTheEntryOrTheProfile) {
     };
     for (const auto& one : cases) {
         ScanWorld world;
-        world.session.Classes = SampleClasses();
+        world.session.rules.Classes = SampleClasses();
         const auto& variants = world.Scan(Concat("[fltsim.0]\ntitle=A\n[General]\natc_model=", one.model,
                                                  "\n[Reference Speeds]\ncruise_speed=333\n"));
         ASSERT_EQ(variants.size(), 1u);
@@ -180,7 +181,7 @@ TEST(AircraftScan, ModelAndTypeOfTheFileWinOverThoseOfTheSection) {
     };
     for (const auto& one : cases) {
         ScanWorld world;
-        world.session.Classes = SampleClasses();
+        world.session.rules.Classes = SampleClasses();
         const auto& variants = world.Scan(section + one.general);
         ASSERT_EQ(variants.size(), 1u);
         EXPECT_EQ(variants[0].ATCModel + " " + variants[0].ATCType, one.modelAndType);
@@ -238,17 +239,17 @@ TEST(AircraftScan, ProblemsNameAllThatIsMissing) {
         "[fltsim.0]\ntitle=0\nsim=Craft\n[fltsim.1]\ntitle=1\nsim=bare\ntexture=red\n"
         "[fltsim.2]\ntitle=2\ntexture=blue\nmodel=none\n[fltsim.3]\ntitle=3\nsim=other\n");
     std::string problems;
-    for (const FSAircraft& aircraft : world.session.FSAircrafts) problems += aircraft.Problem + "\n";
+    for (const FSAircraft& aircraft : world.session.fleet.FSAircrafts) problems += aircraft.Problem + "\n";
     EXPECT_EQ(problems,
               "\n\nTexture folder not found | No model defined | No AIR file defined\nAIR file not found\n");
-    EXPECT_TRUE(world.session.FSAircraftProblems);
+    EXPECT_TRUE(world.session.fleet.FSAircraftProblems);
 
     world.Scan("[fltsim.0]\ntitle=0\nsim=Craft\n");
-    EXPECT_FALSE(world.session.FSAircraftProblems);
+    EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
     world.files.DeleteFile(JoinPath(world.folder, NativePath("model\\main.mdl")));
-    CheckAircraftFiles(world.session, world.files);
-    EXPECT_EQ(world.session.FSAircrafts[0].Problem, "Model folder not found");
-    EXPECT_TRUE(world.session.FSAircraftProblems);
+    CheckAircraftFiles(world.session.fleet, world.files);
+    EXPECT_EQ(world.session.fleet.FSAircrafts[0].Problem, "Model folder not found");
+    EXPECT_TRUE(world.session.fleet.FSAircraftProblems);
 }
 
 TEST(AircraftScan, ManySectionsOfOneNameCantMultiplyALongText) {
@@ -267,10 +268,10 @@ TEST(AircraftScan, TheWorldOfRealAircraftIsReadWhole) {
     const auto fleet = ReadWholeFile(disk, world + "facts/fleet.csv");
     if (!fleet) GTEST_SKIP() << "no aircraft of a real world lie beside the checkout";
     Session session;
-    session.Classes.Entries[kClassSmallJet] = {EntryOf("A319")};
-    ASSERT_TRUE(ScanAircraft(session, disk, world + "simulator", true));
+    session.rules.Classes.Entries[kClassSmallJet] = {EntryOf("A319")};
+    ASSERT_TRUE(ScanAircraft(session.fleet, session.rules.Classes, disk, world + "simulator", true));
     std::multiset<std::string> read, listed;
-    for (const FSAircraft& aircraft : session.FSAircrafts) {
+    for (const FSAircraft& aircraft : session.fleet.FSAircrafts) {
         EXPECT_EQ(aircraft.Problem, "") << aircraft.Title;
         EXPECT_GT(aircraft.Radius, 0) << aircraft.Title;
         EXPECT_GT(aircraft.FileCruiseSpeed, 0) << aircraft.Title;

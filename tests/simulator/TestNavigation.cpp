@@ -11,10 +11,10 @@ namespace {
 
 Session PlanOf(std::initializer_list<PlanAirport> airports) {
     Session session;
-    session.PlanLoaded = true;
+    session.plan.PlanLoaded = true;
     for (const PlanAirport& airport : airports) {
-        session.PlanAirportIndex.Add(airport.ICAO, session.PlanAirportCount());
-        session.PlanAirports.push_back(airport);
+        session.plan.PlanAirportIndex.Add(airport.ICAO, session.plan.PlanAirportCount());
+        session.plan.PlanAirports.push_back(airport);
     }
     return session;
 }
@@ -30,8 +30,8 @@ void PrintTo(const Route& route, std::ostream* out) {
 
 // By single questions; the prepared positions must tell the same to the bit.
 Route RouteBetween(const Session& session, std::string_view from, std::string_view to) {
-    const Route route{GetDistance(session, from, to), GetCourse(session, from, to)};
-    const PlanPositions positions(session);
+    const Route route{GetDistance(session.plan, from, to), GetCourse(session.plan, from, to)};
+    const PlanPositions positions(session.plan);
     EXPECT_EQ(route, (Route{positions.Distance(from, to), positions.Course(from, to)})) << from << " " << to;
     return route;
 }
@@ -84,7 +84,7 @@ TEST(Navigation, RoutesOfSpecialPlaces) {
          }) {
         EXPECT_EQ(RouteBetween(session, c.from, c.to), c.expected) << c.from << " " << c.to;
     }
-    const PlanPositions positions(session);
+    const PlanPositions positions(session.plan);
     EXPECT_EQ(positions.Distance(0, 0), -1);
     EXPECT_EQ(positions.Distance(0, -1), -1);
     EXPECT_EQ(positions.Course(1000, 0), -1);
@@ -177,8 +177,8 @@ TEST(Navigation, ArrivalFollowsDistanceAndSpeed) {
 TEST(Navigation, ArrivalTakesTheSpeedOfThePlanAircraft) {
     Session session =
         PlanOf({{"AAAA", "N1* 0.00'", "W0* 0.00'", "0"}, {"BBBB", "N3* 0.00'", "W0* 0.00'", "0"}});
-    session.PlanAircrafts = {{"AC#1", "", "240", 0}, {"AC#2", "", "0", 0}, {"AC#3", "", "fast", 0}};
-    const PlanPositions positions(session);
+    session.plan.PlanAircrafts = {{"AC#1", "", "240", 0}, {"AC#2", "", "0", 0}, {"AC#3", "", "fast", 0}};
+    const PlanPositions positions(session.plan);
     struct Case {
         std::int32_t aircraft, speed;
         std::string_view to, expected;
@@ -194,8 +194,8 @@ TEST(Navigation, ArrivalTakesTheSpeedOfThePlanAircraft) {
              {0, -1, "GONE", "10:15:00"},
              {0, -1, "AAAA", "10:15:00"},
          }) {
-        EXPECT_EQ(GetArrivalTime(session, positions.Distance("AAAA", c.to), "10:00:00", "24Hr", c.aircraft,
-                                 c.speed),
+        EXPECT_EQ(GetArrivalTime(session.plan, positions.Distance("AAAA", c.to), "10:00:00", "24Hr",
+                                 c.aircraft, c.speed),
                   c.expected)
             << c.aircraft << " " << c.speed << " " << c.to;
     }

@@ -298,17 +298,17 @@ TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCache) {
     SceneryWorld world;
     world.clock.now = 86400 / 2;
     ASSERT_TRUE(ReadScenery(world.session, world.services));
-    const auto airports = world.session.Airports;
+    const auto airports = world.session.scenery.Airports;
     ASSERT_EQ(airports.size(), 2u);
     EXPECT_EQ(airports[1].Name, "Second");
     EXPECT_EQ(airports[1].Region, "");  // the hierarchy starts anew in each file
     EXPECT_EQ(world.progress.lines.size(), 3u) << "files";
 
     ASSERT_TRUE(ReadScenery(world.session, world.services));  // from memory
-    world.session.Airports.clear();
+    world.session.scenery.Airports.clear();
     world.machineSettings.values.clear();
     ASSERT_TRUE(ReadScenery(world.session, world.services));  // from the cache
-    EXPECT_EQ(world.session.Airports, airports);
+    EXPECT_EQ(world.session.scenery.Airports, airports);
     EXPECT_EQ(world.progress.lines.size(), 3u);
 
     std::vector<AirportRecord> records;
@@ -323,9 +323,9 @@ TEST(Scenery, ADamagedCacheIsReplacedFromTheSimulator) {
     ASSERT_TRUE(ReadScenery(world.session, world.services));
     const std::string good = world.files.files[world.cachePath];
     world.files.files[world.cachePath] = good.substr(0, good.size() - 1);
-    world.session.Airports.clear();
+    world.session.scenery.Airports.clear();
     ASSERT_TRUE(ReadScenery(world.session, world.services));
-    EXPECT_EQ(world.session.Airports.size(), 2u);
+    EXPECT_EQ(world.session.scenery.Airports.size(), 2u);
     EXPECT_EQ(world.files.files[world.cachePath], good);
 }
 

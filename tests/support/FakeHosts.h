@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/Text.h"
+#include "services/FrontEnd.h"
 #include "services/Services.h"
 #include "support/MemoryFileSystem.h"
 
@@ -121,8 +122,18 @@ class FakeClock : public Clock {
     std::int64_t Now() const override { return now; }
 };
 
-// All services as fakes.
+// All services as fakes, but for those that something real stands in for.
 struct FakeWorld {
+    struct StandIns {
+        FileSystem* files = nullptr;
+        RandomSource* random = nullptr;
+        FrontEnd* frontEnd = nullptr;
+    };
+
+    FakeWorld() : FakeWorld(StandIns()) {}
+    explicit FakeWorld(StandIns standIns) : with(standIns) {}
+
+    StandIns with;
     MemoryFileSystem files;
     FakeSettings userSettings;
     FakeSettings machineSettings;
@@ -131,7 +142,20 @@ struct FakeWorld {
     FakeWindows windows;
     FakeRandom random;
     FakeClock clock;
-    Services services{files, userSettings, machineSettings, progress, messages, windows, random, clock};
+    Services services{Or<FileSystem>(with.files, files),
+                      userSettings,
+                      machineSettings,
+                      Or<ProgressHost>(with.frontEnd, progress),
+                      Or<MessageHost>(with.frontEnd, messages),
+                      Or<WindowHost>(with.frontEnd, windows),
+                      Or<RandomSource>(with.random, random),
+                      clock};
+
+  private:
+    template <typename Service>
+    static Service& Or(Service* standIn, Service& fake) {
+        return standIn != nullptr ? *standIn : fake;
+    }
 };
 
 }  // namespace orlo::test

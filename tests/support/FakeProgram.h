@@ -27,11 +27,11 @@ struct FakeProgram {
     }
 
     void AddFlight(std::string_view line) {
-        if (!AppendFlightplanLine(line, session.Flights)) throw std::runtime_error(std::string(line));
+        if (!AppendFlightplanLine(line, session.plan.Flights)) throw std::runtime_error(std::string(line));
     }
     void AddPlanAirport(const std::string& code, std::string latitude, std::string longitude) {
-        session.PlanAirportIndex.Add(code, session.PlanAirportCount());
-        session.PlanAirports.push_back({code, std::move(latitude), std::move(longitude), "0"});
+        session.plan.PlanAirportIndex.Add(code, session.plan.PlanAirportCount());
+        session.plan.PlanAirports.push_back({code, std::move(latitude), std::move(longitude), "0"});
     }
 
     bool Press(Control& control) {

@@ -19,20 +19,20 @@ struct FlightEditProgram : FakeProgram {
     Flight edited;                  // the plan's flight after it
 
     FlightEditProgram() {
-        session.PlanLoaded = true;
+        session.plan.PlanLoaded = true;
         AddPlanAirport("AAAA", "N0* 00.00'", "E0* 00.00'");
         AddPlanAirport("BBBB", "N0* 00.00'", "E5* 00.00'");
         AddPlanAirport("CCCC", "N0* 00.00'", "E10* 00.00'");
-        session.PlanAircrafts = {{"AC#1", "Jet (fast)", "300"}, {"AC#2", "Glider", "100"}};
+        session.plan.PlanAircrafts = {{"AC#1", "Jet (fast)", "300"}, {"AC#2", "Glider", "100"}};
         FSAircraft jet;
         jet.Title = "JET (FAST)";
         jet.MinRange = 300;
         jet.MaxRange = 300;
         jet.MinFL = 50;
         jet.MaxFL = 400;
-        session.FSAircrafts = {jet};
-        session.FlightLevelRules = {{0, 9999, 0, 179, 50, 250, 20}, {0, 9999, 180, 359, 60, 260, 20}};
-        session.TATime = session.MaxTATime = kNoTurnAroundLimit;
+        session.fleet.FSAircrafts = {jet};
+        session.rules.FlightLevelRules = {{0, 9999, 0, 179, 50, 250, 20}, {0, 9999, 180, 359, 60, 260, 20}};
+        session.switches.TATime = session.switches.MaxTATime = kNoTurnAroundLimit;
     }
 
     // A leg with a fixed arrival, which keeps its time whatever the user changes.
@@ -51,20 +51,21 @@ struct FlightEditProgram : FakeProgram {
     // The editor's result. Questions are answered in order, further ones with No.
     std::string Edit(const Flight& flight, std::function<void()> acts,
                      const std::vector<MessageAnswer>& answers = {}, std::int32_t leg = 0) {
-        session.Flights.Clear();
-        session.Flights.Append(flight);
+        session.plan.Flights.Clear();
+        session.plan.Flights.Append(flight);
         world.messages.shown.clear();
         world.messages.answers.assign(answers.begin(), answers.end());
         inModal = std::move(acts);
         const std::string result = EditFlight(context, 0, false, leg);
         said.clear();
         for (const auto& [flags, text] : world.messages.shown) said.push_back(text);
-        edited = session.Flights.Unpack(0);
+        edited = session.plan.Flights.Unpack(0);
         return result;
     }
     void Accept() { Press(editor.cmdOK); }
     void SwitchChecksOff() {
-        session.CheckAircraftRange = session.CheckFlightLevels = session.CheckFlightTimes = false;
+        session.switches.CheckAircraftRange = session.switches.CheckFlightLevels =
+            session.switches.CheckFlightTimes = false;
     }
 
     std::string Row(std::int32_t place) const {

@@ -20,8 +20,7 @@
 #include "desktop/EdgeStyle.h"
 #include "desktop/FormWindow.h"
 #include "desktop/MainLayout.h"
-#include "platform/Platform.h"
-#include "platform/common/SystemRandom.h"
+#include "platform/SystemServices.h"
 #include "shell/OpenPlan.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
@@ -192,14 +191,10 @@ class Photographer {
 
 int Run(const QStringList& words) {
     const std::string world = QDir(words[1]).absolutePath().toStdString();
-    const auto files = MakeFileSystem();
-    const auto userSettings =
-        MakeUserSettings(*files, QDir::tempPath().toStdString() + "/orlo-screenshots.settings");
-    const auto machineSettings = MakeMachineSettings(*files, world + "/Simulator");
-    SystemRandom random(kSeed);
-    const auto clock = MakeClock();
+    SystemServices system(QDir::tempPath().toStdString() + "/orlo-screenshots.settings", world + "/Simulator",
+                          kSeed);
     DesktopHost host;
-    Services services{*files, *userSettings, *machineSettings, host, host, host, random, *clock};
+    Services services = system.Behind(host);
     Program program(services, world + "/Program");
     host.Attach(program.pump, program.forms.frmProgress);
     DesignMainForm(program.forms.frmMain);

@@ -191,7 +191,7 @@ void PrintWaits(const std::string& world) {
     };
     Event drop{&form, nullptr, EventKind::DropFile};
     drop.path = JoinPath(world, "Plan/FlightPlans.txt");
-    real.program.session.ACCheck = false;
+    real.program.session.switches.ACCheck = false;
     time("open", drop);
     click("shuffle", form.cmdShuffle);
     test::ClickTab(form.tabMain, 2);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/FlightList.h"
+#include "core/KeyedIndex.h"
+#include "core/PlanRecords.h"
+
+namespace orlo {
+
+// A plan as its files hold it, and whether it is open. A plan that was only just made is none: it is empty
+// and not loaded. Counts are those of the lists.
+struct Plan {
+    std::string FlightplanPath;  // the side files stand in its folder; start of the file dialogs, too
+    FlightList Flights;
+    std::vector<PlanAircraft> PlanAircrafts;
+    std::vector<PlanAirport> PlanAirports;
+    KeyedIndex<std::int32_t> PlanAirportIndex;  // code to the first place in PlanAirports
+    std::int32_t MaxACNumber = 0;               // largest number behind "AC#" in Aircraft.txt
+    bool PlanLoaded = false;                    // it was read to its end
+    bool PlanModified = false;                  // it has changes that were not saved
+
+    std::int32_t FlightCount() const { return Flights.Count(); }
+    std::int32_t PlanAircraftCount() const { return static_cast<std::int32_t>(PlanAircrafts.size()); }
+    std::int32_t PlanAirportCount() const { return static_cast<std::int32_t>(PlanAirports.size()); }
+};
+
+}  // namespace orlo
