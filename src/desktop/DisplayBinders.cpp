@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/AppIcon.h"
+#include "desktop/ControlSizes.h"
 #include "desktop/ElidedLabel.h"
 #include "desktop/ScreenText.h"
 
@@ -78,6 +79,8 @@ void ProgressBarBinder::DrawContent() {
 StatusBarBinder::StatusBarBinder(StatusBar& bar, QWidget& parent, EventSink& sink)
     : Binder(bar, *new ElidedLabel(parent, Qt::ElideRight), sink), shown_(static_cast<QLabel&>(Widget())) {
     shown_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    // Below the texts of the panes.
+    shown_.setIndent(SpaceOfStyle().edges.left() - shown_.frameWidth());
     // A long text must not widen the window.
     shown_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }

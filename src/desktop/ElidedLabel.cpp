@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
 
 namespace orlo {
 
@@ -11,13 +12,15 @@ ElidedLabel::ElidedLabel(QWidget& parent, Qt::TextElideMode cut) : QLabel(&paren
 
 QSize ElidedLabel::sizeHint() const {
     const int edges = 2 * (frameWidth() + margin());
-    return QSize(fontMetrics().horizontalAdvance(text()) + edges, fontMetrics().height() + edges);
+    const int sides = edges + 2 * std::max(indent(), 0);
+    return QSize(fontMetrics().horizontalAdvance(text()) + sides, fontMetrics().height() + edges);
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
-    const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    const int side = margin() + std::max(indent(), 0);
+    const QRect room = contentsRect().adjusted(side, margin(), -side, -margin());
     const QString shown = fontMetrics().elidedText(text(), cut_, room.width());
     style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
                           foregroundRole());

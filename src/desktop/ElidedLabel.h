@@ -4,7 +4,8 @@
 
 namespace orlo {
 
-// A line of text that is shortened where it does not fit. "&" is a character of it.
+// A line of text that is shortened where it does not fit. "&" is a character of it. It keeps its indent from
+// both sides.
 class ElidedLabel : public QLabel {
   public:
     // `cut` says which end, or the middle, is left out.

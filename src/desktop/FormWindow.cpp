@@ -24,6 +24,13 @@ bool SameBox(const WindowBox& a, const WindowBox& b) {
     return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height;
 }
 
+// The toolkit puts the system's mark of a change where "[*]" stands; doubled it is a text like any other.
+QString TitleOf(const Form& form) {
+    const QString caption = ToQString(form.caption);
+    if (form.documentName.empty()) return caption;
+    return ShownText(form.documentName).replace("[*]", "[*][*]") + "[*] - " + caption;
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags)
@@ -110,7 +117,7 @@ void FormWindow::Draw() {
 }
 
 void FormWindow::DrawFrame() {
-    if (caption_.Changes(form_->caption)) setWindowTitle(ToQString(form_->caption));
+    DrawTitle();
     if (drawnPointer_ != form_->pointer) {
         drawnPointer_ = form_->pointer;
         if (form_->pointer == PointerShape::Hourglass) {
@@ -121,6 +128,13 @@ void FormWindow::DrawFrame() {
         for (const auto& binder : binders_) binder->DrawPointer(form_->pointer);
     }
     if (isWindow()) DrawPlace();
+}
+
+void FormWindow::DrawTitle() {
+    const QString title = TitleOf(*form_);
+    if (windowTitle() != title) setWindowTitle(title);
+    const bool modified = form_->documentModified && !form_->documentName.empty();
+    if (isWindowModified() != modified) setWindowModified(modified);
 }
 
 void FormWindow::DrawPlace() {

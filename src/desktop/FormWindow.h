@@ -46,6 +46,7 @@ class FormWindow : public QWidget {
     void PlaceControls();
     void PlaceMenuBar();
     void DrawFrame();
+    void DrawTitle();
     void DrawPlace();
     void NotePlace();
     QSize LeastSize() const;
@@ -56,7 +57,6 @@ class FormWindow : public QWidget {
     std::unordered_map<const QWidget*, Binder*> byWidget_;
     std::unordered_map<const Control*, Binder*> byControl_;
     std::unique_ptr<FormMenus> menus_;
-    DrawnText caption_;
     std::optional<PointerShape> drawnPointer_;
     WindowState drawnState_ = WindowState::Normal;
     WindowBox drawnBox_;

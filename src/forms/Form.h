@@ -41,6 +41,8 @@ struct Form {
 
     const std::string name;
     std::string caption;
+    std::string documentName;       // of the file that it shows, for its title; empty for none
+    bool documentModified = false;  // what it shows differs from that file
     bool enabled = true;
     bool visible = false;
     PointerShape pointer = PointerShape::Normal;

@@ -6,6 +6,7 @@
 
 #include "core/Text.h"
 #include "shell/EventTables.h"
+#include "shell/Title.h"
 
 namespace orlo {
 
@@ -98,6 +99,7 @@ void EventPump::Run(Event& event) {
         RecoverFromFailure(event.form, failure.what());
     }
     --running_;
+    RefreshTitle(context_);
 }
 
 // What an operation that broke off may have left behind.

@@ -7,6 +7,7 @@
 #include "core/Application.h"
 #include "shell/SettingsMirror.h"
 #include "shell/Tabs.h"
+#include "shell/Title.h"
 
 namespace orlo {
 namespace {
@@ -73,6 +74,7 @@ bool StartUp(Context& context) {
     ShowWindows(context);
     context.frame.limits.AddWindowLimits(form, kMainWindowLimits);
     form.systemMenuAbout = true;
+    RefreshTitle(context);
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include "desktop/ControlSizes.h"
 #include "qt/DesktopProgram.h"
 
 namespace orlo {
@@ -179,6 +180,24 @@ TEST_F(Binders, ATreeShowsChecksGroupsAndColours) {
     EXPECT_FALSE(shown.isExpanded(shown.model()->index(0, 0)));
     EXPECT_TRUE(shown.isExpanded(shown.model()->index(1, 0)));
     EXPECT_TRUE(form.Ran("CheckNode tvNodes") == 1);
+}
+
+// Drawn at the frame itself it can hardly be read.
+TEST_F(Binders, ATextOfTheStatusBarKeepsItsDistanceFromTheEdges) {
+    auto& bar = desktop.Find<QLabel>(form.sbState);
+    const QImage empty = bar.grab().toImage();
+    form.sbState.text = std::string(500, 'H');
+    desktop.CatchUp();
+    const QImage full = bar.grab().toImage();
+    const auto drawn = [&](int x) {
+        return full.copy(x, 0, 1, full.height()) != empty.copy(x, 0, 1, empty.height());
+    };
+    const int space = SpaceOfStyle().edges.left();
+    EXPECT_GT(space, 0);
+    for (int x = 0; x < space; ++x) EXPECT_FALSE(drawn(x) || drawn(full.width() - 1 - x)) << x;
+    bool beside = false;
+    for (int x = space; x < 2 * space; ++x) beside = beside || drawn(x);
+    EXPECT_TRUE(beside);
 }
 
 TEST_F(Binders, TipsAskTheirProcedure) {

@@ -4,6 +4,7 @@
 
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <filesystem>
 
 #include "qt/DesktopProgram.h"
 #include "qt/RealProgram.h"
@@ -71,6 +72,38 @@ TEST(MainWindow, TheSplashGoesByTimeByAnyKeyAndByAClick) {
         EXPECT_FALSE(desktop.host.TimerArmed(kSplashTimer));
         EXPECT_TRUE(desktop.form.visible);
     }
+}
+
+// On the system's window, where the mark of a change stands for the toolkit's "[*]". The name is one of code
+// page 1252.
+TEST(MainWindow, TheTitleTellsThePlanAndWhetherItIsChanged) {
+    StartedProgram desktop;
+    CloseSplash(desktop.program.context);
+    const std::string folder = JoinPath(WorldOnce(), "Plan");
+    const std::string plan = JoinPath(folder, "Caf\xE9 [*].txt");
+    std::filesystem::copy_file(JoinPath(folder, "FlightPlans.txt"), plan);
+    QTimer answering;
+    QObject::connect(&answering, &QTimer::timeout, [] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->defaultButton()->click();
+    });
+    answering.start(20);
+    const auto title = [&](Control* control, EventKind kind, const std::string& path = {}) {
+        Event event{&desktop.form, control, kind, 0, {}, path};
+        desktop.host.DeliverNow(event);
+        DesktopProgram::Settle();
+        return DesktopProgram::WindowOf(desktop.form).windowHandle()->title().toStdString();
+    };
+    EXPECT_EQ(title(nullptr, EventKind::Resize), "Orlo");
+    EXPECT_EQ(title(nullptr, EventKind::DropFile, plan), "Café [*].txt - Orlo");
+    EXPECT_EQ(title(&desktop.form.cmdShuffle, EventKind::Click), "Café [*].txt* - Orlo");
+    EXPECT_EQ(title(&desktop.form.mnuFileSave, EventKind::Click), "Café [*].txt - Orlo");
+    EXPECT_EQ(title(&desktop.form.cmdShuffle, EventKind::Click), "Café [*].txt* - Orlo");
+    // Nothing of a plan stands beside it. The question before is answered with Yes.
+    const std::string alone = JoinPath(JoinPath(WorldOnce(), "Program"), "ORLO_AL.CFG");
+    EXPECT_EQ(title(nullptr, EventKind::DropFile, alone), "Orlo");
+    EXPECT_EQ(desktop.form.caption, "Orlo");
+    for (const std::string& file : {plan, plan + ".orlo.bak"}) std::filesystem::remove(file);
 }
 
 // A dialog that the splash owned would go with it.
