@@ -4,6 +4,7 @@
 #include "editors/FlightEditLegs.h"
 #include "editors/FlightEditTimes.h"
 #include "mainwindow/BulkOperation.h"
+#include "mainwindow/SettingsTable.h"
 #include "simulator/MatchedAircraft.h"
 
 namespace orlo {
@@ -59,9 +60,9 @@ void ShowFlight(Context& context) {
 void FillDialog(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     const Session& session = context.session;
-    form.ckAircraftRange.checked = session.switches.CheckAircraftRange;
-    form.ckFlightLevel.checked = session.switches.CheckFlightLevels;
-    form.ckFlightTimes.checked = session.switches.CheckFlightTimes;
+    ForEachSetting<EditorSwitch>([&](const SettingRow&, const EditorSwitch& mirror) {
+        (form.*mirror.box).checked = session.switches.*mirror.value;
+    });
     form.cmZone.index = -1;
     form.cmZone.SelectText(session.switches.FEditZone);
     FillAirports(form.cmDeparture, session);
@@ -93,9 +94,9 @@ std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSear
 
 void StoreFlightEditSwitches(Context& context) {
     const FlightEditForm& form = context.forms.frmFlightEdit;
-    context.session.switches.CheckAircraftRange = form.ckAircraftRange.checked;
-    context.session.switches.CheckFlightLevels = form.ckFlightLevel.checked;
-    context.session.switches.CheckFlightTimes = form.ckFlightTimes.checked;
+    ForEachSetting<EditorSwitch>([&](const SettingRow&, const EditorSwitch& mirror) {
+        context.session.switches.*mirror.value = (form.*mirror.box).checked;
+    });
 }
 
 void CancelFlightEdit(Context& context) {

@@ -1,7 +1,5 @@
 #include "shell/MenuSwitches.h"
 
-#include <array>
-
 #include "core/Path.h"
 #include "core/Text.h"
 #include "shell/SettingsMirror.h"
@@ -11,34 +9,24 @@
 namespace orlo {
 
 void OnSwitch(Context& context, Event& event) {
-    struct Tick {
-        MenuEntry& entry;
-        bool& value;
-    };
     MainForm& form = context.forms.frmMain;
-    Session& session = context.session;
-    const std::array<Tick, 6> ticks = {{{form.mnuToolsShowCompiler, session.switches.ShowCompiler},
-                                        {form.mnuToolsDebug, session.switches.DebugOn},
-                                        {form.mnuToolsUndoOn, session.switches.Undo},
-                                        {form.mnuToolsACCheck, session.switches.ACCheck},
-                                        {form.mnuToolsBackupPlan, session.switches.BackupPlan},
-                                        {form.mnuToolsBackupAircraft, session.switches.BackupAircraft}}};
-    for (const Tick& tick : ticks) {
-        if (event.control != &tick.entry) continue;
-        tick.value = !tick.value;
-        tick.entry.checked = tick.value;
-    }
-    if (!session.switches.Undo) DiscardUndoSnapshot(context);
+    Switches& switches = context.session.switches;
+    ForEachSetting<MenuSwitch>([&](const SettingRow&, const MenuSwitch& mirror) {
+        MenuEntry& entry = form.*mirror.entry;
+        if (event.control != &entry) return;
+        switches.*mirror.value = !(switches.*mirror.value);
+        entry.checked = switches.*mirror.value;
+    });
+    if (!switches.Undo) DiscardUndoSnapshot(context);
 }
 
 void OnTurnAround(Context& context, Event& event) {
     MainForm& form = context.forms.frmMain;
-    for (const TurnAroundLimit& limit : MinimumTurnArounds()) {
-        if (event.control == &(form.*limit.entry)) SetTATime(context, limit.value);
-    }
-    for (const TurnAroundLimit& limit : MaximumTurnArounds()) {
-        if (event.control == &(form.*limit.entry)) SetMaxTATime(context, limit.value);
-    }
+    ForEachSetting<LimitChoice>([&](const SettingRow&, const LimitChoice& choice) {
+        for (const TurnAroundLimit& limit : choice.limits) {
+            if (event.control == &(form.*limit.entry)) SetLimit(context, choice, limit.value);
+        }
+    });
 }
 
 void ChooseSimulatorFolder(Context& context) {

@@ -34,6 +34,14 @@ void SelectFirstViews(MainForm& form) {
     form.cmShufflerView.tag = std::to_string(kFirstShufflerView);
 }
 
+void ClearTimetableFields(MainForm& form) {
+    form.cmTTDay.SelectFirst();
+    form.txtTTStart.text = "00:00:00";
+    form.txtTTEnd.text = "23:59:59";
+    form.txtTTStart.selectAllRequest = true;
+    form.txtTTEnd.selectAllRequest = true;
+}
+
 void ShowWindows(Context& context) {
     Forms& forms = context.forms;
     WindowHost& windows = context.services.windows;
@@ -69,6 +77,7 @@ bool StartUp(Context& context) {
     }
     RegisterMainLayout(context.frame.layout, form, form.innerHeight, form.innerWidth);
     ReadZones(context);
+    ClearTimetableFields(form);
     ReadWindowPlace(context);
     ActivateTab(context);
     ShowWindows(context);

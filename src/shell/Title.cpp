@@ -7,8 +7,8 @@ namespace orlo {
 void RefreshTitle(Context& context) {
     const Session& session = context.session;
     MainForm& form = context.forms.frmMain;
-    form.documentName = session.PlanLoaded ? FileName(session.FlightplanPath) : std::string();
-    form.documentModified = session.PlanLoaded && session.PlanModified;
+    form.documentName = session.plan.PlanLoaded ? FileName(session.plan.FlightplanPath) : std::string();
+    form.documentModified = session.plan.PlanLoaded && session.plan.PlanModified;
 }
 
 }  // namespace orlo
