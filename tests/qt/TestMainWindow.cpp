@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <filesystem>
 

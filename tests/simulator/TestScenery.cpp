@@ -355,27 +355,28 @@ void Count(Tally& tally, const std::string& kind, std::initializer_list<std::int
 
 // A second, plain walk over the bytes of a scenery file, written from docs/scenery-files.md alone.
 void CountStored(const std::string& bytes, Tally& tally) {
-    const auto at = [&](std::size_t place) -> std::int64_t {
+    const auto at = [&](std::int64_t place) -> std::int64_t {
         std::int32_t value = 0;
-        bytes.substr(place, 4).copy(reinterpret_cast<char*>(&value), 4);
+        bytes.substr(static_cast<std::size_t>(place), 4).copy(reinterpret_cast<char*>(&value), 4);
         return value;
     };
     if (bytes.size() < 160 || at(at(156)) != 0x00030001) return;
-    std::size_t entry = at(156) + 32;
+    std::int64_t entry = at(156) + 32;
     for (bool more = at(at(156) + 20) != 0; more;) {
-        const std::size_t body = at(entry + 4), last = at(entry) == 0x00050001 ? body + at(body + 4) + 9 : 0;
+        const std::int64_t body = at(entry + 4), last = at(entry) == 0x00050001 ? body + at(body + 4) + 9 : 0;
         if (last != 0) Count(tally, "airport", {});
-        for (std::size_t i = body + 16; i <= last && at(i) != 0; i += at(i + 4) + 8) {
-            const std::size_t count = i + 20 + at(i + 8) * at(i + 12);
+        for (std::int64_t i = body + 16; i <= last && at(i) != 0; i += at(i + 4) + 8) {
+            const std::int64_t count = i + 20 + at(i + 8) * at(i + 12);
             if (at(i) == 0x00010002)
                 Count(tally, "runway", {at(i + 40), at(i + 44), at(i + 56), at(i + 60) & 15});
             if (at(i) == 0x00020001) Count(tally, "frequency", {at(i + 12)});
             for (int n = 0; at(i) == 0x00011001 && n < at(count); ++n) {
-                const std::size_t one = count + 4 + n * 20;
+                const std::int64_t one = count + 4 + n * 20;
                 Count(tally, "parking", {at(one), at(one + 8), at(one + 16)});
             }
         }
-        const std::size_t links = bytes.find('\0', entry + 8) + 1;
+        const auto textEnd = bytes.find('\0', static_cast<std::size_t>(entry + 8));
+        const std::int64_t links = static_cast<std::int64_t>(textEnd) + 1;
         more = at(links) != 0 && at(links + 4) != 0;
         entry = links + 8;
     }
