@@ -1,34 +1,105 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace orlo {
 
-// One section of an initialisation file with its keys and values in file order, as they stand in the file:
-// names trimmed, values trimmed and without surrounding quotes, comments not cut.
-struct InitialisationSection {
-    std::string name;
-    std::vector<std::pair<std::string, std::string>> values;
-
-    // Value of the first key of that name without regard to case; empty when missing.
-    std::string Value(std::string_view key) const;
+// How one kind of initialisation file is written.
+struct InitialisationDialect {
+    enum class Sections {
+        // The name of a section ends at the first "]", without blanks and tabs around it. Without a "]" the
+        // line means nothing.
+        Trimmed,
+        // The name ends at the last "]" and counts as it stands. Without a "]" the line may be a value.
+        Whole,
+    };
+    enum class Quotes {
+        Stripped,  // a value loses the quotes of either kind around it
+        Escaped,   // names and values may stand in double quotes with escapes; docs/settings.md tells them
+    };
+    std::string_view remarks;  // a line that opens with one of these bytes is a remark
+    Sections sections = Sections::Trimmed;
+    Quotes quotes = Quotes::Stripped;
+    bool joined = false;  // sections of one name are one; otherwise a value is looked for in the first alone
 };
 
-// An initialisation file ("[section]" lines and "key=value" lines) read whole.
-struct InitialisationFile {
-    std::vector<InitialisationSection> sections;  // in file order; a name that stands twice stands twice here
+// The simulator's own files: aircraft.cfg, model.cfg.
+inline constexpr InitialisationDialect kSimulatorDialect{.remarks = ";"};
 
-    // First section of that name without regard to case; null when missing.
-    const InitialisationSection* Section(std::string_view name) const;
-    // Value by section and key; empty when either is missing.
-    std::string Value(std::string_view section, std::string_view key) const;
+// The text of an initialisation file: "[section]" lines, each followed by its "name=value" lines. Blanks and
+// tabs around names and values are no part of them. Names compare without regard to case, and of two that are
+// equal the first counts. Lines that are neither, and values in front of the first section, have no meaning.
+//
+// Places of sections and values, and the texts lent here, hold until Set or a move.
+class InitialisationFile {
+  public:
+    // Any text is one. CR LF, LF and CR end a line; a byte order mark is passed over.
+    explicit InitialisationFile(std::string text, const InitialisationDialect& dialect = kSimulatorDialect);
+
+    // Sections in file order, 0 to SectionCount() - 1; a name that stands twice stands twice here.
+    std::size_t SectionCount() const { return sections_.size(); }
+    std::string_view SectionName(std::size_t section) const { return View(sections_[section].name); }
+    std::optional<std::size_t> FindSection(std::string_view name) const;
+
+    // The values of a section in file order, 0 to ValueCount() - 1. Escaped texts stand in their quotes here.
+    struct Value {
+        std::string_view name;
+        std::string_view text;
+    };
+    std::size_t ValueCount(std::size_t section) const {
+        return EndOf(section) - sections_[section].firstValue;
+    }
+    Value ValueAt(std::size_t section, std::size_t place) const;
+    // The text of that name's value; empty where there is none.
+    std::string_view Find(std::size_t section, std::string_view name) const;
+
+    // The value without its quotes and escapes; nothing where there is none.
+    std::optional<std::string> Get(std::string_view section, std::string_view name) const;
+
+    // Changes the line of the value, which keeps its line end and the spelling of its name; a value that is
+    // the same changes nothing. A new name goes behind the last value of its section and a new section to the
+    // end of the file, with the line end of the first line, CR LF where there is none. All other lines keep
+    // their bytes, but a last line without an end takes one when a line goes behind it. False, and nothing
+    // changed, where the file could not give back what was set: for a line end or a zero byte in a section's
+    // name or in a text that isn't escaped, and for names that would be read as something else, such as one
+    // with "=" that isn't escaped.
+    bool Set(std::string_view section, std::string_view name, std::string_view value);
+
+    const std::string& Text() const { return text_; }
+
+  private:
+    struct Piece {  // of text_
+        std::size_t begin = 0;
+        std::size_t size = 0;
+    };
+    struct Section {
+        Piece name;
+        std::size_t firstValue = 0;  // place in values_
+    };
+    struct Entry {
+        Piece name;
+        Piece text;
+    };
+
+    void Parse();
+    std::string_view View(Piece piece) const { return {text_.data() + piece.begin, piece.size}; }
+    Piece PieceOf(std::string_view lent) const;
+    std::size_t EndOf(std::size_t section) const;
+    const Entry* FindEntry(std::size_t section, std::string_view name) const;
+    const Entry* FindEntry(std::string_view section, std::string_view name) const;
+    std::string Plain(Piece piece) const;
+    Piece LineAt(std::size_t place) const;
+    std::string_view LineEnd() const;
+    void InsertBehind(std::size_t place, std::string line);
+
+    InitialisationDialect dialect_;
+    std::string text_;
+    std::vector<Section> sections_;
+    std::vector<Entry> values_;  // of all sections
 };
-
-// Reads the text of an initialisation file. Lines that are neither a section nor hold a "=" are skipped;
-// lines that start with ";" are comments.
-InitialisationFile ParseInitialisationFile(std::string_view text);
 
 }  // namespace orlo

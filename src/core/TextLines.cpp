@@ -27,11 +27,6 @@ std::size_t LineLength(std::string_view text) {
     return std::string_view::npos;
 }
 
-std::string_view WithoutByteOrderMark(std::string_view text) {
-    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
-    return text;
-}
-
 }  // namespace
 
 LineReader::LineReader(InputFile& file)
@@ -87,14 +82,21 @@ std::optional<std::string_view> LineReader::Next() {
 std::vector<std::string_view> SplitLines(std::string_view text) {
     text = WithoutByteOrderMark(text);
     std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const std::size_t length = LineLength(text);
-        lines.push_back(text.substr(0, length));
-        if (length == std::string_view::npos) break;
-        const bool pair = text.substr(length, 2) == "\r\n";
-        text.remove_prefix(length + (pair ? 2 : 1));
-    }
+    while (!text.empty()) lines.push_back(TakeLine(text));
     return lines;
+}
+
+std::string_view TakeLine(std::string_view& text) {
+    const std::size_t length = LineLength(text);
+    const std::string_view line = text.substr(0, length);
+    text.remove_prefix(line.size());
+    if (!text.empty()) text.remove_prefix(text.substr(0, 2) == "\r\n" ? 2 : 1);
+    return line;
+}
+
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
+    return text;
 }
 
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path) {

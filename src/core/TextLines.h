@@ -35,6 +35,12 @@ class LineReader {
 // The lines of a text by the same rule.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
+// Takes the first line with its end off a text that isn't empty, and gives it without its end.
+std::string_view TakeLine(std::string_view& text);
+
+// The text behind the byte order mark at its front, where one stands.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
 // A whole file; nothing when it can't be opened or is larger than any file that is read whole could be (1
 // GiB). A file that shrinks while it is read gives what could be read.
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path);

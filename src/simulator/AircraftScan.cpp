@@ -1,5 +1,7 @@
 #include "simulator/AircraftScan.h"
 
+#include <utility>
+
 #include "core/InitialisationFile.h"
 #include "core/KeyedIndex.h"
 #include "core/Number.h"
@@ -24,20 +26,24 @@ constexpr std::size_t kFreeRepeats = 1024 * 1024;  // bytes
 // Sections by name. Of two with one name the first is read for both.
 class ConfigFile {
   public:
-    explicit ConfigFile(const InitialisationFile& file) {
-        for (const InitialisationSection& section : file.sections) sections_.Add(section.name, &section);
+    explicit ConfigFile(const InitialisationFile& file) : file_(file) {
+        for (std::size_t place = 0; place < file.SectionCount(); ++place) {
+            sections_.Add(file.SectionName(place), place);
+        }
     }
     // Bytes of all names and values of a section.
     std::size_t Size(std::string_view section) const {
-        const auto* found = sections_.Find(section);
+        const std::size_t* found = sections_.Find(section);
         std::size_t size = 0;
-        if (found == nullptr) return size;
-        for (const auto& [key, value] : (*found)->values) size += key.size() + value.size();
+        for (std::size_t i = 0; found != nullptr && i < file_.ValueCount(*found); ++i) {
+            const auto [name, text] = file_.ValueAt(*found, i);
+            size += name.size() + text.size();
+        }
         return size;
     }
     std::string Text(std::string_view section, std::string_view key) const {
-        const auto* found = sections_.Find(section);
-        return found != nullptr ? ConfigText((*found)->Value(key)) : std::string();
+        const std::size_t* found = sections_.Find(section);
+        return found != nullptr ? ConfigText(file_.Find(*found, key)) : std::string();
     }
     bool Boolean(std::string_view section, std::string_view key) const {
         const std::string text = Text(section, key);
@@ -45,7 +51,8 @@ class ConfigFile {
     }
 
   private:
-    KeyedIndex<const InitialisationSection*> sections_;
+    const InitialisationFile& file_;
+    KeyedIndex<std::size_t> sections_;
 };
 
 // What all variants of an aircraft.cfg share. Models and classes are looked up once for each name.
@@ -65,7 +72,7 @@ class FolderReader {
     // Bytes of the texts behind all variants so far.
     std::size_t TakenSize() const { return taken_; }
 
-    void ReadVariant(const std::string& section, bool detailed) {
+    void ReadVariant(std::string_view section, bool detailed) {
         taken_ += config_.Size(section) + common_.Performance.size();
         const std::string title = config_.Text(section, "title");
         if (title.empty()) return;
@@ -88,7 +95,7 @@ class FolderReader {
     }
 
   private:
-    void ReadDetails(const std::string& section, FSAircraft& aircraft) {
+    void ReadDetails(std::string_view section, FSAircraft& aircraft) {
         aircraft.Sim = config_.Text(section, "sim");
         aircraft.Model = config_.Text(section, "model");
         aircraft.Panel = config_.Text(section, "panel");
@@ -103,7 +110,7 @@ class FolderReader {
     }
 
     // A file without a model of its own tells model and type by section.
-    void ReadModelAndType(const std::string& section, FSAircraft& aircraft) {
+    void ReadModelAndType(std::string_view section, FSAircraft& aircraft) {
         const bool modelBySection = aircraft.ATCModel.empty();
         if (modelBySection) aircraft.ATCModel = config_.Text(section, "atc_model");
         if (modelBySection || aircraft.ATCType.empty()) {
@@ -169,13 +176,14 @@ bool ScanAircraft(Fleet& fleet, const ClassLists& classes, FileSystem& files,
 
 void ReadAircraftFolder(Fleet& fleet, const ClassLists& classes, FileSystem& files, const std::string& folder,
                         bool detailed) {
-    const auto text = ReadWholeFile(files, JoinPath(folder, "aircraft.cfg"));
+    auto text = ReadWholeFile(files, JoinPath(folder, "aircraft.cfg"));
     if (!text || text->empty()) return;
-    const InitialisationFile file = ParseInitialisationFile(*text);
+    const InitialisationFile file(std::move(*text));
     FolderReader reader(fleet, classes, files, folder, file);
-    for (const InitialisationSection& section : file.sections) {
-        if (reader.TakenSize() > kFreeRepeats + kMostRepeats * text->size()) break;
-        if (StartsWithNoCase(section.name, kVariantSection)) reader.ReadVariant(section.name, detailed);
+    for (std::size_t place = 0; place < file.SectionCount(); ++place) {
+        if (reader.TakenSize() > kFreeRepeats + kMostRepeats * file.Text().size()) break;
+        const std::string_view section = file.SectionName(place);
+        if (StartsWithNoCase(section, kVariantSection)) reader.ReadVariant(section, detailed);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <span>
+#include <utility>
 
 #include "core/InitialisationFile.h"
 #include "core/Path.h"
@@ -56,9 +57,10 @@ std::uint64_t ModelRadiusPosition(std::int32_t format) {
 ModelRadius ReadModelRadius(FileSystem& files, const std::string& folder, std::string_view modelName) {
     ModelRadius model;
     const std::string modelFolder = JoinPath(folder, PartName("model", modelName));
-    const auto config = ReadWholeFile(files, JoinPath(modelFolder, "model.cfg"));
+    auto config = ReadWholeFile(files, JoinPath(modelFolder, "model.cfg"));
     if (!config) return model;
-    const std::string normal = ConfigText(ParseInitialisationFile(*config).Value("models", "normal"));
+    const InitialisationFile settings(std::move(*config));
+    const std::string normal = ConfigText(settings.Get("models", "normal").value_or(""));
     const std::string path = JoinPath(modelFolder, NativePath(Concat(normal, ".mdl")));
     const auto file = files.OpenForReading(path);
     if (!file || file->Size() == 0) return model;

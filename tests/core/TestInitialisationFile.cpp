@@ -6,7 +6,7 @@ namespace orlo {
 namespace {
 
 TEST(InitialisationFile, ValuesAreFoundBySectionAndKeyWithoutRegardToCase) {
-    const InitialisationFile file = ParseInitialisationFile(
+    const InitialisationFile file(
         "stray=1\r\n"
         "[ fltsim.0 ] behind\r\n"
         "title = Boeing 747-400 \r\n"
@@ -38,12 +38,73 @@ TEST(InitialisationFile, ValuesAreFoundBySectionAndKeyWithoutRegardToCase) {
         {"fltsim.0", "twice", "1=2"},
         {"fltsim.0", "atc_id", "N1"},  // a section line without its end is no line
         {"general", "model", "a"},
-        {"fltsim.0", "stray", ""},
-        {"fltsim.1", "title", ""},
     };
-    for (const Case& c : cases) EXPECT_EQ(file.Value(c.section, c.key), c.value) << c.section << c.key;
-    EXPECT_EQ(file.sections.size(), 3u);
-    EXPECT_EQ(file.Section("fltsim"), nullptr);
+    for (const Case& c : cases) EXPECT_EQ(file.Get(c.section, c.key), c.value) << c.section << c.key;
+    EXPECT_EQ(file.Get("fltsim.0", "stray"), std::nullopt);
+    EXPECT_EQ(file.Get("fltsim.1", "title"), std::nullopt);
+    EXPECT_EQ(file.SectionCount(), 3u);
+    EXPECT_EQ(file.FindSection("fltsim"), std::nullopt);
+    EXPECT_EQ(file.ValueCount(1), 1u);
+    EXPECT_EQ(file.ValueAt(2, 0).text, "b");
+}
+
+TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
+    constexpr std::string_view kText =
+        "\xEF\xBB\xBF; by hand\n"
+        "[fltsim.0]\r\n"
+        "\tTitle = \"Jet\" \r"
+        "title=second\n"
+        "\n"
+        "[ General ] ; all\n"
+        "; nothing\n"
+        "[Fltsim.0]\n"
+        "sim=b";
+    struct Case {
+        std::string_view section, key, value;
+        std::string_view before, after;  // what the change replaces
+    };
+    const Case cases[] = {
+        {"FLTSIM.0", "title", "Jet", "", ""},
+        {"FLTSIM.0", "title", "Jumbo", "\tTitle = \"Jet\" \r", "Title=Jumbo\r"},
+        {"fltsim.0", "title", " 'a", "\tTitle = \"Jet\" \r", "Title=\" 'a\"\r"},
+        {"fltsim.0", "Title", "'a'", "\tTitle = \"Jet\" \r", "Title=\"'a'\"\r"},
+        {"fltsim.0", "sim", "c", "title=second\n", "title=second\nsim=c\n"},
+        {"general", "atc_model", "A;B", "; all\n", "; all\natc_model=A;B\n"},
+        {"models", "normal", "", "sim=b", "sim=b\n[models]\nnormal=\n"},
+    };
+    for (const Case& c : cases) {
+        InitialisationFile file((std::string(kText)));
+        EXPECT_TRUE(file.Set(c.section, c.key, c.value));
+        std::string expected(kText);
+        expected.replace(expected.find(c.before), c.before.size(), c.after);
+        EXPECT_EQ(file.Text(), expected) << c.key << "=" << c.value;
+        EXPECT_EQ(file.Get(c.section, c.key), c.value);
+    }
+    const Case refused[] = {{"fltsim.0", "title", "a\nb", "", ""},
+                            {"fltsim.0", "a=b", "1", "", ""},
+                            {"fltsim.0", ";a", "1", "", ""},
+                            {"fltsim.0", "[a", "1", "", ""},
+                            {"fltsim.0", " a", "1", "", ""},
+                            {"a]b", "a", "1", "", ""},
+                            {" a", "a", "1", "", ""},
+                            {"a\r", "a", "1", "", ""}};
+    for (const Case& c : refused) {
+        InitialisationFile file((std::string(kText)));
+        EXPECT_FALSE(file.Set(c.section, c.key, c.value)) << c.section << c.key;
+        EXPECT_EQ(file.Text(), kText);
+    }
+}
+
+TEST(InitialisationFile, ALineEndIsThatOfTheFileAndNeverJoinsTheOneBehind) {
+    InitialisationFile made("");
+    EXPECT_TRUE(made.Set("a", "b", "1"));
+    EXPECT_EQ(made.Text(), "[a]\r\nb=1\r\n");
+    InitialisationFile mixed("[a]\r\n[b]\r");
+    EXPECT_TRUE(mixed.Set("b", "c", "1"));
+    EXPECT_EQ(mixed.Text(), "[a]\r\n[b]\rc=1\r\n");
+    InitialisationFile returns("[a]\r\r[b]\rc=1\r\n\n");
+    EXPECT_TRUE(returns.Set("b", "d", "2"));
+    EXPECT_EQ(returns.Text(), "[a]\r\r[b]\rc=1\r\nd=2\r\n\n");
 }
 
 }  // namespace

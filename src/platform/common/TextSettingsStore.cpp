@@ -2,17 +2,18 @@
 
 #include "core/Path.h"
 #include "core/TextLines.h"
+#include "platform/common/SettingsText.h"
 
 namespace orlo {
 
 TextSettingsStore::TextSettingsStore(FileSystem& files, std::string path)
     : files_(files), path_(std::move(path)) {}
 
-SettingsText& TextSettingsStore::Loaded() {
+InitialisationFile& TextSettingsStore::Loaded() {
     if (!text_) {
         const auto bytes = ReadWholeFile(files_, path_);
         unreadable_ = !bytes && (files_.FileExists(path_) || files_.FolderExists(path_));
-        text_.emplace(bytes ? *bytes : std::string());
+        text_ = ReadSettingsText(bytes ? *bytes : std::string());
     }
     return *text_;
 }
@@ -22,7 +23,7 @@ std::optional<std::string> TextSettingsStore::Get(std::string_view keyPath, std:
 }
 
 bool TextSettingsStore::Set(std::string_view keyPath, std::string_view name, std::string_view value) {
-    SettingsText& text = Loaded();
+    InitialisationFile& text = Loaded();
     if (text.Get(keyPath, name) == value) return true;
     if (!text.Set(keyPath, name, value)) return false;
     changed_ = true;

@@ -3,14 +3,14 @@
 #include <optional>
 #include <string>
 
-#include "platform/common/SettingsText.h"
+#include "core/InitialisationFile.h"
 #include "services/FileSystem.h"
 #include "services/SettingsStore.h"
 
 namespace orlo {
 
-// A settings store in a text file (see SettingsText). The file is read at the first use and written by Flush
-// when something was changed; a missing file is an empty store, and its folder is made with it.
+// A settings store in a text file (see ReadSettingsText). The file is read at the first use and written by
+// Flush when something was changed; a missing file is an empty store, and its folder is made with it.
 class TextSettingsStore : public SettingsStore {
   public:
     TextSettingsStore(FileSystem& files, std::string path);
@@ -22,11 +22,11 @@ class TextSettingsStore : public SettingsStore {
     bool Flush() override;
 
   private:
-    SettingsText& Loaded();
+    InitialisationFile& Loaded();
 
     FileSystem& files_;
     std::string path_;
-    std::optional<SettingsText> text_;  // nothing until the first use
+    std::optional<InitialisationFile> text_;  // nothing until the first use
     bool unreadable_ = false;
     bool changed_ = false;
 };
