@@ -2,8 +2,8 @@
 
 #include "core/Text.h"
 #include "editors/FlightEditTimes.h"
-#include "mainwindow/BulkOperation.h"
 #include "mainwindow/PrintedLeg.h"
+#include "mainwindow/StatusTexts.h"
 
 namespace orlo {
 namespace {

@@ -3,7 +3,7 @@
 #include "core/Text.h"
 #include "editors/FlightEditLegs.h"
 #include "editors/FlightEditTimes.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/SettingsTable.h"
 #include "simulator/MatchedAircraft.h"
 
@@ -78,7 +78,7 @@ std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSear
     FlightList& flights = fromSearch ? context.session.search.SearchResults : context.session.plan.Flights;
     if (flightIndex < 0 || flightIndex >= flights.Count()) return {};
     {
-        const BusyMainWindow busy(context);
+        const BusyForm busy(context, context.forms.frmMain);
         form.Result.clear();
         form.WorkingFlight = flights.Unpack(flightIndex);
         form.UndoFlight = form.WorkingFlight;

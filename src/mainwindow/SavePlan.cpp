@@ -3,8 +3,9 @@
 #include "core/Application.h"
 #include "core/Path.h"
 #include "core/PlanSideFiles.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/RecentLists.h"
+#include "mainwindow/StatusTexts.h"
 
 namespace orlo {
 
@@ -41,13 +42,13 @@ void SaveFlightplan(Context& context) {
 }
 
 void SaveFlightplanCommand(Context& context) {
-    const BusyMainWindow busy(context);
+    const BusyForm busy(context, context.forms.frmMain);
     SaveFlightplan(context);
 }
 
 void SaveFlightplanAs(Context& context) {
     // After an open that failed there is nothing to write, least of all over the files that stand there.
-    if (context.session.plan.FlightCount() == 0 || context.session.plan.PlanAircraftCount() == 0) {
+    if (!context.session.plan.PlanLoaded) {
         context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
         return;
     }

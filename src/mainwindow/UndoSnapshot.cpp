@@ -1,11 +1,8 @@
 #include "mainwindow/UndoSnapshot.h"
 
-#include "core/Application.h"
-#include "mainwindow/AircraftTrees.h"
-#include "mainwindow/BulkOperation.h"
 #include "mainwindow/Context.h"
+#include "mainwindow/PlanChange.h"
 #include "mainwindow/PlanViews.h"
-#include "mainwindow/TreeSelection.h"
 
 namespace orlo {
 namespace {
@@ -38,25 +35,19 @@ void DiscardUndoSnapshot(Context& context) {
 }
 
 void RestoreUndoSnapshot(Context& context) {
-    MainForm& form = context.forms.frmMain;
-    {
-        const BusyMainWindow busy(context);
-        OpenProgress(context, "Undo...", kUndoStages, 1);
+    PlanChange change;
+    change.work = [&](BusyForm&) -> std::string {
         PutBack(context);
         DiscardUndoSnapshot(context);
-        NextProgress(context, "Refreshing...", 2);
-        {
-            const FrozenForm frozen(form);
-            FillAircraftTrees(form, context.session);
-        }
-        RefreshShuffleLabel(form);
-        ResetTimetableView(context);
-        ResetExportView(context);
-        ResetMoverView(context);
         EnablePlanCommands(context);
-        context.services.progress.Close();
-    }
-    ShowMessage(context.services.messages, "Successfully completed undo.", kMarkInformation, &form);
+        return "Successfully completed undo.";
+    };
+    change.firstStage = "Undo...";
+    change.stages = kUndoStages;
+    change.changesAircraft = true;
+    change.takesSnapshot = false;
+    change.marksModified = false;
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 }  // namespace orlo

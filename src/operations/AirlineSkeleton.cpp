@@ -6,7 +6,8 @@
 #include "core/KeyedIndex.h"
 #include "core/Path.h"
 #include "core/Text.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/StatusTexts.h"
 #include "simulator/Scenery.h"
 
 namespace orlo {
@@ -75,11 +76,11 @@ void GenerateAirlineConfig(Context& context) {
     bool written = false;
     ForgetNotWritten(context);
     {
-        const BusyMainWindow busy(context);
+        BusyForm busy(context, context.forms.frmMain, 1);
         if (session.scenery.Airports.empty()) {
-            OpenProgress(context, "Getting FS2002 Scenery...", 1, 0);
+            busy.Stage("Getting FS2002 Scenery...", 0);
             ReadScenery(session, context.services);
-            context.services.progress.Close();
+            busy.CloseProgress();
         }
         if (!session.scenery.Airports.empty()) written = WriteSkeleton(context);
     }

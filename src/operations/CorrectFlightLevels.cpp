@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/CodeNumbers.h"
-#include "operations/PlanCorrection.h"
+#include "mainwindow/PlanChange.h"
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/MatchedAircraft.h"
 #include "simulator/PlanPositions.h"
@@ -58,11 +58,6 @@ class LevelDrawer {
     std::vector<std::string> levels_;
 };
 
-void CorrectLevelsOfPlan(Context& context) {
-    CorrectFlightLevels(context.session.plan, context.session.fleet, context.session.rules.FlightLevelRules,
-                        context.services.random);
-}
-
 }  // namespace
 
 void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<FlightLevelRule>& rules,
@@ -83,7 +78,14 @@ void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<Fligh
 }
 
 void OnCorrectFlightLevels(Context& context) {
-    RunPlanCorrection(context, CorrectLevelsOfPlan, "Successfully checked Flight Levels for all flights.");
+    Session& session = context.session;
+    PlanChange change;
+    change.work = [&](BusyForm&) -> std::string {
+        CorrectFlightLevels(session.plan, session.fleet, session.rules.FlightLevelRules,
+                            context.services.random);
+        return "Successfully checked Flight Levels for all flights.";
+    };
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 }  // namespace orlo

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/ClockTime.h"
-#include "operations/PlanCorrection.h"
+#include "mainwindow/PlanChange.h"
 
 namespace orlo {
 namespace {
@@ -94,10 +94,6 @@ class MovedTimes {
     std::vector<std::string> texts_;
 };
 
-void CorrectTimesOfPlan(Context& context) {
-    CorrectFlightTimes(context.session.plan, context.session.switches);
-}
-
 }  // namespace
 
 std::string_view CorrectTimes(FlightTimes& times, std::int32_t minimum, std::int32_t maximum) {
@@ -125,7 +121,12 @@ void CorrectFlightTimes(Plan& plan, const Switches& switches) {
 }
 
 void OnCorrectFlightTimes(Context& context) {
-    RunPlanCorrection(context, CorrectTimesOfPlan, "Successfully checked Flight Timings for all flights.");
+    PlanChange change;
+    change.work = [&](BusyForm&) -> std::string {
+        CorrectFlightTimes(context.session.plan, context.session.switches);
+        return "Successfully checked Flight Timings for all flights.";
+    };
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 }  // namespace orlo

@@ -4,7 +4,8 @@
 
 #include "core/Application.h"
 #include "editors/FlightEditor.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/PlanChange.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/SearchRows.h"
 #include "simulator/MatchedAircraft.h"
@@ -99,7 +100,7 @@ void AddFlight(Context& context) {
     Session& session = context.session;
     std::int32_t place = 0;
     {
-        const BusyMainWindow busy(context);
+        const BusyForm busy(context, context.forms.frmMain);
         TakeFirstUndoSnapshot(context);
         place = AppendNewResult(session);
     }

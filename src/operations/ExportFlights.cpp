@@ -6,8 +6,9 @@
 #include "core/FlightplanFile.h"
 #include "core/Path.h"
 #include "core/Text.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/SavePlan.h"
+#include "mainwindow/StatusTexts.h"
 
 namespace orlo {
 namespace {
@@ -63,7 +64,7 @@ void ExportFlights(Context& context) {
     const std::string path = AskForExportPath(context, "Export - Save Flightplan", "Export FlightPlans.txt");
     if (path.empty()) return;
     {
-        const BusyMainWindow busy(context);
+        const BusyForm busy(context, context.forms.frmMain);
         WriteExport(context, path, context.session.search.SearchResults);
     }
     SayExported(context, CountKept(context.session));
@@ -74,7 +75,7 @@ void ExportRemainder(Context& context) {
         AskForExportPath(context, "Export remaining flights - Save Flightplan", "Remaining FlightPlans.txt");
     if (path.empty()) return;
     {
-        const BusyMainWindow busy(context);
+        const BusyForm busy(context, context.forms.frmMain);
         WriteExport(context, path, Remainder(context.session));
     }
     SayExported(context, context.session.plan.FlightCount() - context.session.search.SearchResultCount);

@@ -2,8 +2,9 @@
 
 #include "core/Application.h"
 #include "core/Text.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/PrintedLeg.h"
+#include "mainwindow/StatusTexts.h"
 #include "simulator/MatchedAircraft.h"
 
 namespace orlo {
@@ -68,13 +69,13 @@ void PrintFlights(Context& context) {
     ForgetNotWritten(context);
     const std::int32_t count = context.forms.frmMain.lvExPreview.Count();
     {
-        const BusyMainWindow busy(context);
-        OpenProgress(context, "Matching Aircraft...", kPrintStages, 1);
+        BusyForm busy(context, context.forms.frmMain, kPrintStages);
+        busy.Stage("Matching Aircraft...", 1);
         const FlightPrinter printer(context.session);
-        services.progress.SetMax(count);
-        NextProgress(context, "Printing...", 0);
+        busy.SetStages(count);
+        busy.Stage("Printing...", 0);
         const PrintOutcome outcome = services.windows.Print(PrintedResults(context, printer));
-        services.progress.Close();
+        busy.CloseProgress();
         if (outcome == PrintOutcome::Failed) ReportNotPrinted(context);
         if (outcome != PrintOutcome::Printed) return;
     }

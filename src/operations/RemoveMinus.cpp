@@ -1,17 +1,9 @@
 #include "operations/RemoveMinus.h"
 
 #include "core/Text.h"
-#include "operations/PlanCorrection.h"
+#include "mainwindow/PlanChange.h"
 
 namespace orlo {
-namespace {
-
-void RemoveMinusOfPlan(Context& context) {
-    RemoveMinusFromTailNumbers(context.session.plan);
-}
-
-}  // namespace
-
 void RemoveMinusFromTailNumbers(Plan& plan) {
     std::string tailNumber;
     plan.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {
@@ -24,7 +16,12 @@ void RemoveMinusFromTailNumbers(Plan& plan) {
 }
 
 void OnRemoveMinusFromTailNumbers(Context& context) {
-    RunPlanCorrection(context, RemoveMinusOfPlan, "Successfully removed all '-' chars.");
+    PlanChange change;
+    change.work = [&](BusyForm&) -> std::string {
+        RemoveMinusFromTailNumbers(context.session.plan);
+        return "Successfully removed all '-' chars.";
+    };
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 }  // namespace orlo

@@ -6,7 +6,7 @@
 #include "core/CodeNumbers.h"
 #include "core/Number.h"
 #include "core/Text.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
@@ -24,21 +24,6 @@ constexpr int kSearchStages = 4;
 constexpr std::string_view kErrorColumn = "ERROR";
 constexpr std::string_view kMatchingAircraft = "Matching Aircraft...";
 constexpr std::string_view kSearching = "Searching in Flights...";
-
-// Stages of a search on the progress window, which the first of them opens.
-class SearchProgress {
-  public:
-    explicit SearchProgress(Context& context) : context_(context) {}
-    void Stage(std::string_view text, int value) {
-        if (open_) return NextProgress(context_, text, value);
-        OpenProgress(context_, text, kSearchStages, value);
-        open_ = true;
-    }
-
-  private:
-    Context& context_;
-    bool open_ = false;
-};
 
 SearchFields ReadFields(const Context& context, std::string_view departure, std::string_view leg) {
     const MainForm& form = context.forms.frmMain;
@@ -146,33 +131,33 @@ void FillList(Context& context, const MatchedAircraft& matched, bool withErrors)
 }
 
 // False where the scenery is needed and can't be had.
-bool SearchByFields(Context& context, SearchProgress& progress, std::string_view departure,
-                    std::string_view leg, const MatchedAircraft& matched) {
+bool SearchByFields(Context& context, BusyForm& busy, std::string_view departure, std::string_view leg,
+                    const MatchedAircraft& matched) {
     const SearchFields fields = ReadFields(context, departure, leg);
     if (fields.AskForScenery()) {
-        progress.Stage("Getting FS2002 Scenery...", 1);
+        busy.Stage("Getting FS2002 Scenery...", 1);
         if (!ReadScenery(context.session, context.services)) return false;
     }
-    if (!fields.Airline.empty()) progress.Stage(kMatchingAircraft, 1);
+    if (!fields.Airline.empty()) busy.Stage(kMatchingAircraft, 1);
     const FieldSearch search(fields, context.session, matched);
-    progress.Stage(kSearching, 2);
+    busy.Stage(kSearching, 2);
     CollectResults(context.session,
                    [&](std::int32_t, const FlightView& flight) { return search.Matches(flight); });
     return true;
 }
 
-void SearchWrongLevels(Session& session, SearchProgress& progress) {
-    progress.Stage(kMatchingAircraft, 1);
+void SearchWrongLevels(Session& session, BusyForm& busy) {
+    busy.Stage(kMatchingAircraft, 1);
     LevelSearch levels(session);
-    progress.Stage(kSearching, 2);
+    busy.Stage(kSearching, 2);
     CollectResults(session,
                    [&](std::int32_t, const FlightView& flight) { return levels.HasWrongLevel(flight); });
 }
 
-void SearchDuplicates(Session& session, SearchProgress& progress) {
-    progress.Stage("Preparing Flights...", 1);
+void SearchDuplicates(Session& session, BusyForm& busy) {
+    busy.Stage("Preparing Flights...", 1);
     const std::vector<std::int32_t> first = FirstOfEqualFlights(session.plan.Flights);
-    progress.Stage(kSearching, 2);
+    busy.Stage(kSearching, 2);
     CollectResults(session, [&](std::int32_t place, const FlightView&) {
         return first[static_cast<std::size_t>(place)] != place;
     });
@@ -196,30 +181,30 @@ void SearchUnknownAirports(Session& session) {
 }
 
 // Fills the search state; false where the search can't be done.
-bool Search(Context& context, SearchProgress& progress, std::string_view departure, std::string_view leg,
+bool Search(Context& context, BusyForm& busy, std::string_view departure, std::string_view leg,
             SearchMode mode, const MatchedAircraft& matched) {
     Session& session = context.session;
     switch (mode) {
         case SearchMode::Fields:
-            return SearchByFields(context, progress, departure, leg, matched);
+            return SearchByFields(context, busy, departure, leg, matched);
         case SearchMode::AircraftNotFound:
-            progress.Stage(kSearching, 2);
+            busy.Stage(kSearching, 2);
             CollectResults(session, [&](std::int32_t, const FlightView& flight) {
                 return matched.Find(flight.ACNumber) == nullptr;
             });
             break;
         case SearchMode::WrongFlightLevel:
-            SearchWrongLevels(session, progress);
+            SearchWrongLevels(session, busy);
             break;
         case SearchMode::WrongTime:
-            progress.Stage(kSearching, 2);
+            busy.Stage(kSearching, 2);
             SearchWrongTimes(session);
             break;
         case SearchMode::DuplicateFlights:
-            SearchDuplicates(session, progress);
+            SearchDuplicates(session, busy);
             break;
         case SearchMode::UnknownAirports:
-            progress.Stage(kSearching, 2);
+            busy.Stage(kSearching, 2);
             SearchUnknownAirports(session);
             break;
     }
@@ -229,19 +214,17 @@ bool Search(Context& context, SearchProgress& progress, std::string_view departu
 }  // namespace
 
 void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode) {
-    BusyMainWindow busy(context);
+    BusyForm busy(context, context.forms.frmMain, kSearchStages);
     context.session.search = {};
-    SearchProgress progress(context);
     const MatchedAircraft matched(context.session.plan, context.session.fleet);
-    if (!Search(context, progress, departure, leg, mode, matched)) return busy.StayBusy();
+    if (!Search(context, busy, departure, leg, mode, matched)) return busy.StayBusy();
 
-    progress.Stage("Filling View...", 3);
+    busy.Stage("Filling View...", 3);
     MainForm& form = context.forms.frmMain;
     FillList(context, matched, mode == SearchMode::WrongTime || mode == SearchMode::UnknownAirports);
     ShowResultCount(form);
     form.lvExPreview.SelectCurrentOnly();
     form.lvExPreview.ensureVisibleRequest = true;
-    context.services.progress.Close();
 }
 
 }  // namespace orlo

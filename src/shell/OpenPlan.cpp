@@ -5,7 +5,7 @@
 #include "core/PlanSideFiles.h"
 #include "core/Text.h"
 #include "mainwindow/AircraftTrees.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/PlanViews.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/SavePlan.h"
@@ -60,22 +60,22 @@ void EraseOldPlan(Context& context) {
 
 // Reads all that a plan stands on. Gives the first list that stays empty, whose reader has said why if it
 // knows; nothing where all is there.
-std::string_view ReadPlan(Context& context) {
+std::string_view ReadPlan(Context& context, BusyForm& busy) {
     Session& session = context.session;
-    NextProgress(context, "Reading Airport configuration...", 2);
+    busy.Stage("Reading Airport configuration...", 2);
     ReadPlanAirports(session.plan, context.services);
     if (session.plan.PlanAirportCount() == 0) return "airports";
 
-    NextProgress(context, "Reading Aircraft configuration...", 3);
+    busy.Stage("Reading Aircraft configuration...", 3);
     ReadPlanAircraft(session.plan, context.services);
     if (session.plan.PlanAircraftCount() == 0) return "aircraft";
 
-    NextProgress(context, "Reading Flightplan...", 4);
+    busy.Stage("Reading Flightplan...", 4);
     ReadFlightplan(session.plan, context.services);
     if (session.plan.FlightCount() == 0) return "flights";
 
-    context.services.progress.SetMax(kOpenStages);
-    NextProgress(context, "Detecting FS2002 Aircraft...", 5);
+    busy.SetStages(kOpenStages);
+    busy.Stage("Detecting FS2002 Aircraft...", 5);
     ScanAircraft(session.fleet, session.rules.Classes, context.services.files,
                  SimulatorFolder(session, context.services.machineSettings), true);
     return session.fleet.FSAircraftCount() == 0 ? "aircraft of the simulator" : std::string_view();
@@ -88,10 +88,10 @@ void TellNotLoaded(Context& context, std::string_view missing) {
         Concat("Flightplan not loaded: no ", missing, " found [", context.session.plan.FlightplanPath, "].");
 }
 
-void ShowPlan(Context& context) {
+void ShowPlan(Context& context, BusyForm& busy) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
-    NextProgress(context, "Refreshing...", 6);
+    busy.Stage("Refreshing...", 6);
     FillAircraftTrees(form, session);
     ResetTimetableView(context);
     ResetExportView(context);
@@ -133,17 +133,17 @@ void OpenFlightplan(Context& context, std::string path) {
     session.plan.PlanLoaded = false;
     session.plan.PlanModified = false;
     DisablePlanCommands(context);
-    const BusyMainWindow busy(context);
-    OpenProgress(context, "Cleaning Memory...", kOpenStages, 1);
+    BusyForm busy(context, context.forms.frmMain, kOpenStages);
+    busy.Stage("Cleaning Memory...", 1);
     EraseOldPlan(context);
-    if (const std::string_view missing = ReadPlan(context); !missing.empty()) {
-        context.services.progress.Close();
+    if (const std::string_view missing = ReadPlan(context, busy); !missing.empty()) {
+        busy.CloseProgress();
         TellNotLoaded(context, missing);
         return;
     }
-    ShowPlan(context);
+    ShowPlan(context, busy);
     const bool aircraftMissing = session.switches.ACCheck && !AllPlanAircraftInstalled(session);
-    context.services.progress.Close();
+    busy.CloseProgress();
     AddRecentFlightplan(context, session.plan.FlightplanPath);
     if (aircraftMissing) OfferMissingAircraft(context);
     ActivateTab(context);

@@ -4,9 +4,7 @@
 #include "core/Number.h"
 #include "core/Text.h"
 #include "mainwindow/AircraftTrees.h"
-#include "mainwindow/BulkOperation.h"
-#include "mainwindow/PlanViews.h"
-#include "mainwindow/TreeSelection.h"
+#include "mainwindow/PlanChange.h"
 #include "shuffler/BuildAircraftList.h"
 #include "shuffler/ShuffleEngine.h"
 
@@ -25,28 +23,18 @@ void ReadOptions(Context& context) {
     session.shuffle.CheckFL = form.ckCheckFL.checked;
 }
 
-ShuffleResult Shuffle(Context& context) {
+// Gives the closing message; empty where the shuffle has failed and said so.
+std::string Shuffle(Context& context, BusyForm& busy) {
     Session& session = context.session;
-    MainForm& form = context.forms.frmMain;
-    const BusyMainWindow busy(context);
     ReadOptions(context);
-    OpenProgress(context, "Creating Aircraft list...", kShuffleStages, 1);
-    TakeUndoSnapshot(context);
-    BuildAircraftList(CheckedShuffleAircraft(form, session), session.fleet, session.switches.StartNumber,
-                      session.plan);
-    NextProgress(context, "Rearranging AI Traffic...", 2);
+    BuildAircraftList(CheckedShuffleAircraft(context.forms.frmMain, session), session.fleet,
+                      session.switches.StartNumber, session.plan);
+    busy.Stage("Rearranging AI Traffic...", 2);
     const ShuffleResult result = ShuffleFlightplan(session, context.services, session.plan.FlightplanPath);
-
-    context.services.progress.SetMax(kShuffleStages);
-    NextProgress(context, "Refreshing...", 3);
-    FillAircraftTrees(form, session);
-    RefreshShuffleLabel(form);
-    ResetTimetableView(context);
-    ResetExportView(context);
-    ResetMoverView(context);
-    MarkPlanModified(context);
-    context.services.progress.Close();
-    return result;
+    busy.SetStages(kShuffleStages);
+    if (!result.succeeded) return {};
+    return Concat(result.removed, " flights removed from Flightplan. ", result.assigned,
+                  " flights remaining.");
 }
 
 void RefuseStartNumber(Context& context, Event& event, std::string_view reason) {
@@ -57,12 +45,12 @@ void RefuseStartNumber(Context& context, Event& event, std::string_view reason) 
 }  // namespace
 
 void OnShuffle(Context& context) {
-    const ShuffleResult result = Shuffle(context);
-    if (!result.succeeded) return;
-    ShowMessage(
-        context.services.messages,
-        Concat(result.removed, " flights removed from Flightplan. ", result.assigned, " flights remaining."),
-        kMarkInformation, &context.forms.frmMain);
+    PlanChange change;
+    change.work = [&](BusyForm& busy) { return Shuffle(context, busy); };
+    change.firstStage = "Creating Aircraft list...";
+    change.stages = kShuffleStages;
+    change.changesAircraft = true;
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 void OnCalcStartNumber(Context& context) {

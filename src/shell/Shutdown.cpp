@@ -1,7 +1,7 @@
 #include "shell/Shutdown.h"
 
 #include "core/Application.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/SavePlan.h"
 #include "shell/SettingsMirror.h"
 #include "shell/StartUp.h"
@@ -42,11 +42,11 @@ bool Shutdown(Context& context) {
             return false;
         }
     }
-    const BusyMainWindow busy(context);
+    BusyForm busy(context, context.forms.frmMain, kCleaningStages);
     WriteSettings(context);
-    OpenProgress(context, "Cleaning Memory...", kCleaningStages, 1);
+    busy.Stage("Cleaning Memory...", 1);
     EraseMemory(context);
-    context.services.progress.Close();
+    busy.CloseProgress();
     context.forms.frmMain.systemMenuAbout = false;
     context.frame.limits.RemoveWindowLimits(context.forms.frmMain);
     return true;

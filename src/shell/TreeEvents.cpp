@@ -1,7 +1,7 @@
 #include "shell/TreeEvents.h"
 
 #include "mainwindow/AircraftTrees.h"
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "mainwindow/TreeSelection.h"
 
 namespace orlo {
@@ -19,7 +19,7 @@ void OnFocused(Context& context, void (*onList)(ListView&), void (*onTree)(MainF
 void ChangeView(Context& context, ComboBox& view, TreeView& tree, void (*change)(MainForm&, const Session&)) {
     MainForm& form = context.forms.frmMain;
     if (!ViewChanges(view, context.session)) return change(form, context.session);
-    const BusyMainWindow busy(context);
+    const BusyForm busy(context, context.forms.frmMain);
     const FrozenForm frozen(form);
     tree.visible = false;
     context.services.windows.ProcessEvents();

@@ -7,7 +7,7 @@
 #include <QProgressBar>
 #include <QTableView>
 
-#include "mainwindow/BulkOperation.h"
+#include "mainwindow/BusyForm.h"
 #include "qt/DesktopProgram.h"
 
 namespace orlo {

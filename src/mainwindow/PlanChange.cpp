@@ -1,0 +1,47 @@
+#include "mainwindow/PlanChange.h"
+
+#include "core/Application.h"
+#include "mainwindow/AircraftTrees.h"
+#include "mainwindow/PlanViews.h"
+#include "mainwindow/TreeSelection.h"
+#include "mainwindow/UndoSnapshot.h"
+
+namespace orlo {
+namespace {
+
+void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
+    MainForm& form = context.forms.frmMain;
+    if (!change.firstStage.empty()) busy.Stage("Refreshing...", change.stages - 1);
+    {
+        const FrozenForm frozen(form);
+        FillAircraftTrees(form, context.session);
+    }
+    RefreshShuffleLabel(form);
+}
+
+std::string RunInFrame(Context& context, Form& form, const PlanChange& change) {
+    BusyForm busy(context, form, change.stages);
+    if (!change.firstStage.empty()) busy.Stage(change.firstStage, 1);
+    if (change.takesSnapshot) TakeUndoSnapshot(context);
+    std::string done = change.work(busy);
+    if (change.changesAircraft) ShowTreesAnew(context, change, busy);
+    ResetTimetableView(context);
+    ResetExportView(context);
+    if (change.changesAircraft) ResetMoverView(context);
+    if (change.marksModified) MarkPlanModified(context);
+    return done;
+}
+
+}  // namespace
+
+void ChangePlan(Context& context, Form& form, const PlanChange& change) {
+    const std::string done = RunInFrame(context, form, change);
+    if (!done.empty()) ShowMessage(context.services.messages, done, kMarkInformation, &form);
+}
+
+void MarkPlanModified(Context& context) {
+    context.session.plan.PlanModified = true;
+    context.forms.frmMain.mnuFileSave.enabled = true;
+}
+
+}  // namespace orlo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/Context.h"
+
+namespace orlo {
+
+// An operation that changes the open plan as a whole.
+struct PlanChange {
+    // Changes the plan and gives the closing message; an empty one is not shown.
+    std::function<std::string(BusyForm&)> work;
+    std::string_view firstStage = {};  // empty: no progress window
+    int stages = 0;                    // that it counts to; the last but one shows the plan anew
+    bool changesAircraft = false;      // of the plan: the trees and the mover's view follow
+    bool takesSnapshot = true;         // an undo step of its own
+    bool marksModified = true;         // whether or not anything changed
+};
+
+// Runs the change in the frame of a bulk operation over the form: disables it under the hourglass, shows the
+// first stage, takes the undo snapshot, works, resets the views, marks the plan modified, enables the form,
+// and closes with the message.
+void ChangePlan(Context& context, Form& form, const PlanChange& change);
+
+// After everything that changes flights or plan aircraft.
+void MarkPlanModified(Context& context);
+
+}  // namespace orlo
