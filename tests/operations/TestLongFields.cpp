@@ -1,0 +1,135 @@
+// Sizes of rows were once worked out by hand, field by field; a wrong one would have written past its row.
+
+#include <gtest/gtest.h>
+
+#include "mainwindow/PlanViews.h"
+#include "operations/CorrectFlightLevels.h"
+#include "operations/CorrectFlightTimes.h"
+#include "operations/EditFlights.h"
+#include "operations/RemoveMinus.h"
+#include "operations/SearchFlights.h"
+#include "shuffler/ShuffleEngine.h"
+#include "support/FakeProgram.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::size_t kLong = 1024;
+
+std::string Long(char character) {
+    return std::string(kLong, character);
+}
+// Still readable: a number or time behind so many blanks.
+std::string Padded(std::string_view text) {
+    return std::string(kLong - text.size(), ' ').append(text);
+}
+
+Flight LongFlight() {
+    Flight flight{Long('7'), "", Long('5'), Padded("24Hr"), Padded("IFR"), {}, false};
+    for (std::size_t i = 0; i < kLong / 2; ++i) flight.TailNumber.append("N-");
+    flight.Legs = {
+        {Padded("10:00:00"), Padded("11:00:00"), true, Padded("350"), Long('F'), Long('1'), Long('A')},
+        {Padded("11:00:10"), Padded("13:00:00"), true, Padded("330"), Long('R'), Long('2'), Long('B')},
+        {Padded("13:00:10"), Padded("14:00:00"), true, Padded("310"), Long('F'), Long('3'), Long('A')}};
+    return flight;
+}
+
+struct LongWorld : test::FakeProgram {
+    Flight before = LongFlight();
+
+    LongWorld() {
+        session.plan.PlanLoaded = true;
+        session.plan.Flights.Append(before);
+        session.plan.PlanAircrafts = {{before.ACNumber, Long('T'), "300", 0}};
+        FSAircraft aircraft;
+        aircraft.Title = Long('t');
+        aircraft.MinFL = 0;
+        aircraft.MaxFL = 500;
+        aircraft.MinRange = 0;
+        aircraft.MaxRange = 9999;
+        aircraft.RunwayTypes = "Hard";
+        aircraft.Class = kClassLargeJet;
+        aircraft.CruiseSpeed = 400;
+        session.fleet.FSAircrafts = {aircraft};
+        session.rules.FlightLevelRules = {{0, 9999, -1, 359, 100, 200, 20}};
+        for (const char code : {'A', 'B'}) {
+            AddPlanAirport(Long(code), "N0* 00.00'", code == 'A' ? "E0* 00.00'" : "E9* 00.00'");
+            AirportRecord record;
+            record.ICAO = Long(code);
+            record.TakeoffLength = record.LandingLength = 9000;
+            record.TakeoffSurface = record.LandingSurface = kSurfaceHard;
+            record.MinParkingRadius = 50;
+            session.scenery.Airports.push_back(record);
+        }
+        ResetExportView(context);
+    }
+
+    // What the last operation has changed may differ, and then is long no more; all other texts stand.
+    void ExpectOnlyChanged(bool levels, bool times) {
+        Flight now = session.plan.Flights.Unpack(0);
+        for (std::size_t leg = 0; leg < now.Legs.size(); ++leg) {
+            EXPECT_EQ(now.Legs[leg].FlightLevel.size() == 3, levels);
+            if (levels) before.Legs[leg].FlightLevel = now.Legs[leg].FlightLevel;
+            if (!times || leg == 0) continue;
+            EXPECT_EQ(now.Legs[leg].DepartTime.size(), 8u);
+            before.Legs[leg].DepartTime = now.Legs[leg].DepartTime;
+            before.Legs[leg].ETA = now.Legs[leg].ETA;
+        }
+        if (times) before.Period = now.Period;
+        EXPECT_EQ(now, before);
+    }
+};
+
+TEST(LongFields, AFlightWhoseEveryFieldIsAKilobyteGoesThroughAllThatChangesFlights) {
+    LongWorld world;
+    Plan& plan = world.session.plan;
+    {
+        SCOPED_TRACE("tail numbers");
+        RemoveMinusFromTailNumbers(plan);
+        world.before.TailNumber = std::string(kLong / 2, 'N');
+        world.ExpectOnlyChanged(false, false);
+    }
+    {
+        SCOPED_TRACE("times");
+        CorrectFlightTimes(plan, world.session.switches);
+        world.ExpectOnlyChanged(false, true);
+    }
+    {
+        SCOPED_TRACE("levels");
+        CorrectFlightLevels(plan, world.session.fleet, world.session.rules.FlightLevelRules,
+                            world.world.random);
+        world.ExpectOnlyChanged(true, false);
+    }
+    {
+        SCOPED_TRACE("shuffle");
+        world.session.rules.Airlines.Global.TailPatterns = Long('!');
+        const ShuffleResult result = ShuffleFlightplan(world.session, world.world.services, "");
+        EXPECT_EQ(result.assigned, 1);
+        EXPECT_EQ(plan.Flights.At(0).TailNumber.size(), kLong);
+        EXPECT_EQ(plan.Flights.At(0).ACNumber, Long('7'));
+    }
+    {
+        SCOPED_TRACE("edit, add, delete and undo");
+        const Flight shuffled = plan.Flights.Unpack(0);
+        SearchFlights(world.context, "", "", SearchMode::Fields);
+        EnableResultCommands(world.form);
+        world.inModal = [&] {
+            FlightEditForm& editor = world.program.forms.frmFlightEdit;
+            world.Type(editor.txtReg, Long('R'));
+            world.Press(editor.cmdOK);
+        };
+        world.world.messages.answers = std::deque<MessageAnswer>(20, MessageAnswer::Yes);
+        world.Press(world.form.cmdEditFlight);
+        EXPECT_EQ(plan.Flights.At(0).TailNumber, Long('R'));
+        world.Press(world.form.cmdAddFlight);
+        EXPECT_EQ(plan.Flights.Count(), 2);
+        world.form.lvExPreview.SelectAll(true);
+        world.Press(world.form.cmdDeleteFlight);
+        EXPECT_TRUE(plan.Flights.Removed(0));
+        world.Press(world.form.mnuToolsUndo);
+        EXPECT_EQ(plan.Flights.Unpack(0), shuffled);
+    }
+}
+
+}  // namespace
+}  // namespace orlo
