@@ -62,7 +62,7 @@ void BM_CheckFlightTimes(benchmark::State& state) {
 }
 
 void BM_CorrectFlightTimes(benchmark::State& state) {
-    Measure(state, CorrectFlightTimes);
+    Measure(state, [](Session& session) { CorrectFlightTimes(session.plan, session.switches); });
 }
 
 void BM_CorrectFlightLevels(benchmark::State& state) {
@@ -73,7 +73,7 @@ void BM_CorrectFlightLevels(benchmark::State& state) {
 }
 
 void BM_RemoveMinus(benchmark::State& state) {
-    Measure(state, RemoveMinusFromTailNumbers);
+    Measure(state, [](Session& session) { RemoveMinusFromTailNumbers(session.plan); });
 }
 
 #define ORLO_SIZES ->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond)

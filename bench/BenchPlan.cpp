@@ -47,24 +47,24 @@ void BM_PlainRead(benchmark::State& state) {
 void BM_ReadFlightplan(benchmark::State& state) {
     PosixFileSystem files;
     test::FakeWorld world{{.files = &files}};
-    Session session;
-    session.plan.FlightplanPath = PlanOf(state.range(0));
+    Plan plan;
+    plan.FlightplanPath = PlanOf(state.range(0));
     for (auto _ : state) {
-        ReadFlightplan(session.plan, world.services);
+        ReadFlightplan(plan, world.services);
         world.progress.lines.clear();
     }
     state.SetBytesProcessed(state.iterations() *
-                            static_cast<std::int64_t>(*files.FileSize(session.plan.FlightplanPath)));
-    state.counters["MB"] = static_cast<double>(session.plan.Flights.MemoryBytes()) / 1e6;
+                            static_cast<std::int64_t>(*files.FileSize(plan.FlightplanPath)));
+    state.counters["MB"] = static_cast<double>(plan.Flights.MemoryBytes()) / 1e6;
 }
 
 FlightList ListOf(std::int64_t flights) {
     PosixFileSystem files;
     test::FakeWorld world{{.files = &files}};
-    Session session;
-    session.plan.FlightplanPath = PlanOf(flights);
-    ReadFlightplan(session.plan, world.services);
-    return session.plan.Flights;
+    Plan plan;
+    plan.FlightplanPath = PlanOf(flights);
+    ReadFlightplan(plan, world.services);
+    return plan.Flights;
 }
 
 void BM_CopyFlights(benchmark::State& state) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/AirportRecord.h"
 #include "core/Plan.h"
 
 namespace orlo {
