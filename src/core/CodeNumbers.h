@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -33,7 +35,24 @@ class CodeNumbers {
 
     // Short texts have unlike keys: their bytes and, in the top byte, their length. Long ones are told by the
     // top bit, and must be compared.
-    static std::uint64_t KeyOf(std::string_view text);
+    static std::uint64_t KeyOf(std::string_view text) {
+        const std::size_t size = text.size();
+        if (size >= sizeof(std::uint64_t)) return std::hash<std::string_view>{}(text) | kLongText;
+        std::uint64_t key = static_cast<std::uint64_t>(size) << 56;
+        if (size >= 4) {  // as most codes: the first four bytes and the last four, which may overlap
+            key |= FourBytes(text.data());
+            return key | FourBytes(text.data() + size - 4) << (8 * (size - 4));
+        }
+        for (std::size_t i = 0; i < size; ++i) {
+            key |= static_cast<std::uint64_t>(static_cast<unsigned char>(text[i])) << (8 * i);
+        }
+        return key;
+    }
+    static std::uint64_t FourBytes(const char* bytes) {
+        std::uint32_t value = 0;
+        std::memcpy(&value, bytes, sizeof value);
+        return value;
+    }
 
     PlaceIndex index_;
     std::vector<std::uint64_t> keys_;  // by number, so that a short text is found without a look at it

@@ -3,25 +3,21 @@
 namespace orlo {
 namespace {
 
-LegView NextLeg(RowReader& reader) {
-    LegView leg;
+void ReadNextLeg(RowReader& reader, LegView& leg) {
     leg.DepartTime = reader.Next();
     leg.ETA = reader.Next();
-    if (!leg.ETA.empty() && leg.ETA.front() == kFixedMark) {
-        leg.FixedETA = true;
-        leg.ETA.remove_prefix(1);
-    }
+    leg.FixedETA = !leg.ETA.empty() && leg.ETA.front() == kFixedMark;
+    if (leg.FixedETA) leg.ETA.remove_prefix(1);
     leg.FlightLevel = reader.Next();
     leg.NumberMode = reader.Next();
     leg.FlightNumber = reader.Next();
     leg.Destination = reader.Next();
-    return leg;
 }
 
 }  // namespace
 
 void FlightView::LegIterator::ReadLeg() {
-    leg_ = NextLeg(reader_);
+    ReadNextLeg(reader_, leg_);
 }
 
 std::string_view FlightView::StartAirport() const {
@@ -37,7 +33,9 @@ LegView FlightView::LastLeg() const {
         start = start == 0 ? std::string_view::npos : LegText.rfind(kRowSeparator, start - 1);
     }
     RowReader reader(start == std::string_view::npos ? LegText : LegText.substr(start + 1));
-    return NextLeg(reader);
+    LegView leg;
+    ReadNextLeg(reader, leg);
+    return leg;
 }
 
 LentFlight::LentFlight(const Flight& flight)
@@ -56,8 +54,9 @@ LentFlight& LentFlight::operator=(const FlightView& flight) {
     Percent = flight.Percent;
     Period = flight.Period;
     FlightType = flight.FlightType;
-    Legs.clear();
-    for (const LegView& leg : flight) Legs.push_back(leg);
+    Legs.resize(static_cast<std::size_t>(flight.LegCount));
+    RowReader reader(flight.LegText);
+    for (LegView& leg : Legs) ReadNextLeg(reader, leg);
     return *this;
 }
 
