@@ -2,7 +2,6 @@
 
 #include "core/Text.h"
 #include "editors/FlightEditLegs.h"
-#include "editors/FlightEditTimes.h"
 #include "mainwindow/BulkOperation.h"
 #include "simulator/TitleIndex.h"
 

@@ -2,7 +2,6 @@
 
 #include "core/Application.h"
 #include "core/FlightplanFile.h"
-#include "core/Path.h"
 #include "core/Text.h"
 #include "mainwindow/BulkOperation.h"
 #include "mainwindow/SavePlan.h"

@@ -1,6 +1,5 @@
 #include "shell/Shutdown.h"
 
-#include "core/Application.h"
 #include "mainwindow/BulkOperation.h"
 #include "mainwindow/SavePlan.h"
 #include "shell/SettingsMirror.h"

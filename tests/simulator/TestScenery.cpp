@@ -4,7 +4,6 @@
 
 #include "platform/posix/PosixFileSystem.h"
 #include "simulator/AfdCache.h"
-#include "simulator/AircraftScan.h"
 #include "simulator/BglAirport.h"
 #include "simulator/Scenery.h"
 #include "support/BglBuilder.h"
