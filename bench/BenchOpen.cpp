@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
 
 #include "core/PlanSideFiles.h"
 #include "core/Settings.h"

@@ -3,7 +3,6 @@
 #include <memory>
 #include <random>
 #include <string>
-#include <vector>
 
 #include "core/Session.h"
 #include "core/Text.h"

@@ -1,7 +1,6 @@
 #include "config/AirlineSetsFile.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "config/RuleFile.h"

@@ -6,7 +6,6 @@
 #include "console/ControlPrinting.h"
 #include "console/ScriptText.h"
 #include "core/Text.h"
-#include "core/TextLines.h"
 
 namespace orlo {
 namespace {

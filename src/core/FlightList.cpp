@@ -191,7 +191,9 @@ void FlightList::AppendLine(std::int32_t index, std::string& out) const {
     std::uint32_t legCount = 0;
     const std::size_t start = out.size();
     out.append(FieldsOf(handles_[static_cast<std::size_t>(index)], legCount));
-    std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), kRowSeparator, ',');
+    // Each byte is written, which makes vector code.
+    char* const end = out.data() + out.size();
+    for (char* byte = out.data() + start; byte != end; ++byte) *byte = *byte == kRowSeparator ? ',' : *byte;
 }
 
 std::string FlightList::Line(std::int32_t index) const {

@@ -12,7 +12,8 @@
 namespace orlo {
 namespace {
 
-constexpr std::size_t kNumberStart = 3;  // behind "AC#"
+constexpr std::size_t kNumberStart = 3;        // behind "AC#"
+constexpr std::size_t kUsualAirportLine = 32;  // bytes
 
 // Hands each line that is no comment and has exactly `fieldCount` fields to `take`. False when the file can't
 // be opened.
@@ -76,6 +77,8 @@ void ReadPlanAircraft(Plan& plan, Services& services) {
 void ReadPlanAirports(Plan& plan, Services& services) {
     plan.PlanAirports.clear();
     plan.PlanAirportIndex.Clear();
+    plan.PlanAirportIndex.Reserve(services.files.FileSize(PlanAirportsPath(plan)).value_or(0) /
+                                  kUsualAirportLine);
     const bool found = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
         PlanAirport airport;
         airport.ICAO = TrimBlanks(fields[0]);

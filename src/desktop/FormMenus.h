@@ -3,7 +3,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 

@@ -2,7 +2,6 @@
 
 #include "core/Text.h"
 #include "editors/FlightEditLegs.h"
-#include "editors/FlightEditTimes.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/SettingsTable.h"
 #include "simulator/MatchedAircraft.h"

@@ -10,16 +10,6 @@
 
 namespace orlo {
 
-// The columns of lvLegs.
-enum LegColumn : std::int32_t {
-    kLegFrom,
-    kLegTo,
-    kLegDepart,
-    kLegArrive,
-    kLegFlightNumber,
-    kLegFlightLevel,
-};
-
 // The editor of one flight. The place of a row in lvLegs is the place of its leg.
 struct FlightEditForm : Form {
     FlightEditForm();

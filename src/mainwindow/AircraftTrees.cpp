@@ -5,6 +5,7 @@
 #include "core/AircraftClassNames.h"
 #include "core/Number.h"
 #include "core/Text.h"
+#include "mainwindow/TreeSelection.h"
 
 namespace orlo {
 namespace {

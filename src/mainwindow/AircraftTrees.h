@@ -7,7 +7,6 @@
 
 #include "core/Session.h"
 #include "forms/MainForm.h"
-#include "mainwindow/TreeSelection.h"
 
 namespace orlo {
 

@@ -32,8 +32,10 @@ FlightTimesCheck Report(const Faults& faults) {
     return check;
 }
 
-FlightTimesCheck CheckTimes(const FlightTimes& times, std::string_view period, std::int32_t minimum,
-                            std::int32_t maximum) {
+}  // namespace
+
+FlightTimesCheck CheckFlightTimes(const FlightView& flight, std::int32_t minimum, std::int32_t maximum) {
+    const FlightTimes times(flight);
     Faults faults;
     const auto test = [&](std::int64_t seconds) {
         const TurnAroundTest result = TestTurnAround(seconds, minimum, maximum);
@@ -55,21 +57,11 @@ FlightTimesCheck CheckTimes(const FlightTimes& times, std::string_view period, s
         faults.total = total >= kSecondsPerWeek;
         test(kSecondsPerWeek - total);
     } else {
-        const std::int64_t hours = PeriodHours(period);
+        const std::int64_t hours = PeriodHours(flight.Period);
         faults.total = total >= hours * kSecondsPerHour;
         if (const auto closing = times.ClosingTurnAround(hours)) test(*closing);
     }
     return Report(faults);
-}
-
-}  // namespace
-
-FlightTimesCheck CheckFlightTimes(const FlightView& flight, std::int32_t minimum, std::int32_t maximum) {
-    return CheckTimes(FlightTimes(flight), flight.Period, minimum, maximum);
-}
-
-FlightTimesCheck CheckFlightTimes(const Flight& flight, std::int32_t minimum, std::int32_t maximum) {
-    return CheckTimes(FlightTimes(flight), flight.Period, minimum, maximum);
 }
 
 }  // namespace orlo

@@ -16,6 +16,5 @@ struct FlightTimesCheck {
 // the ground, that between two rounds too, is at least `minimum` minutes and at most `maximum` hours
 // (Switches::TATime and MaxTATime). A time that can't be read takes part in no step; the rest is measured.
 FlightTimesCheck CheckFlightTimes(const FlightView& flight, std::int32_t minimum, std::int32_t maximum);
-FlightTimesCheck CheckFlightTimes(const Flight& flight, std::int32_t minimum, std::int32_t maximum);
 
 }  // namespace orlo

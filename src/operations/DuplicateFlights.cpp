@@ -23,7 +23,8 @@ class KeyWriter {
             for (const LegView& leg : flight) AppendLeg(leg, key);
             if (flight.LegCount > 0) key.pop_back();
         }
-        for (char& byte : key) byte = upper_[static_cast<unsigned char>(byte)];
+        char* const end = key.data() + key.size();
+        for (char* byte = key.data(); byte != end; ++byte) *byte = upper_[static_cast<unsigned char>(*byte)];
     }
 
   private:

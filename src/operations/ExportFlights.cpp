@@ -4,7 +4,6 @@
 
 #include "core/Application.h"
 #include "core/FlightplanFile.h"
-#include "core/Path.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/SavePlan.h"

@@ -16,7 +16,6 @@ struct FileDialog {
     int filterIndex = 1;  // counted from 1
     std::string startFolder;
     bool fileMustExist = false;
-    bool pathMustExist = false;
     bool overwritePrompt = false;
     std::string defaultExtension;
 };

@@ -47,7 +47,7 @@ void EraseOldPlan(Context& context) {
     Plan empty;
     empty.FlightplanPath = session.plan.FlightplanPath;
     session.plan = std::move(empty);
-    session.fleet = {};
+    session.fleet.FSAircrafts.clear();
     session.search = {};
     form.lvExPreview.Clear();
 

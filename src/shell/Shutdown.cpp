@@ -1,6 +1,5 @@
 #include "shell/Shutdown.h"
 
-#include "core/Application.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/SavePlan.h"
 #include "shell/SettingsMirror.h"

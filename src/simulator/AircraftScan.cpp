@@ -163,7 +163,8 @@ std::string SimulatorFolder(const Session& session, SettingsStore& machineSettin
 
 bool ScanAircraft(Fleet& fleet, const ClassLists& classes, FileSystem& files,
                   const std::string& simulatorFolder, bool detailed) {
-    fleet = {};
+    fleet.FSAircrafts.clear();
+    fleet.FSAircraftProblems = false;
     if (simulatorFolder.empty()) return false;
     const std::string root = JoinPath(simulatorFolder, "Aircraft");
     if (!files.FolderExists(root)) return false;

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-
 #include "config/AircraftClasses.h"
 #include "core/Text.h"
 #include "support/FakeHosts.h"

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/TextLines.h"
 #include "support/FakeHosts.h"
 
 namespace orlo {

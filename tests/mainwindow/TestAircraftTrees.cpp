@@ -4,6 +4,7 @@
 
 #include "core/Text.h"
 #include "mainwindow/AircraftTrees.h"
+#include "mainwindow/TreeSelection.h"
 
 namespace orlo {
 namespace {

@@ -7,7 +7,6 @@
 
 #include "core/ClockTime.h"
 #include "core/FlightTimes.h"
-#include "core/Number.h"
 #include "operations/CheckFlightTimes.h"
 #include "support/CaseTable.h"
 #include "support/FakeProgram.h"
@@ -137,14 +136,18 @@ TEST(FlightCorrections, TimesAreCheckedAndCorrectedAtTheirLimits) {
 
 // A round with one leg has no turn-around but the closing one.
 TEST(FlightCorrections, ARoundOfOneLegIsCheckedToo) {
+    FlightList flights;
     Flight flight{"AC#1", "N1", "50%", "2Hr", "IFR", {}, false};
-    EXPECT_EQ(CheckFlightTimes(flight, 30, kOff).Text, "");
+    flights.Append(flight);
+    EXPECT_EQ(CheckFlightTimes(flights.At(0), 30, kOff).Text, "");
     flight.Legs = {{"10:00:00", "11:30:00", false, "350", "F", "1", "EDDF"}};
-    EXPECT_EQ(CheckFlightTimes(flight, 30, kOff).Text, "");
-    EXPECT_EQ(CheckFlightTimes(flight, 45, kOff).Text, "min. Turn-Around");
+    flights.Append(flight);
+    EXPECT_EQ(CheckFlightTimes(flights.At(1), 30, kOff).Text, "");
+    EXPECT_EQ(CheckFlightTimes(flights.At(1), 45, kOff).Text, "min. Turn-Around");
     flight.Legs[0] = {"6/22:00:00", "6/21:00:00", false, "350", "F", "1", "EDDF"};
     flight.Period = "WEEK";
-    EXPECT_EQ(CheckFlightTimes(flight, 30, 24).Text, "max. Turn-Around");
+    flights.Append(flight);
+    EXPECT_EQ(CheckFlightTimes(flights.At(2), 30, 24).Text, "max. Turn-Around");
 }
 
 // A walk over all legs for each leg would take minutes.

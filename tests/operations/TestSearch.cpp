@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/FlightplanFile.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/SearchRows.h"
 #include "operations/SearchWorld.h"

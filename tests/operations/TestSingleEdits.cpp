@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/FlightplanFile.h"
 #include "mainwindow/PlanViews.h"
-#include "operations/EditFlights.h"
 #include "operations/ExportFlights.h"
 #include "operations/PrintFlights.h"
 #include "operations/SearchWorld.h"

@@ -71,9 +71,8 @@ TEST(WineRegistry, TextValuesAreFoundAndDecoded) {
         {"Software", "Last", std::nullopt},
     };
     for (const Case& c : cases) EXPECT_EQ(FindWineRegistryValue(kRegistry, c.key, c.name), c.value) << c.name;
-    EXPECT_EQ(FindWineRegistryValue32(kRegistry, kSimulatorKeyPath, "EXE Path"),
-              "C:\\Program Files\\FS 2002");
-    EXPECT_EQ(FindWineRegistryValue32(kRegistry, kSimulatorKeyPath, "Only64"), "yes");
+    EXPECT_EQ(FindWineRegistryValue(kRegistry, kSimulatorKeyPath, "EXE Path"), "C:\\Program Files\\FS 2002");
+    EXPECT_EQ(FindWineRegistryValue(kRegistry, kSimulatorKeyPath, "Only64"), "yes");
 }
 
 TEST(WineRegistry, DrivePathsComeApart) {

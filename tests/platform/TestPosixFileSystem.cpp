@@ -6,7 +6,6 @@
 #include "platform/TemporaryFolder.h"
 
 #include "core/TextLines.h"
-#include "platform/posix/PosixNames.h"
 
 namespace orlo {
 namespace {

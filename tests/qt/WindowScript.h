@@ -4,7 +4,6 @@
 #include <QTimer>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "console/ConsoleHost.h"

@@ -9,7 +9,6 @@
 #include "core/TextLines.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "simulator/AfdCache.h"
-#include "simulator/AircraftScan.h"
 #include "simulator/BglAirport.h"
 #include "simulator/GreatCircle.h"
 #include "simulator/Scenery.h"

@@ -243,11 +243,6 @@ class RegistryLines {
 
 std::optional<std::string> FindWineRegistryValue(std::string_view text, std::string_view keyPath,
                                                  std::string_view name) {
-    return RegistryLines(text).Find(keyPath, name);
-}
-
-std::optional<std::string> FindWineRegistryValue32(std::string_view text, std::string_view keyPath,
-                                                   std::string_view name) {
     RegistryLines lines(text);
     if (StartsWithNoCase(keyPath, kSoftware)) {
         const std::string path32 = Concat(kSoftware32, keyPath.substr(kSoftware.size()));

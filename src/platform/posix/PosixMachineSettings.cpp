@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/Path.h"
+#include "core/Settings.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "platform/common/WineRegistry.h"
@@ -40,7 +41,7 @@ std::optional<std::string> PosixMachineSettings::FindInWine(std::string_view key
     if (winePrefix_.empty()) return std::nullopt;
     const auto text = ReadWholeFile(files_, JoinPath(winePrefix_, "system.reg"));
     if (!text) return std::nullopt;
-    const auto value = FindWineRegistryValue32(*text, keyPath, name);
+    const auto value = FindWineRegistryValue(*text, keyPath, name);
     if (!value) return std::nullopt;
     return SystemPath(*value);
 }

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "core/Settings.h"
 #include "platform/common/TextSettingsStore.h"
 #include "services/FileSystem.h"
 #include "services/SettingsStore.h"
