@@ -4,7 +4,6 @@
 #include <cstring>
 #include <deque>
 
-#include "core/FieldScan.h"
 #include "core/FlightArena.h"
 #include "core/FlightRow.h"
 
@@ -105,6 +104,13 @@ void WriteCleaned(const LentFlight& flight, char* out) {
     WriteFields(cleaned, out);
 }
 
+// Copies the text with each byte `from` as `to`. Every byte is written, which makes vector code.
+void ReplaceEach(std::string_view text, char from, char to, char* out) {
+    const char* const bytes = text.data();
+    const std::size_t size = text.size();
+    for (std::size_t i = 0; i < size; ++i) out[i] = bytes[i] == from ? to : bytes[i];
+}
+
 // Puts the head in front of the fields, which stand already, and takes the row.
 char* CommitRow(FlightArena& arena, char* row, std::size_t legCount, std::size_t length) {
     const RowHead head{static_cast<std::uint32_t>(legCount), static_cast<std::uint32_t>(length)};
@@ -187,18 +193,16 @@ Flight FlightList::Unpack(std::int32_t index) const {
     return flight;
 }
 
-void FlightList::AppendLine(std::int32_t index, std::string& out) const {
+void FlightList::WriteLine(std::int32_t index, std::string& out) const {
     std::uint32_t legCount = 0;
-    const std::size_t start = out.size();
-    out.append(FieldsOf(handles_[static_cast<std::size_t>(index)], legCount));
-    // Each byte is written, which makes vector code.
-    char* const end = out.data() + out.size();
-    for (char* byte = out.data() + start; byte != end; ++byte) *byte = *byte == kRowSeparator ? ',' : *byte;
+    const std::string_view row = FieldsOf(handles_[static_cast<std::size_t>(index)], legCount);
+    out.resize(out.size() + row.size());
+    ReplaceEach(row, kRowSeparator, ',', out.data() + out.size() - row.size());
 }
 
 std::string FlightList::Line(std::int32_t index) const {
     std::string line;
-    AppendLine(index, line);
+    WriteLine(index, line);
     return line;
 }
 
@@ -240,17 +244,13 @@ void FlightList::Append(const LentFlight& flight) {
     DropDeadRows();
 }
 
-void FlightList::AppendFields(std::string_view line, const FieldScan& fields, std::int32_t legCount) {
-    const std::size_t count = kFlightFields + kLegFields * static_cast<std::size_t>(legCount);
-    const std::size_t length = fields.End(count - 1);
+void FlightList::AppendLine(std::string_view line, std::int32_t legCount) {
     FlightArena& arena = OwnArena();
-    char* row = arena.Reserve(RowBytes(length));
-    char* out = row + sizeof(RowHead);
-    std::memcpy(out, line.data(), length);
-    for (std::size_t i = 0; i + 1 < count; ++i) out[fields.End(i)] = kRowSeparator;
+    char* const row = arena.Reserve(RowBytes(line.size()));
+    ReplaceEach(line, ',', kRowSeparator, row + sizeof(RowHead));
     handles_.push_back(
-        reinterpret_cast<Handle>(CommitRow(arena, row, static_cast<std::size_t>(legCount), length)));
-    liveBytes_ += RowBytes(length);
+        reinterpret_cast<Handle>(CommitRow(arena, row, static_cast<std::size_t>(legCount), line.size())));
+    liveBytes_ += RowBytes(line.size());
 }
 
 FlightList FlightList::Selection(std::span<const std::int32_t> places) const {

@@ -14,7 +14,6 @@
 
 namespace orlo {
 
-class FieldScan;
 class FlightArena;
 
 // The flights of a plan, packed. Each flight is one immutable row; copies and selections of a list share
@@ -33,8 +32,8 @@ class FlightList {
     bool Removed(std::int32_t index) const {
         return (handles_[static_cast<std::size_t>(index)] & kRemovedBit) != 0;
     }
-    // The flight as its line of a plan file, without a line end.
-    void AppendLine(std::int32_t index, std::string& out) const;
+    // Appends the flight's line of a plan file to `out`, without a line end.
+    void WriteLine(std::int32_t index, std::string& out) const;
     std::string Line(std::int32_t index) const;
 
     void SetRemoved(std::int32_t index, bool removed);
@@ -43,9 +42,9 @@ class FlightList {
     void Append(const Flight& flight);
     // Without the Removed mark.
     void Append(const LentFlight& flight);
-    // For the reader of a plan: the flight of a line whose fields stand as they are to be. The legs are those
-    // of the first `legCount`; what stands behind them is left out. The line holds no line end.
-    void AppendFields(std::string_view line, const FieldScan& fields, std::int32_t legCount);
+    // For the reader of a plan: the flight of a line whose fields stand as they are to be, separated by ",",
+    // those of `legCount` legs and no further ones. The line holds no line end.
+    void AppendLine(std::string_view line, std::int32_t legCount);
 
     // Changes many flights in one pass. `change(index, flight, changed)` is called for each flight in order.
     // To change it, it assigns `flight` to `changed`, puts in other texts, which must hold until the next

@@ -63,7 +63,8 @@ class LinePacker {
         if (fields_.Count() < kFewestFields) return false;
         const std::size_t legs = (fields_.Count() - kFlightFields) / kLegFields;
         if (!fields_.HasBlanks() && IsNormal(line, fields_, legs)) {
-            flights_.AppendFields(line, fields_, static_cast<std::int32_t>(legs));
+            const std::size_t kept = kFlightFields + legs * kLegFields;
+            flights_.AppendLine(line.substr(0, fields_.End(kept - 1)), static_cast<std::int32_t>(legs));
         } else {
             AppendNormalised(line, legs);
         }
@@ -105,7 +106,7 @@ class LineWriter {
     explicit LineWriter(OutputFile& file) : file_(file) { buffer_.reserve(kPiece + kPiece / 4); }
 
     void Add(const FlightList& flights, std::int32_t index) {
-        flights.AppendLine(index, buffer_);
+        flights.WriteLine(index, buffer_);
         buffer_.append("\r\n");
         if (buffer_.size() >= kPiece) Flush();
     }

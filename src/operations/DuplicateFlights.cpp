@@ -16,7 +16,7 @@ class KeyWriter {
   public:
     void Write(const FlightList& flights, std::int32_t place, std::string& key) const {
         key.clear();
-        flights.AppendLine(place, key);
+        flights.WriteLine(place, key);
         if (key.find('@') != std::string::npos) {
             const FlightView flight = flights.At(place);
             key.resize(key.size() - flight.LegText.size());
