@@ -58,6 +58,7 @@ struct SearchState {
 
 struct ProjectState {
     std::string ProjectPath;
+    bool ProjectBegun = false;  // since a project was begun or opened
     bool ProjectLoaded = false;
     bool ProjectModified = false;
 };

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/Control.h"
+#include "forms/ControlOf.h"
 
 namespace orlo {
 
@@ -48,15 +48,17 @@ struct Event {
     std::string path = {};       // of a file that was dropped
     bool refused = false;        // set by a procedure that refuses a Leave or a Close
     MenuEntry* menu = nullptr;   // set by the procedure of a Popup
+    Button* presses = nullptr;   // set by a procedure whose event stands for a click on that button
 };
 
 struct Context;
 
 // What runs when. A procedure that isn't built yet is null: choosing it says so.
 struct EventEntry {
-    std::string_view control;  // empty for events of the form itself
+    ControlGetter control = nullptr;  // null for events of the form itself
     EventKind kind = EventKind::Click;
     void (*procedure)(Context& context, Event& event) = nullptr;
+    std::string_view timer = {};  // that fires, for a Timer
 };
 
 using EventTable = std::span<const EventEntry>;

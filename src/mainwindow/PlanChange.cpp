@@ -2,6 +2,7 @@
 
 #include "core/Application.h"
 #include "mainwindow/AircraftTrees.h"
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanViews.h"
 #include "mainwindow/TreeSelection.h"
 #include "mainwindow/UndoSnapshot.h"
@@ -41,7 +42,7 @@ void ChangePlan(Context& context, Form& form, const PlanChange& change) {
 
 void MarkPlanModified(Context& context) {
     context.session.plan.PlanModified = true;
-    context.forms.frmMain.mnuFileSave.enabled = true;
+    EnableMenus(context);
 }
 
 }  // namespace orlo

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/Text.h"
+#include "mainwindow/EnabledControls.h"
 
 namespace orlo {
 namespace {
@@ -20,12 +21,10 @@ void AddRecent(RecentPaths& paths, const std::string& path) {
     paths.front() = path;
 }
 
-void RebuildMenu(const RecentPaths& paths, MenuEntry& head, const RecentEntries& entries) {
-    head.enabled = false;
+void RebuildMenu(const RecentPaths& paths, const RecentEntries& entries) {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         entries[i]->visible = !paths[i].empty();
         entries[i]->caption = paths[i];
-        if (entries[i]->visible) head.enabled = true;
     }
 }
 
@@ -43,12 +42,13 @@ void AddRecentProject(Context& context, const std::string& path) {
 
 void RebuildRecentMenus(Context& context) {
     MainForm& form = context.forms.frmMain;
-    RebuildMenu(context.session.RecentFlightplans, form.mnuRecentFlightPlan,
+    RebuildMenu(context.session.RecentFlightplans,
                 {&form.mnuRecentFlightPlan1, &form.mnuRecentFlightPlan2, &form.mnuRecentFlightPlan3,
                  &form.mnuRecentFlightPlan4, &form.mnuRecentFlightPlan5});
-    RebuildMenu(context.session.RecentProjects, form.mnuRecentProjects,
+    RebuildMenu(context.session.RecentProjects,
                 {&form.mnuRecentProjects1, &form.mnuRecentProjects2, &form.mnuRecentProjects3,
                  &form.mnuRecentProjects4, &form.mnuRecentProjects5});
+    EnableMenus(context);
 }
 
 }  // namespace orlo

@@ -1,7 +1,6 @@
 #include "mainwindow/Resize.h"
 
 #include "core/Number.h"
-#include "forms/MainForm.h"
 
 namespace orlo {
 namespace {
@@ -44,51 +43,6 @@ void cResize::Resize(std::int32_t height, std::int32_t width) const {
             box.width = Rounded(MovedEdge(entry.right, modes.right, entry.unit, width_, width) - box.left);
         }
     }
-}
-
-void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width) {
-    layout.SetFormHeight(height);
-    layout.SetFormWidth(width);
-    const auto add = [&](int top, int left, int bottom, int right, std::initializer_list<Control*> controls) {
-        const auto mode = [](int value) { return static_cast<EdgeMode>(value); };
-        for (Control* control : controls) {
-            layout.Add(*control, {mode(top), mode(left), mode(bottom), mode(right)}, EdgeUnit::Offset);
-        }
-    };
-    add(0, 0, 1, 1,
-        {&form.tabMain, &form.picShuffle, &form.tvShuffleAircraft, &form.picMove, &form.tvMoveAircrafts,
-         &form.picExport, &form.lvExPreview, &form.picProject, &form.lvProject, &form.picTimetable,
-         &form.lvTimetable});
-    add(0, 0, 0, 1,
-        {&form.cmShufflerView, &form.cmMoveView, &form.lblExClass, &form.cmExClass, &form.txtProjectFile,
-         &form.txtProjectAC, &form.txtProjectDescription, &form.txtTTAirport});
-    add(1, 0, 0, 0,
-        {&form.lblStartNumber, &form.txtStartNumber, &form.cmdCalcStartNumber, &form.ckOverwriteTailNumber,
-         &form.ckRemoveMinus, &form.ckCheckFL, &form.ckIFRVFR, &form.ckCheckVisitedAirports,
-         &form.lblSource});
-    add(1, 2, 1, 2,
-        {&form.cmdShuffle, &form.cmdACTypeDat, &form.cmdProjectCompile, &form.cmdProjectMerge,
-         &form.cmdProjectAdd, &form.cmdProjectDelete, &form.cmdTTShow, &form.cmdTTPrint, &form.cmdTTSave,
-         &form.cmdTTStatistics});
-    add(0, 0, 0, 0,
-        {&form.lblMoveView, &form.lblMoveAircrafts, &form.lblExDeparture, &form.lblExContinent,
-         &form.lblExAirline, &form.lblExPreview});
-    add(1, 0, 0, 2, {&form.cmSource});
-    add(1, 2, 0, 0, {&form.lblDest});
-    add(1, 2, 0, 1, {&form.cmDest});
-    add(1, 0, 1, 0,
-        {&form.cmdMove, &form.cmdMovePercent, &form.cmdEditFlight, &form.cmdAddFlight,
-         &form.cmdDeleteFlight});
-    add(1, 1, 1, 1,
-        {&form.cmdMoveSave, &form.cmdMoveLoad, &form.cmdMoveExecute, &form.cmdPreview, &form.cmdExport,
-         &form.cmdExportRemainder, &form.cmdExportPrint});
-    add(0, 0, 0, 2, {&form.txtExDeparture, &form.txtExContinent, &form.txtExAirline});
-    add(0, 2, 0, 0, {&form.lblExLeg, &form.lblExCountry, &form.lblExportAircraft});
-    add(0, 2, 0, 1, {&form.txtExLeg, &form.txtExCountry, &form.cmExportAircraft});
-    add(0, 1, 0, 1,
-        {&form.lblExZone, &form.cmExZone, &form.frIFRVFR, &form.frSearchType, &form.opANDSearch,
-         &form.opORSearch, &form.cmdProjectFile, &form.cmdProjectAC, &form.lblTTZone, &form.cmTTZone});
-    add(1, 0, 1, 1, {&form.frProject, &form.picProjectDummy});
 }
 
 }  // namespace orlo

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "forms/MainForm.h"
+#include "forms/Control.h"
 
 namespace orlo {
 
@@ -52,8 +52,5 @@ class cResize {
     std::int32_t height_ = 0;
     std::int32_t width_ = 0;
 };
-
-// Registers the controls of the main window that follow its size, in their order, for its present inner size.
-void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width);
 
 }  // namespace orlo

@@ -4,6 +4,7 @@
 #include "core/Path.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/StatusTexts.h"
 
@@ -36,7 +37,7 @@ void SaveFlightplan(Context& context) {
     if (plan.Complete() && !aircraftWritten) ReportNotWritten(context, PlanAircraftPath(session.plan));
     ReportPlanNotWritten(context, session.plan.FlightplanPath, plan);
     session.plan.PlanModified = false;
-    context.forms.frmMain.mnuFileSave.enabled = false;
+    EnableMenus(context);
     ShowMessage(context.services.messages, "Successfully saved modified Flightplan.", kMarkInformation,
                 &context.forms.frmMain);
 }

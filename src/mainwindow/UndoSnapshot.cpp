@@ -1,8 +1,8 @@
 #include "mainwindow/UndoSnapshot.h"
 
 #include "mainwindow/Context.h"
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanChange.h"
-#include "mainwindow/PlanViews.h"
 
 namespace orlo {
 namespace {
@@ -22,16 +22,17 @@ void TakeUndoSnapshot(Context& context) {
     if (!context.session.switches.Undo) return;
     context.undo.Flights = context.session.plan.Flights;
     context.undo.PlanAircrafts = context.session.plan.PlanAircrafts;
-    context.forms.frmMain.mnuToolsUndo.enabled = true;
+    context.undo.Held = true;
+    EnableMenus(context);
 }
 
 void TakeFirstUndoSnapshot(Context& context) {
-    if (!context.forms.frmMain.mnuToolsUndo.enabled) TakeUndoSnapshot(context);
+    if (!context.undo.Held) TakeUndoSnapshot(context);
 }
 
 void DiscardUndoSnapshot(Context& context) {
     context.undo = UndoSnapshot();
-    context.forms.frmMain.mnuToolsUndo.enabled = false;
+    EnableMenus(context);
 }
 
 void RestoreUndoSnapshot(Context& context) {
@@ -39,7 +40,6 @@ void RestoreUndoSnapshot(Context& context) {
     change.work = [&](BusyForm&) -> std::string {
         PutBack(context);
         DiscardUndoSnapshot(context);
-        EnablePlanCommands(context);
         return "Successfully completed undo.";
     };
     change.firstStage = "Undo...";

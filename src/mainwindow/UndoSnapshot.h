@@ -9,9 +9,10 @@ namespace orlo {
 
 struct Context;
 
-// The traffic as it was before an operation: one step back, no history. mnuToolsUndo being enabled is the
-// only sign that one is held.
+// The traffic as it was before an operation: one step back, no history. mnuToolsUndo is enabled exactly while
+// one is held.
 struct UndoSnapshot {
+    bool Held = false;
     FlightList Flights;
     std::vector<PlanAircraft> PlanAircrafts;
 };

@@ -5,6 +5,7 @@
 #include "core/Application.h"
 #include "editors/FlightEditor.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanChange.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/SearchRows.h"
@@ -71,7 +72,7 @@ void ShowNewResult(Context& context, std::int32_t place) {
     form.lvExPreview.SelectAll(false);
     ShowResult(context, place);
     form.lvExPreview.AddSourceRow();
-    EnableResultCommands(form);
+    EnableExportPane(context);
     ShowResultCount(form);
 }
 
@@ -131,7 +132,7 @@ void DeleteFlights(Context& context) {
         form.lvExPreview.Remove(places);
     }
     if (form.lvExPreview.current >= 0) form.lvExPreview.Select(form.lvExPreview.current, true);
-    EnableResultCommands(form);
+    EnableExportPane(context);
     if (form.lvExPreview.Count() > 0) {
         ShowResultCount(form);
     } else {

@@ -5,7 +5,7 @@
 #include <new>
 
 #include "core/Text.h"
-#include "shell/EventTables.h"
+#include "shell/FormFacts.h"
 #include "shell/Title.h"
 
 namespace orlo {
@@ -24,6 +24,12 @@ void OpenForms::Unload(Form& form) {
 
 bool OpenForms::IsOpen(const Form& form) const {
     return std::find(forms.begin(), forms.end(), &form) != forms.end();
+}
+
+EventPump::EventPump(Context& context) : context_(context) {
+    for (const FormFacts& facts : AllForms()) {
+        for (const EventTable table : facts.events()) events_.Add(facts.form(context.forms), table);
+    }
 }
 
 int EventPump::EnterModal() {
@@ -70,16 +76,8 @@ bool EventPump::Deliver(Event& event) {
     return !event.refused;
 }
 
-const EventEntry* EventPump::Find(const Event& event) const {
-    for (const auto& [form, table] : tables_) {
-        if (event.kind != EventKind::Timer && form != event.form) continue;
-        if (const EventEntry* entry = FindEvent(table, event)) return entry;
-    }
-    return FindEvent(context_, event);
-}
-
 void EventPump::Run(Event& event) {
-    const EventEntry* entry = Find(event);
+    const EventEntry* entry = events_.Find(event);
     if (entry == nullptr) {
         // Nothing else could close a modal form whose close box has no procedure.
         if (event.kind == EventKind::Close && windows_.TopModal() == event.form)
@@ -87,7 +85,7 @@ void EventPump::Run(Event& event) {
         return;
     }
     if (entry->procedure == nullptr) {
-        context_.services.windows.ShowNotBuilt(entry->control);
+        context_.services.windows.ShowNotBuilt(event.control->name);
         return;
     }
     ++running_;
@@ -100,6 +98,10 @@ void EventPump::Run(Event& event) {
     }
     --running_;
     RefreshTitle(context_);
+    if (event.presses != nullptr) {
+        Event press{&event.presses->form, event.presses, EventKind::Click};
+        Deliver(press);
+    }
 }
 
 // What an operation that broke off may have left behind.

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <deque>
-#include <utility>
 #include <vector>
 
 #include "forms/Event.h"
 #include "mainwindow/Context.h"
+#include "shell/EventIndex.h"
 
 namespace orlo {
 
@@ -26,15 +26,15 @@ struct OpenForms {
 // arrives and when its turn comes. Timers always run.
 class EventPump {
   public:
-    explicit EventPump(Context& context) : context_(context) {}
+    // Over all forms of the context.
+    explicit EventPump(Context& context);
     EventPump(const EventPump&) = delete;
     EventPump& operator=(const EventPump&) = delete;
 
     OpenForms& Windows() { return windows_; }
 
-    // The events of a form that the shell's own tables don't know; the form stays open no longer than the
-    // pump.
-    void AddTable(const Form& form, EventTable table) { tables_.emplace_back(&form, table); }
+    // The events of a form that isn't one of the program's own; the form stays open no longer than the pump.
+    void AddTable(Form& form, EventTable table) { events_.Add(form, table); }
 
     // Whether the event would run now.
     bool Accepts(const Event& event) const;
@@ -58,13 +58,12 @@ class EventPump {
     void LeaveModal(int running) { running_ = running; }
 
   private:
-    const EventEntry* Find(const Event& event) const;
     void Run(Event& event);
     void RecoverFromFailure(Form* shown, std::string_view reason);
 
     Context& context_;
     OpenForms windows_;
-    std::vector<std::pair<const Form*, EventTable>> tables_;
+    EventIndex events_;
     std::deque<Event> queue_;
     int running_ = 0;
 };

@@ -5,7 +5,9 @@
 
 namespace orlo {
 
-EventTable MainEvents();
+// The tables of the main window besides those of its panes (PaneFacts.h), and of the other forms.
+EventTable MainEvents();  // of the window itself and its tabs
+EventTable MenuEvents();
 EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
@@ -16,15 +18,10 @@ void Run(Context& context, Event&) {
     Procedure(context);
 }
 
-// The table of a form; empty for a form without events.
-EventTable EventsOf(const Forms& forms, const Form& form);
+// The close box of the main window and its menu entry; refused where the user wants to stay.
+void CloseMainWindow(Context& context, Event& event);
 
-// The entry that an event runs; null where nothing is to run. Timers are looked up in the main window's
-// table.
-const EventEntry* FindEvent(EventTable table, const Event& event);
-const EventEntry* FindEvent(const Context& context, const Event& event);
-
-// Runs what a click on the button runs, where the button is enabled: keys that stand for buttons.
-void RunButton(Context& context, Button& button);
+// A click on the head of a column of any list.
+void SortByColumn(Context& context, Event& event);
 
 }  // namespace orlo

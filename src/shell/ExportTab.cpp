@@ -1,22 +1,21 @@
 #include "shell/ExportTab.h"
 
-#include "mainwindow/PlanViews.h"
+#include "mainwindow/EnabledControls.h"
 #include "operations/SearchRows.h"
-#include "shell/EventTables.h"
 #include "shell/Tabs.h"
 
 namespace orlo {
 
 void OnPreview(Context& context) {
-    MainForm& form = context.forms.frmMain;
+    const MainForm& form = context.forms.frmMain;
     SearchFlights(context, form.txtExDeparture.text, form.txtExLeg.text, SearchMode::Fields);
-    EnableResultCommands(form);
+    EnableExportPane(context);
 }
 
 void ShowReport(Context& context, SearchMode mode) {
     MainForm& form = context.forms.frmMain;
     SearchFlights(context, "", "", mode);
-    EnableResultCommands(form);
+    EnableExportPane(context);
     form.tabMain.selectedKey = "EXPORT";
     ActivateTab(context);
 }
@@ -33,8 +32,8 @@ void OnExportZone(Context& context) {
 
 void OnExportKey(Context& context, Event& event) {
     MainForm& form = context.forms.frmMain;
-    if (event.value == kKeyDelete) RunButton(context, form.cmdDeleteFlight);
-    if (event.value == kKeyInsert) RunButton(context, form.cmdAddFlight);
+    if (event.value == kKeyDelete) event.presses = &form.cmdDeleteFlight;
+    if (event.value == kKeyInsert) event.presses = &form.cmdAddFlight;
 }
 
 }  // namespace orlo

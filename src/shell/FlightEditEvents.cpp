@@ -14,41 +14,45 @@ namespace {
 // Delete and Insert on the list stand for its buttons.
 void OnLegKey(Context& context, Event& event) {
     FlightEditForm& form = context.forms.frmFlightEdit;
-    if (event.value == kKeyDelete) RunButton(context, form.cmdDelete);
-    if (event.value == kKeyInsert) RunButton(context, form.cmdAdd);
+    if (event.value == kKeyDelete) event.presses = &form.cmdDelete;
+    if (event.value == kKeyInsert) event.presses = &form.cmdAdd;
 }
 
 using enum EventKind;
+using E = FlightEditForm;
+
+template <auto Member>
+constexpr ControlGetter InEditor = ControlOf<E, Member>;
 
 constexpr std::array kFlightEditEvents = {
-    EventEntry{"", Close, Run<CancelFlightEdit>},
-    EventEntry{"", Help, ShowHelpPage},
-    EventEntry{"cmAircraft", Change, Run<OnFlightAircraft>},
-    EventEntry{"txtReg", Change, Run<OnFlightRegistration>},
-    EventEntry{"txtPercent", Leave, OnLeaveFlightPercent},
-    EventEntry{"cmPeriod", Change, Run<OnFlightPeriod>},
-    EventEntry{"opIFR", Click, Run<OnFlightType>},
-    EventEntry{"opVFR", Click, Run<OnFlightType>},
-    EventEntry{"cmZone", Change, Run<OnFlightZone>},
-    EventEntry{"lvLegs", SelectRow, Run<OnSelectLeg>},
-    EventEntry{"lvLegs", KeyUp, OnLegKey},
-    EventEntry{"cmdAdd", Click, Run<AddLeg>},
-    EventEntry{"cmdDelete", Click, Run<DeleteLeg>},
-    EventEntry{"cmDeparture", Change, Run<OnLegDeparture>},
-    EventEntry{"cmArrival", Change, Run<OnLegArrival>},
-    EventEntry{"cmDay", Change, Run<OnLegDay>},
-    EventEntry{"txtTime", Change, Run<OnLegTime>},
-    EventEntry{"txtTime", Leave, OnLeaveLegTime},
-    EventEntry{"txtETA", Change, Run<OnLegETA>},
-    EventEntry{"txtETA", Leave, OnLeaveLegETA},
-    EventEntry{"ckFixedETA", Click, Run<OnLegFixedETA>},
-    EventEntry{"txtLevel", Leave, OnLeaveLegLevel},
-    EventEntry{"txtNumber", Change, Run<OnLegNumber>},
-    EventEntry{"ckUseNumber", Click, Run<OnLegUseNumber>},
-    EventEntry{"cmdOK", Click, Run<AcceptFlight>},
-    EventEntry{"cmdCancel", Click, Run<CancelFlightEdit>},
-    EventEntry{"cmdUndo", Click, Run<UndoFlightEdit>},
-    EventEntry{"cmdPrint", Click, Run<PrintFlightEdit>},
+    EventEntry{nullptr, Close, Run<CancelFlightEdit>},
+    EventEntry{nullptr, Help, ShowHelpPage},
+    EventEntry{InEditor<&E::cmAircraft>, Change, Run<OnFlightAircraft>},
+    EventEntry{InEditor<&E::txtReg>, Change, Run<OnFlightRegistration>},
+    EventEntry{InEditor<&E::txtPercent>, Leave, OnLeaveFlightPercent},
+    EventEntry{InEditor<&E::cmPeriod>, Change, Run<OnFlightPeriod>},
+    EventEntry{InEditor<&E::opIFR>, Click, Run<OnFlightType>},
+    EventEntry{InEditor<&E::opVFR>, Click, Run<OnFlightType>},
+    EventEntry{InEditor<&E::cmZone>, Change, Run<OnFlightZone>},
+    EventEntry{InEditor<&E::lvLegs>, SelectRow, Run<OnSelectLeg>},
+    EventEntry{InEditor<&E::lvLegs>, KeyUp, OnLegKey},
+    EventEntry{InEditor<&E::cmdAdd>, Click, Run<AddLeg>},
+    EventEntry{InEditor<&E::cmdDelete>, Click, Run<DeleteLeg>},
+    EventEntry{InEditor<&E::cmDeparture>, Change, Run<OnLegDeparture>},
+    EventEntry{InEditor<&E::cmArrival>, Change, Run<OnLegArrival>},
+    EventEntry{InEditor<&E::cmDay>, Change, Run<OnLegDay>},
+    EventEntry{InEditor<&E::txtTime>, Change, Run<OnLegTime>},
+    EventEntry{InEditor<&E::txtTime>, Leave, OnLeaveLegTime},
+    EventEntry{InEditor<&E::txtETA>, Change, Run<OnLegETA>},
+    EventEntry{InEditor<&E::txtETA>, Leave, OnLeaveLegETA},
+    EventEntry{InEditor<&E::ckFixedETA>, Click, Run<OnLegFixedETA>},
+    EventEntry{InEditor<&E::txtLevel>, Leave, OnLeaveLegLevel},
+    EventEntry{InEditor<&E::txtNumber>, Change, Run<OnLegNumber>},
+    EventEntry{InEditor<&E::ckUseNumber>, Click, Run<OnLegUseNumber>},
+    EventEntry{InEditor<&E::cmdOK>, Click, Run<AcceptFlight>},
+    EventEntry{InEditor<&E::cmdCancel>, Click, Run<CancelFlightEdit>},
+    EventEntry{InEditor<&E::cmdUndo>, Click, Run<UndoFlightEdit>},
+    EventEntry{InEditor<&E::cmdPrint>, Click, Run<PrintFlightEdit>},
 };
 
 }  // namespace

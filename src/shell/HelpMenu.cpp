@@ -6,6 +6,7 @@
 #include "core/Path.h"
 #include "core/Text.h"
 #include "shell/EventTables.h"
+#include "shell/FormFacts.h"
 #include "shell/StartUp.h"
 
 namespace orlo {
@@ -32,24 +33,6 @@ void OnSystemInformation(Context& context, Event&) {
 
 constexpr std::string_view kHelpContents = "index.html";
 
-struct TabHelp {
-    std::string_view key;  // of the tab
-    std::string_view page;
-};
-constexpr std::array<TabHelp, 5> kTabHelp = {{{"SHUFFLE", "shuffle.html"},
-                                              {"MOVE", "move.html"},
-                                              {"EXPORT", "export.html"},
-                                              {"TIMETABLE", "timetable.html"},
-                                              {"PROJECT", "project.html"}}};
-
-std::string_view HelpPageOf(const Forms& forms, const Form& form) {
-    if (&form == &forms.frmFlightEdit) return "editor.html";
-    for (const TabHelp& tab : kTabHelp) {
-        if (&form == &forms.frmMain && tab.key == forms.frmMain.tabMain.selectedKey) return tab.page;
-    }
-    return kHelpContents;
-}
-
 std::string HelpFolder(const Session& session) {
     return JoinPath(session.ProgramFolder, "Help");
 }
@@ -70,14 +53,14 @@ void OnSplash(Context& context, Event&) {
 }
 
 constexpr std::array kAboutEvents = {
-    EventEntry{"cmdOK", EventKind::Click, OnAboutOk},
-    EventEntry{"cmdSysInfo", EventKind::Click, OnSystemInformation},
+    EventEntry{ControlOf<AboutForm, &AboutForm::cmdOK>, EventKind::Click, OnAboutOk},
+    EventEntry{ControlOf<AboutForm, &AboutForm::cmdSysInfo>, EventKind::Click, OnSystemInformation},
 };
 
 constexpr std::array kSplashEvents = {
-    EventEntry{"picSplash", EventKind::Click, OnSplash},
-    EventEntry{"picSplash", EventKind::KeyUp, OnSplash},
-    EventEntry{"", EventKind::KeyUp, OnSplash},
+    EventEntry{ControlOf<SplashForm, &SplashForm::picSplash>, EventKind::Click, OnSplash},
+    EventEntry{ControlOf<SplashForm, &SplashForm::picSplash>, EventKind::KeyUp, OnSplash},
+    EventEntry{nullptr, EventKind::KeyUp, OnSplash},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "core/Text.h"
 #include "mainwindow/AircraftTrees.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanViews.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/SavePlan.h"
@@ -96,10 +97,10 @@ void ShowPlan(Context& context, BusyForm& busy) {
     ResetTimetableView(context);
     ResetExportView(context);
     ResetMoverView(context);
-    EnablePlanCommands(context);
     form.tvShuffleAircraft.visible = true;
     form.tvMoveAircrafts.visible = true;
     session.plan.PlanLoaded = true;
+    EnableAll(context);
     RefreshShuffleLabel(form);
     form.sbMain.text = Concat("Flightplan loaded with ", session.plan.FlightCount(), " flights [",
                               session.plan.FlightplanPath, "].");
@@ -132,7 +133,8 @@ void OpenFlightplan(Context& context, std::string path) {
     session.plan.FlightplanPath = context.services.files.FullPath(path);
     session.plan.PlanLoaded = false;
     session.plan.PlanModified = false;
-    DisablePlanCommands(context);
+    ForgetResultCounts(context.forms.frmMain);
+    EnableAll(context);
     BusyForm busy(context, context.forms.frmMain, kOpenStages);
     busy.Stage("Cleaning Memory...", 1);
     EraseOldPlan(context);

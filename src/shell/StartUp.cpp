@@ -5,6 +5,7 @@
 #include "config/FlightLevels.h"
 #include "config/NameLists.h"
 #include "core/Application.h"
+#include "shell/PaneFacts.h"
 #include "shell/SettingsMirror.h"
 #include "shell/Tabs.h"
 #include "shell/Title.h"

@@ -4,13 +4,16 @@
 #include <set>
 
 #include "core/Text.h"
-#include "forms/Forms.h"
+#include "shell/FormFacts.h"
+#include "support/FakeProgram.h"
 
 namespace orlo {
 namespace {
 
-std::vector<const Form*> AllForms(const Forms& forms) {
-    return {&forms.frmMain, &forms.frmProgress, &forms.frmSplash, &forms.frmAbout, &forms.frmFlightEdit};
+std::vector<Form*> FormsOf(Forms& forms) {
+    std::vector<Form*> all;
+    for (const FormFacts& facts : AllForms()) all.push_back(&facts.form(forms));
+    return all;
 }
 
 char Mnemonic(std::string_view caption) {
@@ -32,8 +35,8 @@ bool IsMenuBarEntry(const Control& control) {
 }
 
 TEST(Forms, NoNameStandsTwiceAndEachIsFoundWithoutRegardToCase) {
-    const Forms forms;
-    for (const Form* form : AllForms(forms)) {
+    Forms forms;
+    for (const Form* form : FormsOf(forms)) {
         std::set<std::string> names;
         for (Control* control : form->Controls()) {
             EXPECT_TRUE(names.insert(UpperText(control->name)).second) << control->name;
@@ -46,8 +49,8 @@ TEST(Forms, NoNameStandsTwiceAndEachIsFoundWithoutRegardToCase) {
 
 TEST(Forms, EveryControlThatActsHasACaptionALabelOrAnAccessibleName) {
     using enum ControlKind;
-    const Forms forms;
-    for (const Form* form : AllForms(forms)) {
+    Forms forms;
+    for (const Form* form : FormsOf(forms)) {
         for (const Control* control : form->Controls()) {
             const auto isOneOf = [&](std::initializer_list<ControlKind> kinds) {
                 return std::find(kinds.begin(), kinds.end(), control->kind) != kinds.end();
@@ -62,7 +65,7 @@ TEST(Forms, EveryControlThatActsHasACaptionALabelOrAnAccessibleName) {
 }
 
 TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
-    const Forms forms;
+    Forms forms;
     for (const std::string_view name : SplitText(
              "ckIFRVFR lblMoveAircrafts cmdPreview cmdExport cmdExportPrint cmdExportRemainder cmdEditFlight "
              "cmdAddFlight cmdDeleteFlight cmdTTShow cmdTTPrint cmdTTSave cmdTTStatistics "
@@ -71,7 +74,7 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
              "cmdAdd cmdDelete cmdUndo cmdPrint mnuToolsSimulatorFolder",
              ' ')) {
         const Control* mine = nullptr;
-        for (const Form* form : AllForms(forms)) {
+        for (const Form* form : FormsOf(forms)) {
             if (mine == nullptr) mine = form->Find(name);
         }
         ASSERT_NE(mine, nullptr) << name;
@@ -87,7 +90,8 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
 }
 
 TEST(MainForm, NothingThatNeedsAPlanOrAProjectIsEnabledAtTheStart) {
-    const MainForm form;
+    const test::FakeProgram fake;
+    const MainForm& form = fake.form;
     const auto names = SplitText(
         "mnuFileSave mnuFileSaveAs mnuFileSaveProject mnuFileSaveProjectAs mnuRecentFlightPlan "
         "mnuRecentProjects mnuToolsUndo mnuToolsCompileCurrent mnuToolsFPAirportsTXT mnuToolsRemoveMinus "

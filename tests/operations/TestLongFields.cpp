@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/CorrectFlightLevels.h"
 #include "operations/CorrectFlightTimes.h"
@@ -112,7 +113,7 @@ TEST(LongFields, AFlightWhoseEveryFieldIsAKilobyteGoesThroughAllThatChangesFligh
         SCOPED_TRACE("edit, add, delete and undo");
         const Flight shuffled = plan.Flights.Unpack(0);
         SearchFlights(world.context, "", "", SearchMode::Fields);
-        EnableResultCommands(world.form);
+        EnableExportPane(world.context);
         world.inModal = [&] {
             FlightEditForm& editor = world.program.forms.frmFlightEdit;
             world.Type(editor.txtReg, Long('R'));

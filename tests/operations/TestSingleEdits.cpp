@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/ExportFlights.h"
 #include "operations/PrintFlights.h"
@@ -18,7 +19,7 @@ struct EditWorld : test::SearchWorld {
         session.plan.FlightplanPath = "/plan/FlightPlans.txt";
         ResetExportView(context);
         SearchFlights(context, "", "", SearchMode::Fields);
-        EnableResultCommands(form);
+        EnableExportPane(context);
     }
     // The user's work in the editor: changes the tail number and accepts, or cancels.
     void EditorSays(std::string tail) {

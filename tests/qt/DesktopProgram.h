@@ -92,21 +92,24 @@ inline void Note(Context& context, Event& event) {
     if (found != form.on.end()) found->second(context, event);
 }
 
+template <auto... Members>
+void AddSampleEvents(std::vector<EventEntry>& events, std::initializer_list<EventKind> kinds) {
+    for (const EventKind kind : kinds) (events.push_back({ControlOf<SampleForm, Members>, kind, Note}), ...);
+}
+
 inline EventTable SampleEvents() {
     using enum EventKind;
+    using S = SampleForm;
     static const std::vector<EventEntry> kEvents = [] {
         std::vector<EventEntry> events;
-        const auto add = [&](EventKind kind, std::initializer_list<std::string_view> controls) {
-            for (const std::string_view control : controls) events.push_back({control, kind, Note});
-        };
-        for (const EventKind kind : {Close, Help, DropFile, KeyUp}) add(kind, {""});
-        for (const EventKind kind : {SelectRow, DoubleClick, ClickColumn, Popup, KeyUp})
-            add(kind, {"lvRows"});
-        for (const EventKind kind : {Change, Leave, KeyUp}) add(kind, {"txtName"});
-        for (const EventKind kind : {CheckNode, Hover}) add(kind, {"tvNodes"});
-        add(Click, {"mnuTick", "mnuSelectAll", "ckSwitch", "opFirst", "opSecond", "cmdGo", "cmdStop"});
-        add(Change, {"txtOther", "txtNotes", "cmZone", "cmFree"});
-        add(SelectTab, {"tabViews"});
+        for (const EventKind kind : {Close, Help, DropFile, KeyUp}) events.push_back({nullptr, kind, Note});
+        AddSampleEvents<&S::lvRows>(events, {SelectRow, DoubleClick, ClickColumn, Popup, KeyUp});
+        AddSampleEvents<&S::txtName>(events, {Change, Leave, KeyUp});
+        AddSampleEvents<&S::tvNodes>(events, {CheckNode, Hover});
+        AddSampleEvents<&S::mnuTick, &S::mnuSelectAll, &S::ckSwitch, &S::opFirst, &S::opSecond, &S::cmdGo,
+                        &S::cmdStop>(events, {Click});
+        AddSampleEvents<&S::txtOther, &S::txtNotes, &S::cmZone, &S::cmFree>(events, {Change});
+        AddSampleEvents<&S::tabViews>(events, {SelectTab});
         return events;
     }();
     return kEvents;

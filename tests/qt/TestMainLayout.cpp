@@ -11,8 +11,8 @@
 #include "desktop/EdgeStyle.h"
 #include "desktop/MainLayout.h"
 #include "desktop/ScreenText.h"
-#include "mainwindow/Resize.h"
 #include "qt/DesktopProgram.h"
+#include "shell/PaneFacts.h"
 #include "shell/Tabs.h"
 
 namespace orlo {

@@ -4,7 +4,9 @@
 
 #include <set>
 
-#include "shell/EventTables.h"
+#include "shell/EventIndex.h"
+#include "shell/FormFacts.h"
+#include "shell/PaneFacts.h"
 #include "support/FakeProgram.h"
 
 namespace orlo {
@@ -39,27 +41,26 @@ TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {
     EXPECT_TRUE(fake.form.closeRequest);
 }
 
-TEST(EventTables, EveryEntryNamesAControlOnceAndEveryActingControlIsWired) {
+TEST(FormFacts, EveryActingControlOfEveryFormIsWiredOnceAndEachTabHasItsPane) {
     test::FakeProgram fake;
     Forms& forms = fake.program.forms;
-    for (const Form* form : std::initializer_list<const Form*>{
-             &forms.frmMain, &forms.frmProgress, &forms.frmSplash, &forms.frmAbout, &forms.frmFlightEdit}) {
-        std::set<std::pair<std::string, EventKind>> wired;
-        for (const EventEntry& entry : EventsOf(forms, *form)) {
-            EXPECT_TRUE(wired.emplace(entry.control, entry.kind).second)
-                << entry.control << " is wired twice";
-            if (entry.control.empty() || entry.kind == EventKind::Timer) continue;
-            EXPECT_NE(form->Find(entry.control), nullptr) << entry.control;
-        }
-        for (const Control* control : form->Controls()) {
+    for (const FormFacts& facts : AllForms()) {
+        Form& form = facts.form(forms);
+        SCOPED_TRACE(form.name);
+        EventIndex index;
+        for (const EventTable table : facts.events()) EXPECT_TRUE(index.Add(form, table)) << "wired twice";
+        for (Control* control : form.Controls()) {
             const bool acts = control->kind == ControlKind::Button || control->kind == ControlKind::MenuEntry;
             const auto isChild = [&](const Control* other) { return other->parent == control; };
-            const bool opens = std::any_of(form->Controls().begin(), form->Controls().end(), isChild);
+            const bool opens = std::any_of(form.Controls().begin(), form.Controls().end(), isChild);
             if (acts && !opens) {
-                EXPECT_TRUE(wired.contains({control->name, EventKind::Click})) << control->name;
+                EXPECT_NE(index.Find({&form, control, EventKind::Click}), nullptr) << control->name;
             }
         }
     }
+    ASSERT_EQ(Panes().size(), fake.form.tabMain.pages.size());
+    for (std::size_t i = 0; i < Panes().size(); ++i)
+        EXPECT_EQ(Panes()[i].key, fake.form.tabMain.pages[i].key);
 }
 
 }  // namespace

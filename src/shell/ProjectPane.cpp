@@ -1,0 +1,54 @@
+#include "shell/PaneFacts.h"
+
+#include <array>
+
+#include "shell/EventTables.h"
+
+namespace orlo {
+namespace {
+
+using M = MainForm;
+using enum EventKind;
+using namespace edges;
+
+// Delete and Insert on the list stand for its buttons.
+void OnProjectKey(Context& context, Event& event) {
+    MainForm& form = context.forms.frmMain;
+    if (event.value == kKeyDelete) event.presses = &form.cmdProjectDelete;
+    if (event.value == kKeyInsert) event.presses = &form.cmdProjectAdd;
+}
+
+constexpr std::array kProjectEvents = {
+    EventEntry{InMain<&M::cmdProjectCompile>, Click},
+    EventEntry{InMain<&M::cmdProjectMerge>, Click},
+    EventEntry{InMain<&M::cmdProjectAdd>, Click},
+    EventEntry{InMain<&M::cmdProjectDelete>, Click},
+    EventEntry{InMain<&M::cmdProjectFile>, Click},
+    EventEntry{InMain<&M::cmdProjectAC>, Click},
+    EventEntry{InMain<&M::lvProject>, ClickColumn, SortByColumn},
+    EventEntry{InMain<&M::lvProject>, KeyUp, OnProjectKey},
+};
+
+constexpr std::array kProjectResize = {
+    ResizeRow{InMain<&M::lvProject>, kGrows},
+    ResizeRow{InMain<&M::txtProjectFile>, kGrowsWide},
+    ResizeRow{InMain<&M::txtProjectAC>, kGrowsWide},
+    ResizeRow{InMain<&M::txtProjectDescription>, kGrowsWide},
+    ResizeRow{InMain<&M::cmdProjectCompile>, kBottomMiddle},
+    ResizeRow{InMain<&M::cmdProjectMerge>, kBottomMiddle},
+    ResizeRow{InMain<&M::cmdProjectAdd>, kBottomMiddle},
+    ResizeRow{InMain<&M::cmdProjectDelete>, kBottomMiddle},
+    ResizeRow{InMain<&M::cmdProjectFile>, kTopRight},
+    ResizeRow{InMain<&M::cmdProjectAC>, kTopRight},
+    ResizeRow{InMain<&M::frProject>, kBottomWide},
+    ResizeRow{InMain<&M::picProjectDummy>, kBottomWide},
+};
+
+}  // namespace
+
+PaneFacts ProjectPaneFacts() {
+    return {"PROJECT",      &M::picProject, &M::cmdProjectCompile, nullptr,
+            "project.html", kProjectEvents, kProjectResize};
+}
+
+}  // namespace orlo
