@@ -15,13 +15,16 @@
 #include <QTreeView>
 #include <functional>
 #include <iostream>
+#include <set>
 
 #include "desktop/DesktopHost.h"
 #include "desktop/EdgeStyle.h"
 #include "desktop/FormWindow.h"
 #include "desktop/MainLayout.h"
 #include "platform/SystemServices.h"
+#include "shell/FormFacts.h"
 #include "shell/OpenPlan.h"
+#include "shell/PaneFacts.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 #include "shell/Tabs.h"
@@ -61,7 +64,8 @@ class Photographer {
         });
     }
 
-    void TakeAll(const std::string& plan, bool least) {
+    // False where a form of the program was never taken.
+    bool TakeAll(const std::string& plan, bool least) {
         Take(program_.forms.frmSplash, "splash");
         CloseSplash(program_.context);
         answering_.start(kSettle);
@@ -76,6 +80,7 @@ class Photographer {
         TakeModal(form_.mnuHelpAbout, program_.forms.frmAbout, "about");
         ShowTab("EXPORT");
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
+        return AllTaken();
     }
 
   private:
@@ -95,9 +100,21 @@ class Photographer {
             std::cerr << "orlo-screenshots: no picture " << path.toStdString() << '\n';
     }
 
-    void Take(const Form& form, const QString& name) const {
+    void Take(const Form& form, const QString& name) {
         Settle();
         Save(WindowOf(form), name);
+        taken_.insert(&form);
+    }
+
+    bool AllTaken() const {
+        bool all = true;
+        for (const FormFacts& facts : AllForms()) {
+            const Form& form = facts.form(program_.forms);
+            if (taken_.contains(&form)) continue;
+            std::cerr << "orlo-screenshots: no picture of " << form.name << '\n';
+            all = false;
+        }
+        return all;
     }
 
     void ShowTab(std::string_view key) {
@@ -121,14 +138,12 @@ class Photographer {
     }
 
     void TakePanes() {
-        for (const auto& [key, name] :
-             {std::pair{"SHUFFLE", "shuffle"}, std::pair{"MOVE", "move"}, std::pair{"EXPORT", "export"},
-              std::pair{"TIMETABLE", "timetable"}, std::pair{"PROJECT", "project"}}) {
-            ShowTab(key);
+        for (const PaneFacts& pane : Panes()) {
+            ShowTab(pane.key);
             if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
             if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
             if (form_.picExport.visible) SearchAll();
-            Take(form_, name);
+            Take(form_, QString::fromUtf8(pane.key.data(), static_cast<int>(pane.key.size())).toLower());
         }
     }
 
@@ -160,6 +175,7 @@ class Photographer {
         host_.SetValue(40);
         host_.Show(&form_);
         Take(form_, "progress");
+        taken_.insert(&program_.forms.frmProgress);  // stands inside the main window
         host_.Close();
     }
 
@@ -176,6 +192,7 @@ class Photographer {
     void TakeModal(Control& opens, Form& form, const QString& name) {
         QTimer::singleShot(4 * kSettle, [this, &form, name] {
             Save(WindowOf(form), name);
+            taken_.insert(&form);
             host_.Post({&form, nullptr, EventKind::Close});
         });
         Click(opens);
@@ -187,6 +204,7 @@ class Photographer {
     DesktopHost& host_;
     QString folder_;
     QTimer answering_;
+    std::set<const Form*> taken_;
 };
 
 int Run(const QStringList& words) {
@@ -199,10 +217,10 @@ int Run(const QStringList& words) {
     host.Attach(program.pump, program.forms.frmProgress);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return 1;
-    Photographer(program, host, words[2])
-        .TakeAll(world + "/Plan/FlightPlans.txt", words.mid(3).contains("least"));
+    const bool all = Photographer(program, host, words[2])
+                         .TakeAll(world + "/Plan/FlightPlans.txt", words.mid(3).contains("least"));
     host.Detach();
-    return 0;
+    return all ? 0 : 1;
 }
 
 }  // namespace
