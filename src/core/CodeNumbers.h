@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <string_view>
 #include <vector>
@@ -49,9 +48,10 @@ class CodeNumbers {
         return key;
     }
     static std::uint64_t FourBytes(const char* bytes) {
-        std::uint32_t value = 0;
-        std::memcpy(&value, bytes, sizeof value);
-        return value;
+        const auto byte = [bytes](int i) {
+            return static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[i]));
+        };
+        return byte(0) | byte(1) << 8 | byte(2) << 16 | byte(3) << 24;
     }
 
     PlaceIndex index_;

@@ -6,6 +6,9 @@
 
 namespace orlo {
 
+// In front of an arrival that is fixed, in files and packed rows.
+inline constexpr char kFixedMark = '@';
+
 // One leg of a flight. It starts where the leg before it ended; the first leg starts at the Destination of
 // the last one, so that the legs form a closed round. All texts are as they stood in the file.
 struct Leg {

@@ -289,10 +289,10 @@ void FlightList::AddKept(std::int32_t index, Rewritten& rewritten) const {
     rewritten.keptBytes += BytesOf(rewritten.handles.back());
 }
 
-void FlightList::AddChanged(std::int32_t index, const LentFlight& flight, Rewritten& rewritten) const {
+void FlightList::AddChanged(const LentFlight& flight, Rewritten& rewritten) {
     if (!rewritten.arena) rewritten.arena = std::make_shared<FlightArena>();
     const auto row = reinterpret_cast<Handle>(WriteRow(flight, *rewritten.arena));
-    rewritten.handles.push_back(row | (handles_[static_cast<std::size_t>(index)] & kRemovedBit));
+    rewritten.handles.push_back(row);
     rewritten.newBytes += BytesOf(row);
 }
 
@@ -300,9 +300,11 @@ void FlightList::Take(Rewritten rewritten) {
     if (!rewritten.arena) return;
     // Memory of which less than half stays in use is left: the rows that stay in it move.
     const bool leave = HeldBytes() > 2 * rewritten.keptBytes || arenas_.size() >= kMostArenas;
-    for (std::size_t i = 0; leave && i < handles_.size(); ++i) {
+    for (std::size_t i = 0; i < handles_.size(); ++i) {
         Handle& handle = rewritten.handles[i];
-        if (handle == handles_[i]) handle = CopyRow(handle, *rewritten.arena);
+        const bool kept = (handle & ~kRemovedBit) == (handles_[i] & ~kRemovedBit);
+        if (kept && leave) handle = CopyRow(handle, *rewritten.arena);
+        handle = (handle & ~kRemovedBit) | (handles_[i] & kRemovedBit);
     }
     Arenas arenas;
     if (!leave) arenas = arenas_;

@@ -19,7 +19,8 @@ class FlightArena;
 // The flights of a plan, packed. Each flight is one immutable row; copies and selections of a list share
 // their rows, so that a copy costs a handle a flight. A changed flight is a new row. The memory that a list
 // holds for rows that are none of its own any more never exceeds that of its own ones, but in a selection,
-// which holds all memory of the list it was taken from until it is changed itself.
+// which holds all memory of the list it was taken from until it is changed itself. A list that was moved from
+// may only be assigned or destroyed.
 class FlightList {
   public:
     std::int32_t Count() const { return static_cast<std::int32_t>(handles_.size()); }
@@ -48,9 +49,9 @@ class FlightList {
 
     // Changes many flights in one pass. `change(index, flight, changed)` is called for each flight in order.
     // To change it, it assigns `flight` to `changed`, puts in other texts, which must hold until the next
-    // call, and gives true; with false the flight keeps its row, which stays shared. Removed marks stay. The
-    // list is unchanged until all flights have been seen, and where `change` throws. It must not be changed
-    // meanwhile, but read.
+    // call, and gives true; with false the flight keeps its row, which stays shared. The list is unchanged
+    // until all flights have been seen, and where `change` throws. Meanwhile it may be read and marked, but
+    // not changed otherwise.
     template <typename Change>
     void Rewrite(Change change);
 
@@ -88,7 +89,7 @@ class FlightList {
     FlightArena& OwnArena();
     void DropDeadRows();
     void AddKept(std::int32_t index, Rewritten& rewritten) const;
-    void AddChanged(std::int32_t index, const LentFlight& flight, Rewritten& rewritten) const;
+    static void AddChanged(const LentFlight& flight, Rewritten& rewritten);
     void Take(Rewritten rewritten);
 
     Arenas arenas_;  // the last one takes new rows while no other list holds it
@@ -103,7 +104,7 @@ void FlightList::Rewrite(Change change) {
     LentFlight changed;
     for (std::int32_t index = 0; index < Count(); ++index) {
         if (change(index, At(index), changed)) {
-            AddChanged(index, changed, rewritten);
+            AddChanged(changed, rewritten);
         } else {
             AddKept(index, rewritten);
         }

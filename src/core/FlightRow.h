@@ -12,7 +12,6 @@ namespace orlo {
 // typed into a field shifts no other. Only the list of flights and the views that it lends know this layout.
 
 inline constexpr char kRowSeparator = '\n';
-inline constexpr char kFixedMark = '@';  // in front of an arrival that is fixed
 
 struct RowHead {
     std::uint32_t legCount;

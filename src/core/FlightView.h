@@ -39,7 +39,7 @@ struct FlightView {
     std::string_view FlightType;
     std::int32_t LegCount = 0;
     bool Removed = false;
-    std::string_view LegText;  // the packed fields of all legs
+    std::string_view LegText;  // the packed fields of all legs, for the walk over them
 
     // The legs in order, each read as the walk comes to it.
     class LegIterator {

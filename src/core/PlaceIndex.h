@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -38,7 +39,7 @@ class PlaceIndex {
         --count_;
         // Whatever stands behind the hole and would not be found across it moves into it.
         for (std::size_t next = Next(hole); table_[next].place != kFree; next = Next(next)) {
-            const std::size_t home = table_[next].half & Mask();
+            const std::size_t home = HomeOf(table_[next].half);
             if (((next - home) & Mask()) < ((next - hole) & Mask())) continue;
             table_[hole] = table_[next];
             hole = next;
@@ -69,6 +70,7 @@ class PlaceIndex {
     };
 
     std::size_t Mask() const { return table_.size() - 1; }
+    std::size_t HomeOf(std::uint32_t half) const { return half >> shift_; }
     std::size_t Next(std::size_t slot) const { return (slot + 1) & Mask(); }
     // Multiplication by a large odd number spreads the hash over the top bits.
     static std::uint32_t Half(std::uint64_t hash) {
@@ -78,7 +80,7 @@ class PlaceIndex {
     // Where the key stands, or the free slot where it would go.
     template <typename Holds>
     std::size_t SlotOf(std::uint32_t half, Holds holds) const {
-        std::size_t slot = half & Mask();
+        std::size_t slot = HomeOf(half);
         while (table_[slot].place != kFree && (table_[slot].half != half || !holds(table_[slot].place))) {
             slot = Next(slot);
         }
@@ -88,15 +90,17 @@ class PlaceIndex {
     void Resize(std::size_t size) {
         std::vector<Entry> old(size);
         old.swap(table_);
+        shift_ = 32 - std::countr_zero(size);
         for (const Entry& entry : old) {
             if (entry.place == kFree) continue;
-            std::size_t slot = entry.half & Mask();
+            std::size_t slot = HomeOf(entry.half);
             while (table_[slot].place != kFree) slot = Next(slot);
             table_[slot] = entry;
         }
     }
 
     std::vector<Entry> table_;  // a power of two
+    int shift_ = 32;            // leaves the top bits of a half, as many as tell a slot
     std::size_t count_ = 0;
 };
 

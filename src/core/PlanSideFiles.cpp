@@ -12,8 +12,9 @@
 namespace orlo {
 namespace {
 
-constexpr std::size_t kNumberStart = 3;        // behind "AC#"
-constexpr std::size_t kUsualAirportLine = 32;  // bytes
+constexpr std::size_t kNumberStart = 3;          // behind "AC#"
+constexpr std::uint64_t kUsualAirportLine = 32;  // bytes
+constexpr std::uint64_t kMostReserved = 64 * 1024;
 
 // Hands each line that is no comment and has exactly `fieldCount` fields to `take`. False when the file can't
 // be opened.
@@ -77,8 +78,8 @@ void ReadPlanAircraft(Plan& plan, Services& services) {
 void ReadPlanAirports(Plan& plan, Services& services) {
     plan.PlanAirports.clear();
     plan.PlanAirportIndex.Clear();
-    plan.PlanAirportIndex.Reserve(services.files.FileSize(PlanAirportsPath(plan)).value_or(0) /
-                                  kUsualAirportLine);
+    const std::uint64_t size = services.files.FileSize(PlanAirportsPath(plan)).value_or(0);
+    plan.PlanAirportIndex.Reserve(std::min<std::uint64_t>(size / kUsualAirportLine, kMostReserved));
     const bool found = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
         PlanAirport airport;
         airport.ICAO = TrimBlanks(fields[0]);

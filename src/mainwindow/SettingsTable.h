@@ -14,7 +14,7 @@
 namespace orlo {
 
 // The settings that the program keeps, each as one row: where it is stored, what holds where nothing is
-// stored, and what mirrors it while the program runs. docs/settings.md lists them for the user.
+// stored, and what mirrors it while the program runs.
 
 // A menu entry of a turn-around limit, which stands for one value of it.
 struct TurnAroundLimit {

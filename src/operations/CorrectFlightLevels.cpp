@@ -69,7 +69,7 @@ void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<Fligh
         const std::int32_t place = installed.Get(
             flight.ACNumber, [&](std::string_view number) { return matched.PlaceNoCase(number); });
         if (place < 0) return false;
-        const FSAircraft& aircraft = fleet.FSAircrafts[static_cast<std::size_t>(place)];
+        const FSAircraft& aircraft = matched.At(place);
         changed = flight;
         const std::vector<std::string>& levels = drawer.Draw(flight, {aircraft.MinFL, aircraft.MaxFL});
         for (std::size_t leg = 0; leg < levels.size(); ++leg) changed.Legs[leg].FlightLevel = levels[leg];

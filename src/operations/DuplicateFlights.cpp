@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -17,12 +18,7 @@ class KeyWriter {
     void Write(const FlightList& flights, std::int32_t place, std::string& key) const {
         key.clear();
         flights.WriteLine(place, key);
-        if (key.find('@') != std::string::npos) {
-            const FlightView flight = flights.At(place);
-            key.resize(key.size() - flight.LegText.size());
-            for (const LegView& leg : flight) AppendLeg(leg, key);
-            if (flight.LegCount > 0) key.pop_back();
-        }
+        if (key.find(kFixedMark) != std::string::npos) WriteFields(flights.At(place), key);
         char* const end = key.data() + key.size();
         for (char* byte = key.data(); byte != end; ++byte) *byte = upper_[static_cast<unsigned char>(*byte)];
     }
@@ -33,11 +29,17 @@ class KeyWriter {
         for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = UpperChar(static_cast<char>(i));
         return bytes;
     }
-    static void AppendLeg(const LegView& leg, std::string& key) {
-        for (const std::string_view field :
-             {leg.DepartTime, leg.ETA, leg.FlightLevel, leg.NumberMode, leg.FlightNumber, leg.Destination}) {
-            key.append(field).push_back(',');
+    static void WriteFields(const FlightView& flight, std::string& key) {
+        key.clear();
+        const auto append = [&key](std::initializer_list<std::string_view> fields) {
+            for (const std::string_view field : fields) key.append(field).push_back(',');
+        };
+        append({flight.ACNumber, flight.TailNumber, flight.Percent, flight.Period, flight.FlightType});
+        for (const LegView& leg : flight) {
+            append({leg.DepartTime, leg.ETA, leg.FlightLevel, leg.NumberMode, leg.FlightNumber,
+                    leg.Destination});
         }
+        key.pop_back();
     }
 
     std::array<char, 256> upper_ = UpperBytes();

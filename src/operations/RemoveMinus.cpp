@@ -1,9 +1,12 @@
 #include "operations/RemoveMinus.h"
 
+#include <string>
+
 #include "core/Text.h"
 #include "mainwindow/PlanChange.h"
 
 namespace orlo {
+
 void RemoveMinusFromTailNumbers(Plan& plan) {
     std::string tailNumber;
     plan.Flights.Rewrite([&](std::int32_t, const FlightView& flight, LentFlight& changed) {

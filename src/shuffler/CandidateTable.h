@@ -7,7 +7,7 @@
 
 #include "core/AircraftRecords.h"
 #include "core/AirlineRecords.h"
-#include "shuffler/RouteNeeds.h"
+#include "shuffler/RouteLimits.h"
 
 namespace orlo {
 

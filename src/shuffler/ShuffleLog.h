@@ -6,7 +6,7 @@
 #include "core/AircraftRecords.h"
 #include "services/FileSystem.h"
 #include "shuffler/LogFile.h"
-#include "shuffler/RouteNeeds.h"
+#include "shuffler/RouteLimits.h"
 #include "shuffler/WorkingFlight.h"
 
 namespace orlo {

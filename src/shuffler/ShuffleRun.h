@@ -9,7 +9,7 @@
 #include "shuffler/CandidateTable.h"
 #include "shuffler/LogFile.h"
 #include "shuffler/RouteAirports.h"
-#include "shuffler/RouteNeeds.h"
+#include "shuffler/RouteLimits.h"
 #include "shuffler/WorkingFlight.h"
 
 namespace orlo {
