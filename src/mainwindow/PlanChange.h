@@ -14,7 +14,7 @@ struct PlanChange {
     // Changes the plan and gives the closing message; an empty one is not shown.
     std::function<std::string(BusyForm&)> work;
     std::string_view firstStage = {};  // empty: no progress window
-    int stages = 0;                    // maximum of the progress; the stage before it shows the plan anew
+    int stages = 0;                    // maximum of the progress; `stages` - 1 shows the plan anew
     bool changesAircraft = false;      // PlanAircrafts too: the trees and the mover's view follow
     bool takesSnapshot = true;         // an undo step of its own
     bool marksModified = true;         // even if nothing changed
