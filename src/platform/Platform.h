@@ -26,8 +26,8 @@ std::unique_ptr<SettingsStore> MakeUserSettings(FileSystem& files, const std::op
 // folder whatever the machine has. `files` has to outlive them.
 std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem& files, const std::string& simulator);
 
-// The folder that holds the rule files, the cache and the logs (see common/ProgramFolder.h), filled from the
-// installation, or from the checkout beside a build's folder. Empty where there is none.
+// The folder that holds the rule files, the scenery cache and the manual (see common/ProgramFolder.h), filled
+// from the installation, or from the checkout beside a build's folder. Empty where there is none.
 std::string FindProgramFolder(FileSystem& files);
 
 // The memory resource that serves large lists best. It lives to the end of the program.
