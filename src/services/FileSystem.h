@@ -57,7 +57,7 @@ class FileSystem {
     // The path from the root; a relative one counts from the working folder.
     virtual std::string FullPath(const std::string& path) = 0;
 
-    virtual bool FileExists(const std::string& path) = 0;  // a file that isn't a folder
+    virtual bool FileExists(const std::string& path) = 0;  // anything but a folder
     virtual bool FolderExists(const std::string& path) = 0;
     virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder
 
