@@ -33,7 +33,7 @@ struct BuiltInLimits {
     std::int32_t MaxFL, MinFL, MaxRange, MinRange, CruiseSpeed;
 };
 
-// Profile values by class code that hold where the file gives none.
+// The built-in values of the profiles, by class code.
 constexpr std::array<BuiltInLimits, 9> kBuiltInLimits = {{
     {-1, -1, -1, -1, -1},
     {-1, -1, -1, -1, -1},
@@ -96,7 +96,7 @@ bool FitsSectionLine(std::size_t classCode, std::size_t partCount) {
     return partCount == kPartCount || (classCode == kClassHugeJet && partCount > kPartCount);
 }
 
-// The class that the line opens, kClassNone for a section of another name; nothing for a wrong count of
+// The class that the line opens; kClassNone for a section of another name; nothing for a wrong count of
 // parts.
 std::optional<std::size_t> OpenSection(ClassLists& lists, std::string_view line) {
     const auto head = SectionHead(line);

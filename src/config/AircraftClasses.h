@@ -19,8 +19,8 @@ struct ParsedClasses {
     std::string offendingLine;
 };
 
-// Reads the text of the file. Profiles that it doesn't hold have their built-in values, as has each number of
-// a section line that can't be read.
+// Reads the text of the file. A profile that it doesn't hold has its built-in values; so has a number of a
+// section line that can't be read.
 ParsedClasses ParseAircraftClasses(std::string_view text);
 
 // Fills the entry from a line of one part, the ID, or of eleven; texts aren't trimmed, and a number that

@@ -26,7 +26,7 @@ constexpr SetKind kSetKinds[] = {
     {"STATE:", &AirlineSets::States},
 };
 
-// The set that the line opens, which holds until the next one is opened; null where it opens none.
+// The set that the line opens; null where it opens none. The pointer holds until the next set is opened.
 AirlineSet* OpenSet(AirlineSets& sets, std::string_view line) {
     const auto head = SectionHead(line);
     if (!head) return nullptr;

@@ -13,11 +13,11 @@ namespace orlo {
 // ORLO_AL.CFG: the airlines and tail number patterns of the world, its regions, countries, states, cities and
 // airports.
 
-// Reads the text of the file. No line is wrong: what can't be read as a share makes an airline without one.
+// Reads the text of the file. No line is wrong: a share that can't be read makes an airline without a share.
 AirlineSets ParseAirlines(std::string_view text);
 
 // The name in an airline line: trimmed, then cut before the first "(" and the first ";". Blanks in front of
-// the cut stay and count when the name is compared.
+// the cut stay part of the name.
 std::string CleanAirlineName(std::string_view text);
 
 // Replaces session.rules.Airlines by the file of the program folder. False, with a critical message and the

@@ -24,8 +24,7 @@ struct ParsedFlightLevels {
 ParsedFlightLevels ParseFlightLevels(std::string_view text);
 
 // Replaces session.rules.FlightLevelRules by the file of the program folder. False, with a critical message,
-// when the file is missing, which leaves no rules, or a line hasn't seven fields, which leaves the rules
-// above it.
+// when the file is missing (no rules are left) or a line hasn't seven fields (the rules above it are left).
 bool ReadFlightLevels(Session& session, FileSystem& files, MessageHost& messages);
 
 }  // namespace orlo

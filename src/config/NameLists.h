@@ -15,8 +15,7 @@ namespace orlo {
 // Reads the text of such a file: a name a line, without blank lines and lines that begin with ";".
 NameList ParseNameList(std::string_view text);
 
-// Whether the name is one of the list, without regard to case. The test searches "*NAME*" in the list's
-// search text.
+// Whether the list holds the name, without regard to case: "*NAME*" is searched in its search text.
 bool ContainsName(const NameList& list, std::string_view name);
 
 // Each replaces one list of the session by its file of the program folder. False, with a critical message and

@@ -20,7 +20,7 @@ std::optional<std::string> ReadRuleFile(const std::string& programFolder, FileSy
 // The critical message that a line of a rule file can't be read.
 void ShowRuleLineError(MessageHost& messages, std::string_view name, std::string_view line);
 
-// A line with "[" in front ends the section before it, also where it opens none.
+// Whether the line begins with "[": it ends the section before it, even where it opens none.
 bool EndsSection(std::string_view line);
 
 // The text between the "[" in front of a line and the first "]"; nothing where either is missing.

@@ -22,7 +22,7 @@ enum AircraftClass : std::int32_t {
 
 // One installed aircraft variant: one fltsim section of an aircraft.cfg.
 struct FSAircraft {
-    std::string ID;  // empty; copies for an operation hold the plan's aircraft number here
+    std::string ID;  // empty; an operation's copy holds the plan's aircraft number here
     std::string Title;
     std::string UIManufacturer;
     std::string UIType;
@@ -40,7 +40,7 @@ struct FSAircraft {
     bool Changed = false;  // edited and not yet saved
     std::string ModelFile;
     std::int32_t ModelFormat = 0;  // 0 unread, 1 to 3: where the radius stands in the model
-    std::int32_t Radius = -1;      // -1 unread
+    std::int32_t Radius = -1;      // of the model, as its file has it; -1 unread
     bool RadiusChanged = false;
     std::string Sim;
     std::string Model;
@@ -57,7 +57,7 @@ struct FSAircraft {
     std::string Description;
     std::string Performance;
     std::int32_t FileCruiseSpeed = -1;
-    std::int32_t RunwayLength = -1;  // in the scenery's unit
+    std::int32_t RunwayLength = -1;  // metres
     std::string RunwayTypes;
     std::int32_t MinParkingRadius = -1;
     std::string ParkingTypes;

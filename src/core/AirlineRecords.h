@@ -6,7 +6,7 @@
 
 namespace orlo {
 
-// An aircraft that fits an airline entry in a run of the shuffle.
+// An aircraft of an entry's airline, in a run of the shuffle.
 struct AirlineAircraft {
     std::int32_t AircraftIndex = -1;      // place in Fleet::FSAircrafts
     std::int32_t PlanAircraftIndex = -1;  // place in Plan::PlanAircrafts
@@ -16,8 +16,8 @@ struct AirlineAircraft {
 // One airline in a set.
 struct AirlineEntry {
     std::string Name;                  // after cleaning
-    std::int32_t PlannedPercent = -1;  // after normalising
-    std::int32_t Percent = -1;         // as read, 0 to 100; -1 for no stated share
+    std::int32_t PlannedPercent = -1;  // its share once NormalisePercents has run
+    std::int32_t Percent = -1;         // as read, at most 100; below 0 without a stated share
     std::int32_t Flights = 0;          // assigned in a run of the shuffle
     std::vector<AirlineAircraft> Aircraft;
 };

@@ -9,8 +9,9 @@
 
 namespace orlo {
 
-// Numbers texts such as codes and aircraft numbers, spelled exactly, from 0 in the order in which they are
-// first asked for, so that a pass over many legs looks each text up in a large index only once.
+// Gives each text, such as a code or an aircraft number, a number of its own: from 0, in the order in which
+// they are first asked for. Case counts. So a pass over many legs looks each text up in a large index only
+// once.
 class CodeNumbers {
   public:
     // A new text must outlive this.
@@ -32,13 +33,13 @@ class CodeNumbers {
   private:
     static constexpr std::uint64_t kLongText = std::uint64_t{1} << 63;
 
-    // Short texts have unlike keys: their bytes and, in the top byte, their length. Long ones are told by the
-    // top bit, and must be compared.
+    // The key of a text of up to seven bytes is its bytes and, in the top byte, its length, so no two share
+    // one. Longer texts have the top bit set and may share a key, so they must be compared.
     static std::uint64_t KeyOf(std::string_view text) {
         const std::size_t size = text.size();
         if (size >= sizeof(std::uint64_t)) return std::hash<std::string_view>{}(text) | kLongText;
         std::uint64_t key = static_cast<std::uint64_t>(size) << 56;
-        if (size >= 4) {  // as most codes: the first four bytes and the last four, which may overlap
+        if (size >= 4) {  // most codes: the first four bytes and the last four, which may overlap
             key |= FourBytes(text.data());
             return key | FourBytes(text.data() + size - 4) << (8 * (size - 4));
         }
@@ -55,14 +56,14 @@ class CodeNumbers {
     }
 
     PlaceIndex index_;
-    std::vector<std::uint64_t> keys_;  // by number, so that a short text is found without a look at it
+    std::vector<std::uint64_t> keys_;  // by number; a short text is found by its key alone
     std::vector<std::string_view> texts_;
 };
 
 // Remembers what was found for each text.
 class CodeMemo {
   public:
-    // What `find(text)` gave for the text the first time. A new text must outlive this.
+    // What `find(text)` gave when the text was first asked for. A new text must outlive this.
     template <typename Find>
     std::int32_t Get(std::string_view text, Find find) {
         const std::int32_t number = numbers_.Number(text);

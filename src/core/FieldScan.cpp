@@ -48,8 +48,8 @@ BlockMasks MasksOf(const char* bytes) {
 }
 #endif
 
-// Of the last `left` bytes of a line, fewer than a block: those of the block that ends with them, moved down.
-// A line shorter than a block is filled up.
+// Masks of the last `left` bytes of a line, fewer than a block: taken from the block that ends with the line,
+// and moved down. A line shorter than a block is filled up in front.
 BlockMasks MasksOfTail(std::string_view line, std::size_t left) {
     char filled[kBlock] = {};
     const char* block = line.data() + line.size() - kBlock;

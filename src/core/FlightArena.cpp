@@ -19,7 +19,7 @@ FlightArena::~FlightArena() {
 }
 
 void FlightArena::AddChunk(std::size_t wanted) {
-    // Rows that have outgrown the small chunks go over to whole large pages.
+    // Small chunks first; a list that outgrows them goes on in whole large pages.
     const std::size_t usual = taken_ < kMostInSmallChunks ? kFirstChunk : kLargeChunk;
     const std::size_t size = std::max(wanted, usual);
     const std::size_t alignment = size >= kLargeChunk ? kLargePage : kRowAlignment;

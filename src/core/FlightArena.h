@@ -14,12 +14,12 @@ class FlightArena {
     FlightArena& operator=(const FlightArena&) = delete;
     ~FlightArena();
 
-    // Room for so many bytes. It holds until the next call, and from Commit on for good.
+    // Room for so many bytes. It holds until the next call; what Commit takes of it holds for good.
     char* Reserve(std::size_t bytes) {
         if (static_cast<std::size_t>(end_ - next_) < bytes) AddChunk(bytes);
         return next_;
     }
-    // Takes what a row used of the room, a multiple of kRowAlignment.
+    // Takes the bytes that a row used of the room, a multiple of kRowAlignment.
     void Commit(std::size_t bytes) {
         next_ += bytes;
         used_ += bytes;
@@ -37,8 +37,8 @@ class FlightArena {
 
     void AddChunk(std::size_t wanted);
 
-    // The first touch of fresh memory costs more than filling it; a program that sets a resource of large
-    // pages as the default one saves most of that.
+    // The first touch of fresh memory costs more than filling it; a default resource of large pages saves
+    // most of that.
     std::pmr::memory_resource* memory_ = std::pmr::get_default_resource();
     std::vector<Chunk> chunks_;
     char* next_ = nullptr;

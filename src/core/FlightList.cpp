@@ -10,10 +10,10 @@
 namespace orlo {
 namespace {
 
-// More of them are brought together, so that a run of small changes costs no further chunk each.
+// A list with more is copied into one, so that a run of small changes doesn't cost a chunk each.
 constexpr std::size_t kMostArenas = 16;
 
-// Bytes of the fields with a separator behind each.
+// Bytes of all fields, each with a separator behind it.
 std::size_t LengthOf(const LentFlight& flight) {
     std::size_t length = flight.ACNumber.size() + flight.TailNumber.size() + flight.Percent.size() +
                          flight.Period.size() + flight.FlightType.size() + kFlightFields;
@@ -64,7 +64,7 @@ void WriteFields(const LentFlight& flight, char* out) {
     }
 }
 
-// Separators and carriage returns in the fields. Counted in bytes, a piece at a time, which makes vector
+// Counts separators and carriage returns in the fields. The count of a piece fits a byte, which makes vector
 // code.
 std::size_t CountLineEnds(const char* fields, std::size_t length) {
     constexpr std::size_t kPiece = 128;
@@ -86,7 +86,7 @@ std::string WithoutLineEnds(std::string_view field) {
     return text;
 }
 
-// Writes the fields of a flight some text of which holds a line end.
+// Writes the fields of a flight in which a text holds a line end.
 void WriteCleaned(const LentFlight& flight, char* out) {
     std::deque<std::string> texts;
     const auto clean = [&](std::string_view& field) { field = texts.emplace_back(WithoutLineEnds(field)); };
@@ -211,7 +211,7 @@ void FlightList::SetRemoved(std::int32_t index, bool removed) {
     handle = removed ? handle | kRemovedBit : handle & ~kRemovedBit;
 }
 
-// Where new rows go: no other list may come to hold them.
+// Where new rows go: an arena that no other list holds.
 FlightArena& FlightList::OwnArena() {
     if (arenas_.empty() || arenas_.back().use_count() > 1) arenas_.push_back(std::make_shared<FlightArena>());
     return *arenas_.back();
@@ -298,7 +298,7 @@ void FlightList::AddChanged(const LentFlight& flight, Rewritten& rewritten) {
 
 void FlightList::Take(Rewritten rewritten) {
     if (!rewritten.arena) return;
-    // Memory of which less than half stays in use is left: the rows that stay in it move.
+    // Where less than half of the old memory stays in use, the list lets it go and copies the rows that stay.
     const bool leave = HeldBytes() > 2 * rewritten.keptBytes || arenas_.size() >= kMostArenas;
     for (std::size_t i = 0; i < handles_.size(); ++i) {
         Handle& handle = rewritten.handles[i];
@@ -314,7 +314,7 @@ void FlightList::Take(Rewritten rewritten) {
     liveBytes_ = rewritten.keptBytes + rewritten.newBytes;
 }
 
-// Copies all rows into memory of their own where the dead ones would outweigh them.
+// Copies all rows into new memory where the dead rows outweigh them.
 void FlightList::DropDeadRows() {
     if (HeldBytes() <= 2 * liveBytes_ && arenas_.size() <= kMostArenas) return;
     Arenas arenas;

@@ -17,17 +17,17 @@ namespace orlo {
 class FlightArena;
 
 // The flights of a plan, packed. Each flight is one immutable row; copies and selections of a list share
-// their rows, so that a copy costs a handle a flight. A changed flight is a new row. The memory that a list
-// holds for rows that are none of its own any more never exceeds that of its own ones, but in a selection,
-// which holds all memory of the list it was taken from until it is changed itself. A list that was moved from
+// their rows, so that a copy costs a handle a flight. A changed flight is a new row. Rows that left a list
+// never take more memory than those in it. A selection is the exception: it holds all memory of the list it
+// was taken from, until the selection itself is changed. A list that was moved from
 // may only be assigned or destroyed.
 class FlightList {
   public:
     std::int32_t Count() const { return static_cast<std::int32_t>(handles_.size()); }
     bool Empty() const { return handles_.empty(); }
 
-    // `index` from 0 to Count() - 1, here and below. The view holds until the list is changed, by more than a
-    // mark, and as long as it or one that shares its row lives.
+    // `index` from 0 to Count() - 1, here and below. The view holds until the list is changed by more than a
+    // mark or destroyed, and longer while another list shares the row.
     FlightView At(std::int32_t index) const;
     Flight Unpack(std::int32_t index) const;
     bool Removed(std::int32_t index) const {
@@ -43,15 +43,15 @@ class FlightList {
     void Append(const Flight& flight);
     // Without the Removed mark.
     void Append(const LentFlight& flight);
-    // For the reader of a plan: the flight of a line whose fields stand as they are to be, separated by ",",
-    // those of `legCount` legs and no further ones. The line holds no line end.
+    // For the reader of a plan: appends the flight of a line that needs no change. It has the fields of a
+    // flight and of exactly `legCount` legs, separated by ",", and no line end.
     void AppendLine(std::string_view line, std::int32_t legCount);
 
     // Changes many flights in one pass. `change(index, flight, changed)` is called for each flight in order.
-    // To change it, it assigns `flight` to `changed`, puts in other texts, which must hold until the next
-    // call, and gives true; with false the flight keeps its row, which stays shared. The list is unchanged
-    // until all flights have been seen, and where `change` throws. Meanwhile it may be read and marked, but
-    // not changed otherwise.
+    // To change the flight, `change` assigns `flight` to `changed`, puts in other texts, which must hold
+    // until the next call, and gives true; with false the flight keeps its row, which stays shared. The
+    // list is unchanged until all flights have been seen, and stays so where `change` throws. `change` may
+    // read the list and set Removed marks in it, nothing else.
     template <typename Change>
     void Rewrite(Change change);
 
@@ -62,11 +62,11 @@ class FlightList {
     void Reserve(std::int32_t count) { handles_.reserve(static_cast<std::size_t>(count)); }
     void Clear() { *this = FlightList(); }
 
-    // Bytes of the memory that this list holds, alone or with others.
+    // Bytes of all memory that this list holds, alone or shared with other lists.
     std::size_t MemoryBytes() const;
-    // Of what is the list's own alone: what a copy costs.
+    // Bytes of the list's handles, which a copy costs.
     std::size_t HandleBytes() const { return handles_.capacity() * sizeof(Handle); }
-    // Of its own rows, and of all rows in the memory that it holds.
+    // Bytes of the rows in the list, and of all rows in the memory that it holds.
     std::size_t LiveBytes() const { return liveBytes_; }
     std::size_t HeldBytes() const;
 

@@ -20,7 +20,7 @@ struct RowHead {
 
 inline constexpr std::size_t kRowAlignment = 8;
 
-// What a row of so many bytes of fields takes in an arena.
+// Bytes that a row takes in an arena, for `length` bytes of fields.
 inline std::size_t RowBytes(std::size_t length) {
     return (sizeof(RowHead) + length + kRowAlignment - 1) / kRowAlignment * kRowAlignment;
 }

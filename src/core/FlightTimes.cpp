@@ -23,7 +23,7 @@ std::int64_t Wrap(std::int64_t seconds, std::int64_t length) {
     return rest < 0 ? rest + length : rest;
 }
 
-// From one time of day to the next one that is not before it in the order of a round.
+// Seconds from one moment to another, a day later where that would be before the first.
 std::int64_t FromTo(std::int64_t from, std::int64_t to) {
     return to < from ? to + kSecondsPerDay - from : to - from;
 }
@@ -86,9 +86,9 @@ std::string FlightTimes::ArriveText(std::int32_t leg) const {
 }
 
 // Week times are placed on a fortnight that starts with the week of the first departure. Whether a time
-// behind the turn of the week belongs to the second week shows in the legs around it: a leg in front that has
-// left the first day means that the round has come on, a leg behind on a later day that it is not yet over.
-// `Off` and `Beyond` are these two questions; a day that can't be read answers none of them.
+// belongs to its second week shows in the legs around it: `Off`, a leg in front has left the day of the first
+// departure, so the round is under way; `Beyond`, a leg behind has a later day than that, so the round is not
+// over yet. A day that can't be read counts for neither.
 bool FlightTimes::Off(std::int32_t leg) const {
     const LegTimes& times = LegAt(leg);
     const auto first = legs_.front().depart.day;
@@ -103,7 +103,7 @@ bool FlightTimes::Beyond(std::int32_t leg) const {
                      (times.depart.day && *times.depart.day > *first));
 }
 
-// Takes firstOff_ forward and lastBeyond_ back to the next leg for which they hold.
+// Takes firstOff_ forward to the next leg for which Off holds, and lastBeyond_ back likewise for Beyond.
 void FlightTimes::SettleFirstOff() {
     while (firstOff_ < LegCount() && !Off(firstOff_)) ++firstOff_;
 }
@@ -112,7 +112,8 @@ void FlightTimes::SettleLastBeyond() {
     while (lastBeyond_ >= 0 && !Beyond(lastBeyond_)) --lastBeyond_;
 }
 
-// The arrival in front of leg `nextLeg`. All days that these two ask for can be read.
+// Whether the arrival in front of leg `nextLeg` is in the second week. This and the next need days that can
+// be read.
 bool FlightTimes::ArrivesNextWeek(std::int32_t nextLeg) const {
     const std::int32_t first = *legs_.front().depart.day;
     const std::int32_t arrives = *LegAt(nextLeg - 1).arrive.day;

@@ -10,9 +10,8 @@
 
 namespace orlo {
 
-// The times of one flight as numbers: what check, correction and acceptance measure on. All are whole
-// seconds. A time that can't be read gives no measure, and nothing else suffers from it. Legs are counted
-// from 0.
+// The times of one flight as numbers, for the check, the correction and the flight editor. All are whole
+// seconds. What needs a time that can't be read is not given; all else is. Legs are counted from 0.
 class FlightTimes {
   public:
     explicit FlightTimes(const FlightView& flight);
@@ -21,9 +20,9 @@ class FlightTimes {
     bool Weekly() const { return weekly_; }  // see IsWeekPeriod
     std::int32_t LegCount() const { return static_cast<std::int32_t>(legs_.size()); }
 
-    // On the ground between the arrival of leg `leg` - 1 and the departure of leg `leg`, which is 1 or more.
-    // A daily flight departs a day later where it would depart before it has arrived, so that it is never
-    // negative; in a weekly flight it may be.
+    // Time on the ground between the arrival of leg `leg` - 1 and the departure of leg `leg`, which is 1 or
+    // more. Never negative in a daily flight, which departs a day later where it would depart before it has
+    // arrived; a weekly flight's may be negative.
     std::optional<std::int64_t> TurnAround(std::int32_t leg) const;
 
     // From departure to arrival of the leg, never negative.
@@ -35,10 +34,10 @@ class FlightTimes {
 
     // Moves departure and arrival of a leg, which is 1 or more, by the same seconds in either direction; a
     // daily flight wraps at midnight, a weekly one at the end of the week. False, with nothing changed, when
-    // either time can't be read. Moving legs in their order takes linear time.
+    // either time can't be read. Moving all legs in order takes linear time.
     bool Move(std::int32_t leg, std::int64_t seconds);
 
-    // Whether Move has moved the leg, and how its times are written then.
+    // Whether Move has moved the leg, and the texts of its times then.
     bool Moved(std::int32_t leg) const { return LegAt(leg).moved; }
     std::string DepartText(std::int32_t leg) const;
     std::string ArriveText(std::int32_t leg) const;
@@ -72,7 +71,7 @@ class FlightTimes {
     bool weekly_ = false;
     std::vector<LegTimes> legs_;
 
-    // What the placing of week times asks of all legs in front of a leg, and of all legs behind it.
+    // What the placing of week times asks of the legs in front of a leg, and of those behind it.
     std::int32_t firstOff_ = 0;     // first leg for which Off holds; LegCount() without one
     std::int32_t lastBeyond_ = -1;  // last leg for which Beyond holds; -1 without one
 };

@@ -73,8 +73,8 @@ struct FlightView {
     LegView LastLeg() const;
 };
 
-// A flight that is being changed: each text is lent by the row it had, or by whoever changes it. Assigning a
-// view keeps the memory of the legs.
+// A flight that is being changed: each text is lent by its old row, or by whoever changes it. Assigning a
+// view reuses the memory of the legs.
 struct LentFlight {
     std::string_view ACNumber;
     std::string_view TailNumber;

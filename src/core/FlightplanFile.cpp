@@ -41,7 +41,7 @@ std::string_view FieldOf(std::string_view line, const FieldScan& fields, std::si
     return line.substr(fields.Start(index), fields.FieldLength(index));
 }
 
-// Whether the flight of these fields is the line as it stands.
+// Whether nothing in the line has to be normalised.
 bool IsNormal(std::string_view line, const FieldScan& fields, std::size_t legs) {
     if (!KeepsPercent(FieldOf(line, fields, kPercentField))) return false;
     for (std::size_t leg = 0, field = kFlightFields; leg < legs; ++leg, field += kLegFields) {

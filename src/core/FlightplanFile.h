@@ -33,9 +33,9 @@ struct PlanWriteResult {
     bool Complete() const { return PlanWritten && RemovedWritten; }
 };
 
-// Writes all flights: those with the Removed mark to "Removed Flights.txt" in the folder of `path`, which is
-// deleted when there are none, all others to `path`. With `backup` the file at `path` is copied once to its
-// name with ".orlo.bak" before. What can't be written leaves the old file whole.
+// Writes the flights with the Removed mark to "Removed Flights.txt" in the folder of `path` (without any,
+// that file is deleted), all others to `path`. With `backup` BackUpOnce(path) comes first. A file that can't
+// be written leaves the old one whole.
 PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
                                 bool backup);
 

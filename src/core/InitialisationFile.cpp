@@ -91,7 +91,7 @@ std::optional<std::string_view> SectionOf(std::string_view line, const Dialect& 
     return whole ? name : TrimWhite(name);
 }
 
-// Whether its first byte keeps the line from being a value.
+// Whether the line is no value because of its first byte.
 bool IsRemark(std::string_view line, const Dialect& dialect) {
     return dialect.remarks.find(line.front()) != std::string_view::npos ||
            (line.front() == '[' && dialect.sections == Dialect::Sections::Trimmed);
@@ -121,7 +121,7 @@ std::string EscapedLine(std::string_view name, std::string_view value, const Dia
                   NeedsEscapes(value) ? Escaped(value) : std::string(value));
 }
 
-// The line that is read as this value; nothing where there is none.
+// The line that is read as this value; nothing where no line would be.
 std::optional<std::string> LineOf(std::string_view name, std::string_view value, const Dialect& dialect) {
     if (dialect.quotes == Dialect::Quotes::Escaped) return EscapedLine(name, value, dialect);
     const bool quoted = WithoutQuotes(TrimWhite(value)).size() != value.size();
@@ -246,7 +246,7 @@ std::string_view InitialisationFile::LineEnd() const {
     return View({end, text_.compare(end, 2, "\r\n") == 0 ? 2u : 1u});
 }
 
-// Puts the line, whose end is added, behind the one around the place.
+// Inserts the line, and a line end, behind the line around the place.
 void InitialisationFile::InsertBehind(std::size_t place, std::string line) {
     const std::string lineEnd(LineEnd());
     const Piece before = LineAt(place);
@@ -257,7 +257,7 @@ void InitialisationFile::InsertBehind(std::size_t place, std::string line) {
         text_.append(lineEnd);
         at = text_.size();
     }
-    // A LF that ends an empty line behind would become part of a CR.
+    // A CR here and the LF of an empty line behind it would become one line end.
     const bool wouldJoin = lineEnd == "\r" && text_.compare(at, 1, "\n") == 0;
     text_.insert(at, line.append(wouldJoin ? "\r\n" : lineEnd));
 }

@@ -32,12 +32,12 @@ inline constexpr InitialisationDialect kSimulatorDialect{.remarks = ";"};
 
 // The text of an initialisation file: "[section]" lines, each followed by its "name=value" lines. Blanks and
 // tabs around names and values are no part of them. Names compare without regard to case, and of two that are
-// equal the first counts. Lines that are neither, and values in front of the first section, have no meaning.
+// equal the first counts. Any other line, and a value in front of the first section, has no meaning.
 //
 // Places of sections and values, and the texts lent here, hold until Set or a move.
 class InitialisationFile {
   public:
-    // Any text is one. CR LF, LF and CR end a line; a byte order mark is passed over.
+    // Takes any text. CR LF, LF and CR end a line; a byte order mark is passed over.
     explicit InitialisationFile(std::string text, const InitialisationDialect& dialect = kSimulatorDialect);
 
     // Sections in file order, 0 to SectionCount() - 1; a name that stands twice stands twice here.
@@ -63,10 +63,10 @@ class InitialisationFile {
     // Changes the line of the value, which keeps its line end and the spelling of its name; a value that is
     // the same changes nothing. A new name goes behind the last value of its section and a new section to the
     // end of the file, with the line end of the first line, CR LF where there is none. All other lines keep
-    // their bytes, but a last line without an end takes one when a line goes behind it. False, and nothing
-    // changed, where the file could not give back what was set: for a line end or a zero byte in a section's
-    // name or in a text that isn't escaped, and for names that would be read as something else, such as one
-    // with "=" that isn't escaped.
+    // their bytes; only a last line without an end gets one when a line goes behind it. False, with nothing
+    // changed, where Get could not give the value back: for a line end or a zero byte in a section's name, or
+    // in a name or value of a dialect without escapes, and for a name that would be read as something else,
+    // such as one with "=" there.
     bool Set(std::string_view section, std::string_view name, std::string_view value);
 
     const std::string& Text() const { return text_; }

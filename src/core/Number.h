@@ -11,7 +11,7 @@ constexpr bool IsDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-// The nearest whole number, halves to the even one.
+// The nearest whole number; a half goes to the even one.
 double RoundHalfEven(double value);
 
 // A whole number as people type it, independent of locale: blanks around, an optional sign, digits, an
@@ -19,7 +19,7 @@ double RoundHalfEven(double value);
 // 32-bit range.
 std::optional<std::int32_t> ParseWholeNumber(std::string_view text);
 
-// The same form as a number with its fraction kept, for places that ask for a single-precision value.
+// The same form with its fraction kept.
 std::optional<double> ParseDecimal(std::string_view text);
 
 // The number filled with zeros on the left to at least `digits` digits; a minus sign stands in front.

@@ -18,7 +18,7 @@ bool IsPathSeparator(char character);
 // `folder` and `name` with one separator between them; an empty folder gives the name alone.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
-// The path with every "\" as the system's separator: names of the simulator's files are written so.
+// The path with every "\" made the system's separator: the simulator's files write paths with "\".
 std::string NativePath(std::string_view path);
 
 // The text before the last separator; empty where there is none, and "/" for a file in the root.

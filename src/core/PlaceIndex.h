@@ -7,9 +7,9 @@
 
 namespace orlo {
 
-// Finds places, from 0 on, by the hash of their key: the one hash table of the program's own. It holds a
-// place and half of its hash, eight bytes each, and is at most two thirds full; the keys stay with their
-// owner, who tells by `holds(place)` whether the place is that of the key that is asked for.
+// The program's own hash table: finds places, from 0 on, by the hash of their keys. An entry is a place and
+// half of its hash, eight bytes; the table is at most two thirds full. The keys stay with the owner, whose
+// `holds(place)` says whether the place has the key that is asked for.
 class PlaceIndex {
   public:
     // -1 when missing.
@@ -18,7 +18,7 @@ class PlaceIndex {
         return table_.empty() ? kFree : table_[SlotOf(Half(hash), holds)].place;
     }
 
-    // The place that holds the key already, with nothing changed; else `place`, which holds it from now on.
+    // The place that has the key already, with nothing changed; else `place`, which has it from now on.
     template <typename Holds>
     std::int32_t FindOrAdd(std::uint64_t hash, std::int32_t place, Holds holds) {
         if ((count_ + 1) * 3 > table_.size() * 2) Resize(table_.empty() ? kFirstSize : table_.size() * 2);
@@ -37,7 +37,7 @@ class PlaceIndex {
         std::size_t hole = SlotOf(Half(hash), holds);
         if (table_[hole].place == kFree) return;
         --count_;
-        // Whatever stands behind the hole and would not be found across it moves into it.
+        // An entry behind the hole that a search would no longer reach moves into it.
         for (std::size_t next = Next(hole); table_[next].place != kFree; next = Next(next)) {
             const std::size_t home = HomeOf(table_[next].half);
             if (((next - home) & Mask()) < ((next - hole) & Mask())) continue;
@@ -99,7 +99,7 @@ class PlaceIndex {
         }
     }
 
-    std::vector<Entry> table_;  // a power of two
+    std::vector<Entry> table_;  // its size is a power of two
     int shift_ = 32;            // leaves the top bits of a half, as many as tell a slot
     std::size_t count_ = 0;
 };

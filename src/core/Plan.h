@@ -10,8 +10,7 @@
 
 namespace orlo {
 
-// A plan as its files hold it, and whether it is open. A plan that was only just made is none: it is empty
-// and not loaded. Counts are those of the lists.
+// A plan as its files hold it, and whether it is open. A new one is empty and not loaded.
 struct Plan {
     std::string FlightplanPath;  // the side files stand in its folder; start of the file dialogs, too
     FlightList Flights;

@@ -32,7 +32,7 @@ bool ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCo
     return true;
 }
 
-// A quote behind a leading blank stays: the blanks go last.
+// Quotes go before blanks, so a quote behind a leading blank stays.
 std::string TitleOf(std::string_view field) {
     if (!field.empty() && field.front() == '"') field.remove_prefix(1);
     if (!field.empty() && field.back() == '"') field.remove_suffix(1);

@@ -19,8 +19,8 @@ void ReadPlanAircraft(Plan& plan, Services& services);
 // Replaces PlanAirports and PlanAirportIndex. A missing file gives a critical message and an empty list.
 void ReadPlanAirports(Plan& plan, Services& services);
 
-// Writes PlanAircrafts, with the backup of the old file that `backup` asks for. False when it could
-// not be written; the old file then stands whole.
+// Writes PlanAircrafts; with `backup` BackUpOnce comes first. False when the file could not be written; the
+// old one then stands whole.
 bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup);
 
 // The number behind "AC#"; 0 where none reads.

@@ -6,7 +6,7 @@
 
 namespace orlo {
 
-// Names in file order, and all of them as "*NAME*" in a row, which makes a membership test one search.
+// Names in file order, and all of them in one text as "*NAME*", so that one search finds a name.
 struct NameList {
     std::vector<std::string> Names;
     std::string SearchText;

@@ -48,7 +48,8 @@ struct ShuffleState {
     AirlineSets RunAirlines;  // the working copy of Rules::Airlines, with the last results
 };
 
-// After a flight that was to be added was given up, the lists hold it as one more element past the count.
+// After the adding of a flight was given up, SearchResults and SearchResultIndex hold it as one element past
+// the count.
 struct SearchState {
     FlightList SearchResults;
     std::vector<std::int32_t> SearchResultIndex;  // place in the plan's Flights, ascending
@@ -58,7 +59,7 @@ struct SearchState {
 
 struct ProjectState {
     std::string ProjectPath;
-    bool ProjectBegun = false;  // since a project was begun or opened
+    bool ProjectBegun = false;  // a project was begun or opened since the start
     bool ProjectLoaded = false;
     bool ProjectModified = false;
 };
@@ -75,7 +76,7 @@ struct Session {
     ProjectState project;
 
     std::string ProgramFolder;
-    std::string SimulatorFolder;                   // that the user chose; empty: that of the machine
+    std::string SimulatorFolder;                   // chosen by the user; empty: the machine's setting holds
     std::array<std::string, 5> RecentFlightplans;  // the newest first
     std::array<std::string, 5> RecentProjects;
 };

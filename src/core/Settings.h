@@ -24,7 +24,7 @@ inline constexpr std::string_view kSimulatorValue = "EXE Path";
 std::string SettingsKeyPath(std::string_view company, std::string_view application, std::string_view version,
                             std::string_view section);
 
-// The stored value; the default when it is absent or empty or can't be read.
+// The stored value; the default when that is absent, empty or can't be read.
 std::string GetUserSetting(SettingsStore& store, std::string_view company, std::string_view application,
                            std::string_view version, std::string_view section, std::string_view key,
                            std::string_view defaultValue);

@@ -8,7 +8,7 @@ namespace orlo {
 // The value of a turn-around limit that is switched off.
 inline constexpr std::int32_t kNoTurnAroundLimit = 999999;
 
-// What the user switches on and off or chooses once, and the settings keep from one start to the next.
+// What the user switches or chooses, and the settings keep from one start to the next.
 struct Switches {
     bool BackupPlan = true;
     bool BackupAircraft = true;

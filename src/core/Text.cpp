@@ -76,7 +76,7 @@ void AppendUtf8(std::string& out, char32_t character) {
     }
 }
 
-// The characters of a valid UTF-8 text without overlong forms and surrogates; nothing for any other bytes.
+// The characters of a UTF-8 text; nothing where it is not valid, which overlong forms and surrogates are not.
 std::optional<std::u32string> DecodeUtf8(std::string_view text) {
     std::u32string characters;
     for (std::size_t i = 0; i < text.size();) {

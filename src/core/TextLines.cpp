@@ -13,8 +13,8 @@ constexpr std::size_t kBufferSize = 1024 * 1024;
 constexpr std::size_t kFirstPiece = 512;  // longer than most lines
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// Length of the line at the front of `text`; npos where its end isn't in it. Looked for in growing pieces, so
-// that a file without line feeds isn't searched to its end for each of its lines.
+// Length of the line at the front of `text`; npos where `text` holds no line end. Searches in growing pieces,
+// so that a file without line feeds isn't searched to its end for each line.
 std::size_t LineLength(std::string_view text) {
     std::size_t piece = kFirstPiece;
     for (std::size_t at = 0; at < text.size(); at += piece, piece *= 2) {

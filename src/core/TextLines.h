@@ -40,12 +40,11 @@ std::string_view TakeLine(std::string_view& text);
 // The text behind the byte order mark at its front, where one stands.
 std::string_view WithoutByteOrderMark(std::string_view text);
 
-// A whole file; nothing when it can't be opened or is larger than any file that is read whole could be (1
-// GiB). A file that shrinks while it is read gives what could be read.
+// A whole file; nothing when it can't be opened or is larger than 1 GiB, as no file is that is read whole. A
+// file that shrinks while it is read gives what could be read.
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path);
 
-// What is left of a line of the plan's text files when its comments are cut: the text before the first ";"
-// and then before the first "//".
+// A line of the plan's text files without its comment: the text before the first ";" or "//".
 std::string_view CutComments(std::string_view line);
 
 }  // namespace orlo

@@ -68,7 +68,8 @@ bool PassesRangesAndLevels(Context& context) {
     return true;
 }
 
-// Empty where the stand is neither too short nor too long. `where` and `whereTooLong` end the sentences.
+// Empty where the time on the ground is neither too short nor too long. `where` ends the warning of a short
+// one, `whereTooLong` that of a long one.
 std::string StandWarning(const Session& session, std::int64_t seconds, std::string_view where,
                          std::string_view whereTooLong) {
     switch (TestTurnAround(seconds, session.switches.TATime, session.switches.MaxTATime)) {
@@ -98,8 +99,8 @@ bool PassesLastStand(Context& context, std::int64_t seconds, bool weekly) {
     return UserPassesLeg(context, context.forms.frmFlightEdit.WorkingFlight.LegCount() - 1, warning);
 }
 
-// Tests the stands between the legs; `total` is then all time between the first departure and the last
-// arrival. A time that can't be read counts for nothing.
+// Tests the times on the ground between the legs, and adds all time from the first departure to the last
+// arrival to `total`. A time that can't be read counts for nothing.
 bool PassesStands(Context& context, const FlightTimes& times, std::int64_t& total) {
     for (std::int32_t leg = 0; leg < times.LegCount(); ++leg) {
         if (const auto stand = leg > 0 ? times.TurnAround(leg) : std::nullopt) {
@@ -142,7 +143,7 @@ bool PassesTimes(Context& context) {
     return !stand || PassesLastStand(context, *stand, false);
 }
 
-// Of "Title (AC#1)": the title of an installed aircraft, else the number.
+// What the entry "Title (AC#1)" gives: the title of an installed aircraft, else the number.
 std::string ResultText(const FlightEditForm& form, const Session& session) {
     const std::string& text = form.cmAircraft.Text();
     const std::size_t open = text.rfind('(');
@@ -152,7 +153,7 @@ std::string ResultText(const FlightEditForm& form, const Session& session) {
             ? std::string_view(text).substr(0, open)
             : std::string_view(text).substr(open + 1, close > open ? close - open - 1 : 0);
     const std::string_view result = TrimBlanks(part);
-    // An empty result would mean cancelled.
+    // An empty result would mean that the dialog was cancelled.
     return std::string(result.empty() ? std::string_view(text) : result);
 }
 

@@ -4,8 +4,8 @@
 
 namespace orlo {
 
-// Behind cmdOK: checks the working flight leg by leg, each finding a warning that the user may pass. Either
-// the dialog stays open, with the leg in question selected, or it closes with a result.
+// cmdOK: checks the working flight leg by leg; the user may pass each warning. The dialog either stays open,
+// with the leg in question selected, or closes with a result.
 void AcceptFlight(Context& context);
 
 }  // namespace orlo

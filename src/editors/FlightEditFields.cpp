@@ -28,7 +28,7 @@ std::optional<std::int32_t> NumberWithin(std::string_view text, std::int32_t lea
     return number && *number >= least && *number <= most ? number : std::nullopt;
 }
 
-// What a field of the plan's file can hold: its separator and the marks of a comment become blanks.
+// The text as a field of the plan's file can hold it: ",", ";" and "//" become blanks.
 std::string FieldText(std::string_view typed) {
     std::string text = ReplaceAll(typed, "//", "  ");
     std::replace_if(
@@ -56,12 +56,12 @@ void AddDays(Flight& flight) {
     }
 }
 
-// An entry of cmDay that isn't chosen stands for Sunday.
+// Without a choice in cmDay it is Sunday.
 std::int32_t ChosenDay(const FlightEditForm& form) {
     return std::clamp(form.cmDay.index, 0, 6);
 }
 
-// The clock of the selected leg's arrival as the field shows it when nothing is typed into it.
+// The selected leg's stored arrival as txtETA shows it, in seconds since midnight.
 std::optional<std::int32_t> ShownArrival(const Context& context) {
     const FlightEditForm& form = context.forms.frmFlightEdit;
     const Leg& leg = form.WorkingFlight.Legs[static_cast<std::size_t>(SelectedLeg(form))];

@@ -5,14 +5,14 @@
 
 namespace orlo {
 
-// What the fields of the flight editor do to its working flight. Times, texts and choices are stored as they
-// change, where they are valid; level and percent when their field is left. What isn't valid is not stored,
-// and keeps the focus where the field would be left.
+// What the fields of the flight editor do to its working flight. Valid times, texts and choices are stored as
+// they change; a valid level or percent when its field is left. An invalid one is not stored, and its field
+// can't be left.
 
 void OnFlightAircraft(Context& context);
 void OnFlightRegistration(Context& context);
 void OnLeaveFlightPercent(Context& context, Event& event);
-// Asks before a weekly flight loses its days.
+// Asks first where a weekly flight would lose its days.
 void OnFlightPeriod(Context& context);
 void OnFlightType(Context& context);
 // Changes FEditZone at once; the flight stays.
@@ -23,7 +23,7 @@ void OnLegDeparture(Context& context);
 void OnLegArrival(Context& context);
 // The arrival follows unless it is fixed.
 void OnLegTime(Context& context);
-// The same; a fixed arrival moves by as many days.
+// Like OnLegTime; but a fixed arrival moves by as many days.
 void OnLegDay(Context& context);
 void OnLeaveLegTime(Context& context, Event& event);
 void OnLegETA(Context& context);
@@ -33,8 +33,8 @@ void OnLeaveLegLevel(Context& context, Event& event);
 void OnLegNumber(Context& context);
 void OnLegUseNumber(Context& context);
 
-// For an acceptance that leaves no field: what is typed in the field that has the focus is stored as if it
-// were left. False where it isn't valid, which has been told then.
+// For Enter, which leaves no field: stores what is typed in the field that has the focus as if it were left.
+// False where that isn't valid; the user has been told.
 bool TakesTypedText(Context& context);
 
 }  // namespace orlo

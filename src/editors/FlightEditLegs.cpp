@@ -76,8 +76,7 @@ std::array<std::string, 6> RowTexts(const FlightEditForm& form, const Session& s
             Concat("FL", leg.FlightLevel)};
 }
 
-// An hour after the time of a leg: in a weekly flight the next day where the clock wrapped. Nothing where it
-// can't be read.
+// An hour after a time; in a weekly flight that may be the next day. Nothing where the time can't be read.
 std::optional<std::string> OneHourLater(std::string_view time, bool weekly) {
     if (!weekly) {
         const auto seconds = ParseClockTime(time);
@@ -91,7 +90,7 @@ std::optional<std::string> OneHourLater(std::string_view time, bool weekly) {
     return FormatWeekTime(*moment);
 }
 
-// `place` is the new leg's. The copy of the leg behind it lends what isn't told.
+// `place` is the new leg's. It starts as a copy of the leg that stood there.
 void InsertLeg(Flight& flight, std::int32_t place) {
     const auto at = flight.Legs.begin() + place;
     const Leg shifted = *at;

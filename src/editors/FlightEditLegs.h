@@ -11,7 +11,7 @@ namespace orlo {
 // The selected leg's place, -1 for none.
 std::int32_t SelectedLeg(const FlightEditForm& form);
 
-// Builds all rows anew; the first one is then selected, and no field is loaded.
+// Builds all rows anew and selects the first one; loads no field.
 void FillLegRows(Context& context);
 // Writes the row of a leg anew.
 void ShowLegRow(Context& context, std::int32_t leg);
@@ -19,7 +19,7 @@ void ShowAllLegRows(Context& context);
 
 // Loads the fields from the selected leg, or clears and disables them.
 void LoadSelectedLeg(Context& context);
-// The same as a click on its row does it: the arrival follows then.
+// For a click on a leg's row: LoadSelectedLeg, and its arrival is computed anew.
 void OnSelectLeg(Context& context);
 // Makes the leg's row visible, selects and loads it.
 void SelectLeg(Context& context, std::int32_t leg);

@@ -108,7 +108,7 @@ void UndoFlightEdit(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     form.WorkingFlight = form.UndoFlight;
     ShowFlight(context);
-    // The arrivals stay as they were, too.
+    // Not OnSelectLeg: the arrivals stay as they were, too.
     LoadSelectedLeg(context);
 }
 

@@ -9,9 +9,9 @@ namespace orlo {
 
 // Opens frmFlightEdit, modal, on a copy of a flight of session.search.SearchResults (`fromSearch`) or
 // session.plan.Flights, with the row of a leg selected (the first one where there is no such leg). On
-// acceptance the changed flight replaces the one in its list, and the result is the aircraft's title, or its
-// number where it isn't installed. Empty on cancel, and for an index that is none; then only FEditZone and
-// the three switches of the checks may have changed.
+// acceptance the changed flight replaces the old one in its list, and the result is the aircraft's title, or
+// its number where it isn't installed. On cancel, and for an invalid index, the result is empty, and nothing
+// but FEditZone and the three switches of the checks may have changed.
 std::string EditFlight(Context& context, std::int32_t flightIndex, bool fromSearch, std::int32_t legIndex);
 
 // Procedures of the dialog's buttons.

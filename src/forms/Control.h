@@ -26,13 +26,13 @@ enum class ControlKind {
     StatusBar,
 };
 
-// Colours of texts, where one means something.
+// Colours of texts, where the colour means something.
 enum class Colour : std::uint8_t { WindowText, Black, Red, Blue, Gray };
 
 // "text", "black", "red", "blue" or "gray".
 std::string_view ColourWord(Colour colour);
 
-// A control's place in its container, in the units of its front end, which lays it out.
+// A control's place in its container, set by the front end in units of its own.
 struct ControlBox {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -62,14 +62,14 @@ struct Control {
     std::string tag;
     std::string toolTip;
     ControlBox box;
-    std::string accessibleName;  // what a reader of the screen says where no caption or label tells enough
+    std::string accessibleName;  // for screen readers, where no caption or label tells enough
 
     // Children of a disabled or hidden container are disabled or hidden with it.
     bool EffectivelyEnabled() const;
     bool EffectivelyVisible() const;
 };
 
-// A container for the constructors: a form, or a frame, pane or menu of it.
+// What a control is built in: a form, or a frame, pane or menu of it.
 struct Container {
     Container(Form& formOf) : form(formOf) {}
     Container(Control& control) : form(control.form), parent(&control) {}
@@ -85,7 +85,7 @@ struct Button : Control {
 struct Label : Control {
     Label(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::Label, in.form, in.parent, nameOf, captionOf) {}
-    bool plainCaption = false;  // each "&" in it is a character; shortened where it doesn't fit
+    bool plainCaption = false;  // "&" marks no mnemonic in it; shortened where it doesn't fit
 };
 
 enum class TextBoxStyle { SingleLine, MultiLine, FixedFont };
@@ -105,8 +105,8 @@ struct CheckBox : Control {
     bool checked = false;
 };
 
-// One of the options in its frame (or directly on its form or pane); checking one by the user clears the
-// others.
+// One of the options in its frame (or directly on its form or pane); where the user checks one, the others
+// are cleared.
 struct OptionButton : Control {
     OptionButton(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::OptionButton, in.form, in.parent, nameOf, captionOf) {}
@@ -129,7 +129,7 @@ struct ComboBox : Control {
     ComboStyle style;
     std::vector<ComboEntry> entries;
     std::int32_t index = -1;    // of the selected entry, -1 for none
-    std::string typed;          // what stands in the field of an editable one while no entry is selected
+    std::string typed;          // text in the field of an editable one while no entry is selected
     std::int64_t revision = 0;  // counts changes of the entries
 
     void Clear();
@@ -159,11 +159,11 @@ struct MenuEntry : Control {
     MenuEntry(Container in, std::string_view nameOf, std::string_view captionOf)
         : Control(ControlKind::MenuEntry, in.form, in.parent, nameOf, captionOf) {}
     bool checkable = false;
-    bool radio = false;  // one of a group of checkable ones below one parent
+    bool radio = false;  // of the radio entries below one parent one is ticked
     bool checked = false;
     bool separatorBefore = false;
     bool popup = false;         // the root of a pop-up menu, not part of the menu bar
-    bool plainCaption = false;  // each "&" in it is a character, such as one of a path
+    bool plainCaption = false;  // "&" marks no mnemonic in it, as in a path
     std::string_view shortcut;  // the keys that choose it, such as "Ctrl+O"; empty for none
 };
 

@@ -4,8 +4,8 @@
 
 namespace orlo {
 
-// Names a control of a form at compile time, for tables: `ControlOf<MainForm, &MainForm::cmdShuffle>` is the
-// function that gives it. The form must be one of that type.
+// Names a control at compile time, for tables: the function `ControlOf<MainForm, &MainForm::cmdShuffle>`
+// gives it. `form` must be of that type.
 template <typename FormType, auto Member>
 Control& ControlOf(Form& form) {
     return static_cast<FormType&>(form).*Member;

@@ -25,7 +25,7 @@ enum class EventKind {
     Timer,  // `control` is null, `name` tells the timer
     SystemMenu,  // the entry "About" of a window's system menu; `control` is null
     Help,        // the key for help; `control` is null
-    DropFile,    // a file was dropped on the window, `path` tells which; `control` is null
+    DropFile,    // the file `path` was dropped on the window; `control` is null
     Resize,      // the inner size of the window changed, and the form's with it; `control` is null
     Close,       // the close box; `control` is null; may be refused
 };
@@ -58,7 +58,7 @@ struct EventEntry {
     ControlGetter control = nullptr;  // null for events of the form itself
     EventKind kind = EventKind::Click;
     void (*procedure)(Context& context, Event& event) = nullptr;
-    std::string_view timer = {};  // that fires, for a Timer
+    std::string_view timer = {};  // for a Timer: its name
 };
 
 using EventTable = std::span<const EventEntry>;

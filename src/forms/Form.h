@@ -14,7 +14,7 @@ namespace orlo {
 enum class PointerShape { Normal, Hourglass };
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
-// The window's place in the units of its front end. A height of -1: no place was ever stored.
+// The window's place in the units of its front end. A height of -1: no place is stored.
 struct WindowBox {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -49,7 +49,7 @@ struct Form {
     Form* owner = nullptr;
     WindowState windowState = WindowState::Normal;
     WindowBox box;
-    std::int32_t innerWidth = 0;  // of the window as it stands; written by the front end
+    std::int32_t innerWidth = 0;  // at present; written by the front end
     std::int32_t innerHeight = 0;
     std::int32_t leastWidth = 0;  // what its layout needs, beside its limits; written by the front end
     std::int32_t leastHeight = 0;
@@ -65,7 +65,7 @@ struct Form {
     bool closeRequest = false;  // ends ShowModal, which clears it
 
     Control* focus = nullptr;   // the control that has the focus
-    bool focusRequest = false;  // the front end moves the focus there and clears it
+    bool focusRequest = false;  // the front end moves the focus to `focus` and clears this
     void SetFocus(Control& control);
 
     // In the order of declaration.
@@ -81,7 +81,7 @@ struct Form {
     std::unordered_map<std::string, Control*> byName_;  // upper-cased names
 };
 
-// The label of a field: the one declared directly before it in the same container. Null where there is none.
+// The label of a field: declared directly before it in the same container. Null where none is.
 Label* LabelOf(const Control& control);
 
 }  // namespace orlo

@@ -104,7 +104,7 @@ std::int32_t ListView::AddSourceRow() {
     return place;
 }
 
-// The displayed order takes a new row.
+// Puts a new row into the displayed order.
 void ListView::Enter(std::int32_t place) {
     const std::size_t position = sorted ? SortedPosition(place) : order_.size();
     order_.insert(order_.begin() + static_cast<std::ptrdiff_t>(position), place);
@@ -296,7 +296,7 @@ std::size_t ListView::MemoryBytes() const {
            keys_.Bytes();
 }
 
-// A text of the same length is written over the old one: most changes are times.
+// A text of the same length, as most changes of times, is written over the old one.
 void ListView::SetField(std::int32_t place, std::size_t field, std::string_view text) {
     ++contentRevision;
     const std::string_view old = FieldAt(Row(place), field);

@@ -35,13 +35,13 @@ struct ListRow {
     std::vector<std::string> texts;  // one a column; missing ones are empty, further ones are dropped
 };
 
-// A list of rows with columns. A row's place (0, 1, ... in the order of adding) names it until it is removed,
-// and only places of rows that stand are passed here. Sorting permutes the displayed order and never moves a
-// row. The current row and the selection are two things.
+// A list of rows with columns. A row's place (0, 1, ... in the order of adding) names it until it is removed;
+// a place passed in must be that of an existing row. Sorting changes the displayed order and no place. The
+// current row need not be selected.
 //
-// Rows are kept packed in large pages, or they are drawn from a source, and then the list keeps no text of
-// them: a row's place is its number in the source, its key "#" and that number, its tag the number, its tool
-// tip empty. Rows of the two kinds never stand together.
+// The rows are either kept here, packed in large pages, or all drawn from a source. Of a source's rows the
+// list keeps no text: a row's place is its number in the source, its key "#" and that number, its tag the
+// number, its tool tip empty.
 struct ListView : Control {
     ListView(Container in, std::string_view nameOf)
         : Control(ControlKind::ListView, in.form, in.parent, nameOf, "") {}
@@ -49,7 +49,8 @@ struct ListView : Control {
     std::vector<ListColumn> columns;
     // At the end; nothing when the key stands already.
     void AddColumn(std::string_view key, std::string_view text);
-    // With its texts; nothing when it is missing. Where it was the sort column, that is the first one then.
+    // With its texts; nothing when it is missing. Where it was the sort column, the first column becomes
+    // that.
     void RemoveColumn(std::string_view key);
     std::int32_t FindColumn(std::string_view key) const;  // -1 when missing
 
@@ -61,24 +62,25 @@ struct ListView : Control {
     // nothing changed, in a list drawn from a source.
     std::int32_t Add(const ListRow& row);
     // Replaces all rows by rows 0 to `rows` - 1 of the source, in that order or sorted where sorting is on.
-    // Row 0 becomes current and alone selected. The source, never null, is let go by Clear.
+    // Row 0 becomes current and the only one selected. The source must not be null; Clear lets it go.
     void ShowSource(std::shared_ptr<RowSource> source, std::int32_t rows);
     // Null in a list of other rows.
     RowSource* Source() const { return source_.get(); }
-    // Adds the row behind the last one that was ever drawn from the source, which must have it by now, as Add
-    // does; -1, with nothing changed, in a list without a source.
+    // Adds the next row of the source, which must have it by now, behind all that were ever added, and places
+    // it as Add does; -1, with nothing changed, in a list without a source.
     std::int32_t AddSourceRow();
-    // Tells that texts of the source are others by now; does not sort anew.
+    // To be called when texts of the source have changed; does not sort anew.
     void SourceChanged() { ++contentRevision; }
-    // The current row becomes the one now displayed at its position, else the last, else none. Many rows go
-    // in one pass as they would go one by one. A source stays, also with its last row, and a place in it is
-    // never given again; other rows start at place 0 again when the last one went.
+    // Where the current row goes, the one that takes its position becomes current, else the last, else none.
+    // Many rows go in one pass, with the same outcome as one by one. A source stays even when its last row
+    // went, and its places are never used again; without a source places start at 0 again when the last row
+    // went.
     void Remove(std::int32_t place) { Remove(std::span(&place, 1)); }
     void Remove(std::span<const std::int32_t> places);
     void Clear();
 
     std::string Text(std::int32_t place, std::int32_t column) const;
-    // Does not sort anew. Nothing happens to a row of a source.
+    // Does not sort anew. Does nothing in a list with a source.
     void SetText(std::int32_t place, std::int32_t column, std::string_view text);
     std::string Key(std::int32_t place) const;
     // False, with nothing changed, when another row has the key, and for a row of a source.
@@ -91,12 +93,12 @@ struct ListView : Control {
 
     // Displayed positions, 0 to Count() - 1, and places.
     std::int32_t PlaceAt(std::int32_t position) const { return order_[static_cast<std::size_t>(position)]; }
-    std::int32_t PositionOf(std::int32_t place) const;  // walks the order; -1 when it doesn't stand
+    std::int32_t PositionOf(std::int32_t place) const;  // a search through all; -1 when missing
 
     bool Selected(std::int32_t place) const { return Slot(place).selected; }
     void Select(std::int32_t place, bool on);
     void SelectAll(bool on);
-    // What ranges name beyond the rows counts for nothing.
+    // Positions beyond the rows are passed over.
     void SelectRanges(std::span<const PositionRange> ranges, bool on);
     void SelectOnly(std::span<const PositionRange> ranges);  // and nothing else
     void SelectCurrentOnly();                                // the current row, where there is one
@@ -104,19 +106,19 @@ struct ListView : Control {
     std::vector<PositionRange> SelectedRanges() const;       // in displayed order, none next to another
     std::int32_t current = -1;                               // place, -1 for none
 
-    bool sorted = false;  // the switch; while it is off, further rows go to the end
+    bool sorted = false;  // while it is off, added rows go to the end
     std::int32_t sortColumn = 0;
     bool ascending = true;
     // By displayed text, case folded; equal ones keep their order in both directions. Switches sorting on.
     void Sort();
-    // A click on the head of a column: the sort column of a sorted list flips its direction, any other sorts
-    // ascending.
+    // A click on the head of a column: where the list is sorted by that column, its direction flips; else the
+    // list is sorted by it, ascending.
     void SortByColumn(std::int32_t column);
     void SwitchSorting(bool on);  // off: the order stays; on: sorts by the column chosen last
 
-    // The selected rows in displayed order behind the captions of the columns, as a screen shows them: a line
-    // each, with TAB between the columns and CR LF at the end; a TAB or line break inside a text is a blank.
-    // Empty without a selection.
+    // The captions of the columns and the selected rows in displayed order, as a screen shows them: a line
+    // each, with TAB between the columns and CR LF at the end; a TAB or line break inside a text becomes a
+    // blank. Empty without a selection.
     std::string SelectedText() const;
 
     std::map<std::string, std::int32_t> columnWidths;  // those that the user chose, by column key
@@ -125,7 +127,7 @@ struct ListView : Control {
     std::int64_t orderRevision = 0;
     std::int64_t selectionRevision = 0;
 
-    // What the rows take, dead bytes and spare room included, their source not.
+    // Bytes that the rows take, with dead bytes and spare room, without the source.
     std::size_t MemoryBytes() const;
 
   private:
@@ -141,7 +143,7 @@ struct ListView : Control {
     std::string_view Row(std::int32_t place) const { return {Slot(place).data, Slot(place).length}; }
     std::string_view Field(std::int32_t place, std::size_t field) const { return FieldAt(Row(place), field); }
     void AppendText(std::int32_t place, std::int32_t column, std::string& out) const;
-    // The place that holds the key: the given one where no other did.
+    // The place that has the key: an earlier one, else `place`, which has it from now on.
     std::int32_t AddKey(std::string_view key, std::int32_t place);
     void RemoveKey(std::int32_t place);
     void Enter(std::int32_t place);

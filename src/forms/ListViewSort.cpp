@@ -10,8 +10,9 @@
 namespace orlo {
 namespace {
 
-// Numbers texts, case folded. Equal ones mostly share a number, so that columns of few texts sort fast; once
-// too many differ each further text gets a number of its own. Nothing but time depends on it.
+// Numbers texts, case folded. Equal ones share a number, so that columns of few different texts sort fast;
+// once too many differ, each further text gets a number of its own. This changes the time alone, not the
+// order.
 class TextNumbers {
   public:
     explicit TextNumbers(std::size_t rows) {
@@ -82,7 +83,7 @@ bool GoesOn(std::uint64_t chunk) {
     return (chunk & 0xFF) == kGoesOn;
 }
 
-// A range without order to make, as one of texts that begin alike, takes one look.
+// A range that is in order already, as one of texts that begin alike, takes one pass.
 void SortByChunk(SortEntry* begin, SortEntry* end) {
     const auto before = [](const SortEntry& a, const SortEntry& b) { return a.chunk < b.chunk; };
     if (!std::is_sorted(begin, end, before)) std::sort(begin, end, before);
@@ -100,8 +101,8 @@ void SortRangeByChunk(SortEntry* entries, const SortRange& range, std::pmr::vect
     }
 }
 
-// All chunks at one depth are read before any is sorted: the texts lie scattered, and so many of them are on
-// their way from memory at a time.
+// All chunks at one depth are read before any is sorted: the texts lie scattered in memory, and so many of
+// them are fetched at a time.
 std::pmr::vector<SortEntry> SortedTexts(const std::pmr::vector<std::string_view>& texts) {
     std::pmr::vector<SortEntry> entries(texts.size());
     for (std::size_t i = 0; i < entries.size(); ++i) entries[i].number = static_cast<std::uint32_t>(i);
@@ -119,7 +120,7 @@ std::pmr::vector<SortEntry> SortedTexts(const std::pmr::vector<std::string_view>
     return entries;
 }
 
-// What each text counts in the sorted order, by its number; equal texts count the same.
+// The rank of each text in the sorted order, by its number; equal texts have one rank.
 struct TextRanks {
     std::pmr::vector<std::uint32_t> rankOf;
     std::uint32_t count = 0;
@@ -141,8 +142,8 @@ TextRanks RanksOf(const std::pmr::vector<std::string_view>& texts, bool ascendin
 
 }  // namespace
 
-// The texts are made by place, as their source has them side by side; the rows then go by the ranks of their
-// texts, in one pass that keeps the order of equal ones.
+// The texts are made in the order of places, side by side in their source; the rows are then put in the order
+// of the ranks of their texts, in one pass that keeps the order of equal ones.
 void ListView::Sort() {
     sorted = true;
     TextNumbers numbers(order_.size());

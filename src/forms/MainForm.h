@@ -18,8 +18,8 @@ struct MainTabs {
 };
 
 // The main window: a menu bar, tabs with a pane each, and a status bar. Its parts, and the controls in them,
-// stand in the order that the eye and the tab key follow; docs/captions.md lists the captions that were
-// chosen freely.
+// are in the order that the eye and the tab key follow. docs/captions.md lists the captions that were ours to
+// choose.
 struct MainForm : Form, MainMenus, MainTabs, ShufflePane, MovePane, ExportPane, TimetablePane, ProjectPane {
     MainForm();
 

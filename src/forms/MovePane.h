@@ -7,7 +7,7 @@
 
 namespace orlo {
 
-// The pane of the tab Move: whose traffic is moved from where to where.
+// The pane of the tab Move: which aircraft's traffic is moved, and between which airports.
 struct MovePane {
     explicit MovePane(Form& form);
 
@@ -31,7 +31,7 @@ struct MovePane {
     std::int32_t MovePercent = -1;  // of the last or loaded mover action; -1 moves all
     bool ExecutingAction = false;   // a percentage move then takes MovePercent and asks nothing
     bool ActionToSave = false;      // traffic was moved since the view was reset
-    bool ActionLoaded = false;      // an action is loaded that can be executed
+    bool ActionLoaded = false;      // a loaded action can be executed
 };
 
 }  // namespace orlo

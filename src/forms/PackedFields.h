@@ -8,8 +8,8 @@
 
 namespace orlo {
 
-// Texts in a row, each behind its length (seven bits a byte, the low ones first, the high bit set on all but
-// the last).
+// Appends a text behind its length. A length has seven bits a byte, the low ones first; all its bytes but the
+// last have the high bit set.
 void AppendField(std::string& out, std::string_view text);
 
 // Walks the fields of a packed row; past the last one all are empty.

@@ -26,8 +26,8 @@ struct TreeView : Control {
     TreeView(Container in, std::string_view nameOf)
         : Control(ControlKind::TreeView, in.form, in.parent, nameOf, "") {}
 
-    // Place of the new node; -1, with nothing changed, when its key stands already. `parentPlace` -1 is the
-    // root.
+    // Place of the new node; -1, with nothing changed, when another has its key. With `parentPlace` -1 it is
+    // a root.
     std::int32_t Add(std::int32_t parentPlace, std::string_view key, std::string_view text,
                      Colour nodeColour);
     std::int32_t Find(std::string_view key) const;  // -1 when missing
@@ -49,7 +49,7 @@ struct TreeView : Control {
     std::int32_t current = -1;
     bool checkBoxes = true;
     std::int64_t contentRevision = 0;  // counts adds, clears and sorts
-    std::int64_t stateRevision = 0;    // to be raised by who changes checks, colours, tags
+    std::int64_t stateRevision = 0;    // whoever changes checks, colours or tags raises it
 
   private:
     KeyedIndex<std::int32_t> index_;

@@ -25,7 +25,7 @@ struct TreeAircraft {
     std::int32_t fsIndex = -1;
 };
 
-// The group of that key, added under `parent` where it doesn't stand yet.
+// The group of that key, added under `parent` where there is none yet.
 std::int32_t Group(TreeView& tree, std::int32_t parent, std::string_view key, std::string_view text) {
     const std::int32_t found = tree.Find(key);
     return found >= 0 ? found : tree.Add(parent, key, text, Colour::WindowText);
@@ -101,7 +101,7 @@ void CheckPlanAircraft(MainForm& form, const Session& session) {
     CheckNodes(form, session, tree, leaves);
 }
 
-// The place in FSAircrafts that a leaf of tvShuffleAircraft bears; nothing for a group.
+// The place in FSAircrafts in the tag of a leaf of tvShuffleAircraft; nothing for a group.
 std::optional<std::int32_t> PlaceOf(const TreeNode& node, const Session& session) {
     const auto place = ParseWholeNumber(node.tag);
     return place && *place >= 0 && *place < session.fleet.FSAircraftCount() ? place : std::nullopt;

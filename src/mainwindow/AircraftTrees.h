@@ -18,28 +18,28 @@ enum class SkipTree : bool { No, Yes };
 // The key of a title's leaf in both trees and every view.
 std::string AircraftNodeKey(std::string_view title);
 
-// Adds the leaf and the groups that it needs. `fsIndex` is the aircraft's place in FSAircrafts. A title that
-// has its leaf already adds none, but its groups stay.
+// Adds the leaf and the groups that it needs. `fsIndex` is the aircraft's place in FSAircrafts. For a title
+// that has a leaf already only the groups are added.
 void AddAircraftToTrees(MainForm& form, const Session& session, std::string_view title,
                         std::string_view airline, std::string_view manufacturer, std::string_view model,
                         std::int32_t fsIndex, SkipTree skipShuffleTree, SkipTree skipMoveTree);
 
-// Whether the aircraft of this title stand in the trees at all.
+// Whether aircraft of this title are shown in the trees.
 bool ShowsInTrees(std::string_view title);
 
 // Fills both trees anew from FSAircrafts, marks the plan's aircraft and sorts.
 void FillAircraftTrees(MainForm& form, const Session& session);
 
-// For each plan aircraft, its number goes into the tag of its leaf in tvMoveAircrafts, which turns black, and
-// its leaf in tvShuffleAircraft is checked.
+// For each plan aircraft: its leaf in tvMoveAircrafts turns black and gets its number into the tag, and its
+// leaf in tvShuffleAircraft is checked.
 void MarkPlanAircraft(MainForm& form, const Session& session);
 
-// Whether the choice in a view's combo box asks for another tree: it isn't the one shown last, and a plan
-// with flights is open.
+// Whether the tree must be rebuilt: the view chosen in the combo box isn't the one shown, and the plan has
+// flights.
 bool ViewChanges(const ComboBox& view, const Session& session);
 
-// Rebuild the tree in the chosen view with the same leaves checked, where ViewChanges; in every case the
-// choice counts as shown then.
+// Where ViewChanges, rebuild the tree in the chosen view with the same leaves checked. The choice then counts
+// as the view shown, rebuilt or not.
 void ChangeShufflerView(MainForm& form, const Session& session);
 void ChangeMoveView(MainForm& form, const Session& session);
 

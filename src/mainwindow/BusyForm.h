@@ -10,7 +10,7 @@ namespace orlo {
 // operation has stages, the first one opens the progress window over the form.
 class BusyForm {
   public:
-    // Waiting events have run once then. `stages` is what the progress window counts to.
+    // Lets waiting events run once. `stages` is the maximum of the progress window.
     BusyForm(Context& context, Form& form, int stages = 0);
     // Closes the progress window, where a stage opened it, and enables the form.
     ~BusyForm();
@@ -19,11 +19,11 @@ class BusyForm {
 
     // Shows the stage and lets events run.
     void Stage(std::string_view text, int value);
-    // What the progress window counts to from now on, as after a step that has counted to something else.
+    // Sets the maximum of the progress window anew, for instance after a step that has set another one.
     void SetStages(int stages);
     // Closes the progress window before the end.
     void CloseProgress();
-    // The form stays disabled when the operation ends, and the progress window up.
+    // When the operation ends, the form stays disabled and the progress window open.
     void StayBusy() { staysBusy_ = true; }
 
   private:
@@ -34,7 +34,7 @@ class BusyForm {
     bool staysBusy_ = false;
 };
 
-// While it lives the drawing of a form stands still.
+// While it lives the form is not drawn.
 class FrozenForm {
   public:
     explicit FrozenForm(Form& form) : form_(form) { ++form_.frozen; }

@@ -9,7 +9,7 @@
 
 namespace orlo {
 
-// What holds the main window's controls and size.
+// The layout of the main window's controls, and the limits of window sizes.
 struct WindowFrame {
     cResize layout;
     WindowLimitTable limits;

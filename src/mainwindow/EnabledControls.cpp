@@ -20,7 +20,7 @@ void EnableMenus(Context& context) {
     const Session& session = context.session;
     MainForm& form = context.forms.frmMain;
     form.mnuFileSave.enabled = session.plan.PlanModified;
-    // Since the first open, and whether or not it went well.
+    // From the first open on, even if that failed.
     form.mnuFileSaveAs.enabled = !session.plan.FlightplanPath.empty();
     form.mnuFileSaveProject.enabled = session.project.ProjectModified;
     form.mnuFileSaveProjectAs.enabled = session.project.ProjectBegun;

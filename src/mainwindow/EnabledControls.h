@@ -4,9 +4,9 @@
 
 namespace orlo {
 
-// What of the main window is enabled, a procedure each for the menus and every pane. Each only reads: plan
-// and project with their marks, the lists, and what was done before where that counts (a held snapshot, a
-// loaded action). Whoever changes one of these runs the procedure.
+// Which controls of the main window are enabled: a procedure for the menus and one for each pane. They only
+// read the state: plan and project with their marks, the lists, a held snapshot, a loaded action. Whoever
+// changes one of these runs the procedure.
 void EnableMenus(Context& context);
 void EnableShufflePane(Context& context);
 void EnableMovePane(Context& context);

@@ -14,10 +14,10 @@ struct PlanChange {
     // Changes the plan and gives the closing message; an empty one is not shown.
     std::function<std::string(BusyForm&)> work;
     std::string_view firstStage = {};  // empty: no progress window
-    int stages = 0;                    // that it counts to; the last but one shows the plan anew
-    bool changesAircraft = false;      // of the plan: the trees and the mover's view follow
+    int stages = 0;                    // maximum of the progress; `stages` - 1 shows the plan anew
+    bool changesAircraft = false;      // PlanAircrafts too: the trees and the mover's view follow
     bool takesSnapshot = true;         // an undo step of its own
-    bool marksModified = true;         // whether or not anything changed
+    bool marksModified = true;         // even if nothing changed
 };
 
 // Runs the change in the frame of a bulk operation over the form: disables it under the hourglass, shows the
@@ -25,7 +25,7 @@ struct PlanChange {
 // and closes with the message.
 void ChangePlan(Context& context, Form& form, const PlanChange& change);
 
-// After everything that changes flights or plan aircraft.
+// To be called after everything that changes flights or plan aircraft.
 void MarkPlanModified(Context& context);
 
 }  // namespace orlo

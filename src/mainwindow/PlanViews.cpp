@@ -10,8 +10,8 @@ void ResetExportView(Context& context) {
     Session& session = context.session;
     form.lvExPreview.Clear();
     form.lblExPreview.caption = "Previe&w";
-    // No button reaches the results of a list that is empty, and they would keep the rows of the old plan
-    // alive.
+    // Results would keep the rows of the old plan in memory, and no button reaches them once the list is
+    // empty.
     session.search = {};
 
     form.cmExportAircraft.Clear();

@@ -4,7 +4,7 @@
 
 namespace orlo {
 
-// The views that show the plan are reset, not patched, after everything that changes the traffic.
+// After every change of the traffic as a whole, the views of the plan are reset, not patched.
 
 // The tab Export/Search: empties list and search state, fills cmExportAircraft anew.
 void ResetExportView(Context& context);
@@ -18,7 +18,7 @@ void ResetTimetableView(Context& context);
 // The tab Move: fills cmSource and cmDest from the plan's airports.
 void ResetMoverView(Context& context);
 
-// Takes the numbers of results out of lblExPreview and the label of the timetable.
+// Takes the numbers of results out of lblExPreview and out of the label of the timetable.
 void ForgetResultCounts(MainForm& form);
 
 }  // namespace orlo

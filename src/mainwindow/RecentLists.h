@@ -6,8 +6,8 @@
 
 namespace orlo {
 
-// The newest five paths, the newest first. A path that stands already, case aside, moves to the top in its
-// new spelling; one on top changes nothing.
+// Adds a path to the five newest, the newest first. A path in the list already, case aside, moves to the top
+// in its new spelling; one on top changes nothing.
 void AddRecentFlightplan(Context& context, const std::string& path);
 void AddRecentProject(Context& context, const std::string& path);
 

@@ -5,7 +5,7 @@
 namespace orlo {
 namespace {
 
-// Where an edge stands when the window's size went from `before` to `now`.
+// Where an edge stands after the window's size went from `before` to `now`.
 double MovedEdge(std::int32_t edge, EdgeMode mode, EdgeUnit unit, std::int32_t before, std::int32_t now) {
     const double half = mode == EdgeMode::FollowsMiddle ? 2 : 1;
     if (unit == EdgeUnit::Offset) return edge + (now - before) / half;

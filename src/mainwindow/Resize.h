@@ -23,15 +23,15 @@ struct EdgeModes {
 
 enum class EdgeUnit : std::int16_t { Scale = 0, Offset = 1 };
 
-// The proportional layout of a window: each registered control keeps the edges that it had at registration,
-// moved or scaled with the window's inner size. Nothing clips; the least size of the window keeps controls
-// apart.
+// The proportional layout of a window: the edges of each registered control stay where they were at
+// registration, or move or scale with the window's inner size. Controls are not kept from overlapping here;
+// the window's least size sees to that.
 class cResize {
   public:
     void SetFormHeight(std::int32_t height) { height_ = height; }
     void SetFormWidth(std::int32_t width) { width_ = width; }
 
-    // Takes the control's place at this moment.
+    // Registers the control with its present place.
     void Add(Control& control, EdgeModes modes, EdgeUnit unit);
 
     // Gives all controls their places in a window of this inner size, in the order of registration.

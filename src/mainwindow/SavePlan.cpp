@@ -48,7 +48,7 @@ void SaveFlightplanCommand(Context& context) {
 }
 
 void SaveFlightplanAs(Context& context) {
-    // After an open that failed there is nothing to write, least of all over the files that stand there.
+    // After an open that failed there is nothing to write, and the files on the disk must not be replaced.
     if (!context.session.plan.PlanLoaded) {
         context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
         return;

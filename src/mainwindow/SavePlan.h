@@ -12,14 +12,14 @@ inline constexpr std::string_view kTextFileFilter = "Text Files (*.txt)|*.txt|Al
 MessageAnswer AskToSave(Context& context, std::string_view question);
 MessageAnswer AskToSavePlan(Context& context);
 
-// Says in the status bar which file of a written plan is missing, if one is.
+// Says in the status bar which file of a plan could not be written, if any.
 void ReportPlanNotWritten(Context& context, const std::string& path, const PlanWriteResult& written);
 
-// Writes the plan and Aircraft.txt, clears PlanModified and says so. The message comes whatever the writers
-// did; what could not be written stands in the status bar, and the old file stays whole.
+// Writes the plan and Aircraft.txt, clears PlanModified and says that the plan is saved, whether or not the
+// files could be written; one that could not is named in the status bar, and the old file stays whole.
 void SaveFlightplan(Context& context);
 
-// The same in the frame of a busy window: the menu entry.
+// The menu entry: the same while the window is disabled under the hourglass.
 void SaveFlightplanCommand(Context& context);
 
 // Asks for a path first; a cancel changes nothing.

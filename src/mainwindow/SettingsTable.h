@@ -13,16 +13,16 @@
 
 namespace orlo {
 
-// The settings that the program keeps, each as one row: where it is stored, what holds where nothing is
-// stored, and what mirrors it while the program runs.
+// The settings that the program keeps, each as one row: where it is stored, its default, and what holds it
+// while the program runs, its mirror. docs/settings.md tells the form of the store.
 
-// A menu entry of a turn-around limit, which stands for one value of it.
+// A menu entry that stands for one value of a turn-around limit.
 struct TurnAroundLimit {
     MenuEntry MainForm::*entry;
     std::int32_t value;  // minutes for the minimum, hours for the maximum, or kNoTurnAroundLimit
 };
 
-// The mirrors of a value.
+// The kinds of mirrors.
 struct MenuSwitch {  // a tick entry and its member
     bool Switches::*value;
     MenuEntry MainForm::*entry;

@@ -6,11 +6,11 @@
 
 namespace orlo {
 
-// Says in the status bar what could not be written; messages stay as they are.
+// Says in the status bar that the file could not be written. The messages to the user don't change by it.
 void ReportNotWritten(Context& context, std::string_view path);
 // The same for a print that failed.
 void ReportNotPrinted(Context& context);
-// Takes such texts away, before the next try.
+// Clears such a text from the status bar, before the next try.
 void ForgetNotWritten(Context& context);
 
 }  // namespace orlo

@@ -64,7 +64,7 @@ bool IsShuffleTree(const MainForm& form, const TreeView& tree) {
     return &tree == &form.tvShuffleAircraft;
 }
 
-// Checks the nodes with all below them. The result marks their ancestors.
+// Checks the nodes and all below them. The result tells, by place, which nodes are their ancestors.
 std::vector<bool> CheckSubtrees(TreeView& tree, std::span<const std::int32_t> nodes) {
     std::vector<bool> done(tree.nodes.size());
     std::vector<bool> ancestors(tree.nodes.size());
@@ -102,9 +102,9 @@ void HandleNodeCheck(MainForm& form, const Session& session, TreeView& tree, std
     form.HandlingNodeCheck = false;
 }
 
-// A check is never taken back in here, so a subtree that was checked stays checked, and whatever changes a
-// group's children runs through the group: each ancestor ends as its children end. So it is enough to let the
-// ancestors follow once, from below; a child always stands behind its parent in tree order.
+// Nothing is unchecked here, so a checked subtree stays checked, and in the end each ancestor is as its
+// children are. So it is enough that the ancestors follow their children once, from below: a child stands
+// behind its parent in tree order.
 void CheckNodes(MainForm& form, const Session& session, TreeView& tree, std::span<const std::int32_t> nodes) {
     if (nodes.empty()) return;
     ++tree.stateRevision;
@@ -136,7 +136,8 @@ void DeselectAll(MainForm& form, TreeView& tree) {
     if (IsShuffleTree(form, tree)) SetShuffleLabel(form, 0);
 }
 
-// Groups with children need no inversion of their own: the last of their children to be inverted decides.
+// Only leaves are inverted. From the last node to the first, each group then follows its children, which are
+// done.
 void InverseSelection(MainForm& form, TreeView& tree) {
     for (std::int32_t node = tree.Count() - 1; node >= 0; --node) {
         if (tree.At(node).children.empty()) {

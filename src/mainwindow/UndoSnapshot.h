@@ -9,15 +9,15 @@ namespace orlo {
 
 struct Context;
 
-// The traffic as it was before an operation: one step back, no history. mnuToolsUndo is enabled exactly while
-// one is held.
+// The traffic as it was before an operation: one step back, no history. mnuToolsUndo is enabled while a
+// snapshot is held, and only then.
 struct UndoSnapshot {
     bool Held = false;
     FlightList Flights;
     std::vector<PlanAircraft> PlanAircrafts;
 };
 
-// Copies flights and aircraft and enables mnuToolsUndo; nothing while the switch Undo is off.
+// Copies flights and aircraft and enables mnuToolsUndo. Does nothing while the switch Undo is off.
 void TakeUndoSnapshot(Context& context);
 
 // The same unless a snapshot is held already: a run of single edits is undone as one step.

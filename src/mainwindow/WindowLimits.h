@@ -11,7 +11,7 @@ class WindowLimitTable {
   public:
     static constexpr std::size_t kMostWindows = 20;
 
-    // A window that doesn't fit the table isn't registered.
+    // Where the table is full the window is not registered.
     void AddWindowLimits(Form& form, WindowLimits limits);
     void RemoveWindowLimits(Form& form);
 

@@ -12,7 +12,7 @@ namespace orlo {
 // airports, in the order in which they first appear.
 std::string FormatAirlineSkeleton(const std::vector<AirportRecord>& airports);
 
-// Reads the scenery where it isn't known yet and writes "New ORLO_AL.CFG" into the program folder.
+// Writes "New ORLO_AL.CFG" into the program folder; reads the scenery first where it isn't read yet.
 void GenerateAirlineConfig(Context& context);
 
 }  // namespace orlo

@@ -16,7 +16,7 @@ struct Faults {
     bool tooLong = false;
 };
 
-// The texts stand in the order in which they are joined.
+// Joins the texts of the faults, in the order below.
 FlightTimesCheck Report(const Faults& faults) {
     FlightTimesCheck check;
     const auto add = [&check](bool fault, std::string_view text) {

@@ -7,8 +7,8 @@
 namespace orlo {
 
 // Gives every leg of every flight, removed ones too, a level drawn from those that suit its route and
-// aircraft: legs from the second to the last, then the first. A flight whose aircraft isn't installed keeps
-// its levels.
+// aircraft, in the order second leg to last, then first. A flight whose aircraft isn't installed keeps its
+// levels.
 void CorrectFlightLevels(Plan& plan, const Fleet& fleet, const std::vector<FlightLevelRule>& rules,
                          RandomSource& random);
 

@@ -11,9 +11,9 @@
 namespace orlo {
 namespace {
 
-// What a corrected turn-around keeps from its limit, so that it passes the next correction too.
+// Distance of a corrected turn-around from its limit, so that the next correction leaves it.
 constexpr std::int64_t kSpareSeconds = 2 * kSecondsPerMinute;
-// A negative turn-around gets so much where no minimum is set.
+// A negative turn-around becomes this where no minimum is set.
 constexpr std::int64_t kUsualTurnAround = 47 * kSecondsPerMinute;
 
 struct PeriodLimit {
@@ -27,7 +27,7 @@ constexpr PeriodLimit kPeriods[] = {
 };
 constexpr std::string_view kLongestRound = "24Hr";
 
-// Of a round of so many seconds; nothing when it fits into none.
+// The shortest period for a round of `total` seconds; nothing when it fits into none.
 std::optional<std::string_view> ShortestPeriod(std::int64_t total, std::int64_t minimumMinutes) {
     for (const PeriodLimit& limit : kPeriods) {
         const std::int64_t minutes = limit.minutes - (limit.leavesMinimum ? minimumMinutes : 0);
@@ -36,7 +36,7 @@ std::optional<std::string_view> ShortestPeriod(std::int64_t total, std::int64_t 
     return std::nullopt;
 }
 
-// The turn-around that takes the place of one of so many seconds; nothing where that may stay.
+// What a turn-around of `seconds` becomes; nothing where it may stay.
 std::optional<std::int64_t> CorrectedTurnAround(std::int64_t seconds, std::int32_t minimum,
                                                 std::int32_t maximum) {
     const bool hasMinimum = minimum != kNoTurnAroundLimit;
@@ -77,7 +77,7 @@ bool AnyMoved(const FlightTimes& times) {
     return false;
 }
 
-// The texts of moved legs, which lend them to a changed flight.
+// Holds the texts of moved legs while they are lent to a changed flight.
 class MovedTimes {
   public:
     void Lend(const FlightTimes& times, LentFlight& flight) {

@@ -7,8 +7,8 @@
 
 namespace orlo {
 
-// For each flight, removed ones too, the place of the first flight that equals it: in all its texts, case
-// aside. Whether an arrival is fixed makes no difference, nor does the Removed mark.
+// For each flight, removed ones too, the place of the first flight whose texts are all equal, case aside. The
+// marks of fixed arrivals and the Removed mark don't count.
 std::vector<std::int32_t> FirstOfEqualFlights(const FlightList& flights);
 
 }  // namespace orlo

@@ -38,7 +38,7 @@ Flight NewFlight(const Session& session) {
     return flight;
 }
 
-// Behind the results; one that was given up before makes way.
+// Appends it behind the results, in place of one that was given up before.
 std::int32_t AppendNewResult(Session& session) {
     const std::int32_t place = session.search.SearchResultCount;
     session.search.SearchResults.Truncate(place);
@@ -49,7 +49,7 @@ std::int32_t AppendNewResult(Session& session) {
     return place;
 }
 
-// The rows that the list shows, which are no others than a search's; empty ones where it shows none.
+// The rows that the list shows, always SearchRows; made empty where it shows none.
 SearchRows& RowsOf(Context& context) {
     ListView& list = context.forms.frmMain.lvExPreview;
     if (list.Source() == nullptr) {

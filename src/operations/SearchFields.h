@@ -15,7 +15,7 @@ namespace orlo {
 // The class number that stands for no condition.
 inline constexpr std::int32_t kAnyClass = -1;
 
-// What a search by fields asks for. An empty text, no number and kAnyClass are no conditions.
+// What a search by fields asks for. An empty text, an ACNumber without value and kAnyClass are no conditions.
 struct SearchFields {
     bool MatchAll = true;   // AND; otherwise one condition is enough
     std::string Departure;  // part of the code where the flight starts
@@ -36,9 +36,9 @@ class FieldSearch {
   public:
     FieldSearch(const SearchFields& fields, const Session& session, const MatchedAircraft& matched);
 
-    // Conditions are tested in their order until the outcome stands: at the first failure where all must
-    // match, else at the first success. A flight whose aircraft isn't installed passes the test of the class
-    // where all must match. Without any condition it is MatchAll.
+    // Tests the conditions in order, up to the first failure where all must match, else up to the first
+    // success. Where all must match, a flight whose aircraft isn't installed passes the test of the class.
+    // Without any condition the result is MatchAll.
     bool Matches(const FlightView& flight) const;
 
   private:

@@ -48,8 +48,8 @@ SearchFields ReadFields(const Context& context, std::string_view departure, std:
     return fields;
 }
 
-// Whether a leg's level suits. A level that is no number never does; a leg whose length or course isn't known
-// counts as right.
+// Finds flights with a leg whose level doesn't suit. A level that is no number never suits; a leg of unknown
+// length or course counts as right.
 class LevelSearch {
   public:
     explicit LevelSearch(const Session& session)
@@ -88,7 +88,7 @@ class LevelSearch {
     MatchedAircraft matched_;
 };
 
-// The codes of the legs that the plan's airports lack, joined; nothing without one.
+// The leg codes that are missing in the plan's airports, joined; nothing where none is.
 std::optional<std::string> UnknownAirports(const Session& session, const FlightView& flight) {
     std::optional<std::string> codes;
     for (const LegView& leg : flight) {
@@ -130,7 +130,7 @@ void FillList(Context& context, const MatchedAircraft& matched, bool withErrors)
     list.SwitchSorting(true);
 }
 
-// False where the scenery is needed and can't be had.
+// False where the scenery is needed and there is none.
 bool SearchByFields(Context& context, BusyForm& busy, std::string_view departure, std::string_view leg,
                     const MatchedAircraft& matched) {
     const SearchFields fields = ReadFields(context, departure, leg);

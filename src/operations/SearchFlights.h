@@ -17,10 +17,10 @@ enum class SearchMode {
 };
 
 // Walks the plan for the flights that match, fills the search state and lvExPreview with them and writes
-// their number into lblExPreview. Removed flights never match. `departure` and `leg` are parts of codes, of
-// account in the mode Fields only. Where a region is asked for and no scenery can be had, the search ends
-// there: the search state is empty, the list shows what it showed, the main window stays disabled and the
-// progress window up.
+// their number into lblExPreview. Removed flights never match. `departure` and `leg` are parts of codes, used
+// in the mode Fields only. Where a region is asked for and there is no scenery, the search ends early: the
+// search state is empty, the list shows what it showed, the main window stays disabled and the progress
+// window open.
 void SearchFlights(Context& context, std::string_view departure, std::string_view leg, SearchMode mode);
 
 }  // namespace orlo

@@ -51,7 +51,7 @@ SearchRows::SearchRows(FlightList flights, std::vector<std::string> errors, cons
                        std::string_view zone)
     : flights_(std::move(flights)), errors_(std::move(errors)), zone_(zone) {
     shown_.push_back({std::string(kNotFound), {}});
-    // Many numbers may share one installed aircraft, whose texts are as long as its file has them.
+    // Many numbers may share one installed aircraft; its texts, of any length, are held once.
     std::unordered_map<std::int32_t, std::int32_t> shownOfPlace = {{-1, 0}};
     for (const std::int32_t place : matched.Places()) {
         if (!shownOfPlace.try_emplace(place, static_cast<std::int32_t>(shown_.size())).second) continue;

@@ -28,8 +28,8 @@ enum SearchColumn : std::int32_t {
     kColumnErrors,
 };
 
-// The rows of lvExPreview, one a result, their texts made when they are asked for. It holds what it shows, so
-// that the list stands whatever becomes of the session. `zone` is that of the columns Depart and Arrive.
+// The rows of lvExPreview, one a result; texts are made when they are asked for. They hold all that they
+// show, so the list stands whatever becomes of the session. `zone` is that of the columns Depart and Arrive.
 class SearchRows : public RowSource {
   public:
     SearchRows(FlightList flights, std::vector<std::string> errors, const MatchedAircraft& matched,
@@ -38,10 +38,10 @@ class SearchRows : public RowSource {
     void AppendText(std::int32_t row, std::int32_t column, std::string& out) const override;
 
     std::int32_t Count() const { return flights_.Count(); }
-    // What it holds a row beside the flights and the errors' texts.
+    // Bytes held for the rows beside the flights and the texts of errors.
     std::size_t MemoryBytes() const;
     void SetZone(std::string_view zone) { zone_ = zone; }
-    // The flight of a row that stands, or a further row, joined to its aircraft anew.
+    // Puts the flight into an existing row, or adds the next row, and looks its aircraft up.
     void SetFlight(std::int32_t row, const Flight& flight, const MatchedAircraft& matched);
 
   private:
@@ -58,7 +58,7 @@ class SearchRows : public RowSource {
 };
 
 // The column's form of a period, aircraft number and percent: "08Hr" for "8Hr", "WEEK" as it stands; "0012"
-// for "AC#12"; "05%" for "5%". What is no number stands as it is, in front of "Hr" and "%" too.
+// for "AC#12"; "05%" for "5%". A part that is no number stands as it is, with "Hr" or "%" behind it.
 std::string PeriodColumn(std::string_view period);
 std::string NumberColumn(std::string_view acNumber);
 std::string PercentColumn(std::string_view percent);

@@ -14,11 +14,12 @@
 
 namespace orlo {
 
-// The services of the system that the program runs on. A front end is put in front of them, and what stands
-// in for one of them is assigned over it before.
+// The services of the operating system, to which a front end is added. To replace a service, assign another
+// to its member before.
 struct SystemServices {
-    // The file of the user's settings, or without one the system's store; the simulator's folder, or where it
-    // is empty what the machine's settings tell; and the seed of all draws, or without one the clock.
+    // `settings`: the file of the user's settings; without one, the system's store. `simulator`: the
+    // simulator's folder; where it is empty, the machine's settings tell it. `seed`: of all draws; without
+    // one, the clock seeds.
     explicit SystemServices(const std::optional<std::string>& settings = std::nullopt,
                             const std::string& simulator = {},
                             std::optional<std::uint64_t> seed = std::nullopt);
@@ -29,7 +30,7 @@ struct SystemServices {
     SystemRandom random;
     std::unique_ptr<Clock> clock;
 
-    // They hold as long as this and the front end, and as nothing is assigned anew.
+    // All services. They hold while this and the front end live and no member is assigned anew.
     Services Behind(FrontEnd& frontEnd) {
         return {*files, *userSettings, *machineSettings, frontEnd, frontEnd, frontEnd, random, *clock};
     }

@@ -22,9 +22,9 @@ class InputFile {
     virtual std::uint64_t Size() const = 0;
 };
 
-// One file being written whole. Nothing is seen under the file's own name before Commit: the bytes go beside
-// it and are renamed over it, or, where the folder takes no second file, into it in place. Destroying the
-// file without a Commit leaves what was there before.
+// One file being written. Unless it comes from CreateInPlace, nothing of it shows under its name before
+// Commit: the bytes go to a file beside it, which Commit renames; where the folder takes no second file,
+// Commit writes them in place. Destroyed without a Commit, it leaves what was there before.
 class OutputFile {
   public:
     virtual ~OutputFile() = default;
@@ -43,7 +43,7 @@ struct FolderEntry {
 
 // The file system as the program sees it. Paths are the system's bytes with its separators; every name is
 // found without regard to case when no entry is spelled exactly so. Nothing here throws: what can't be done
-// answers false, an empty result or null, and leaves the disk as it was.
+// gives false, an empty result or null, and leaves the disk as it was.
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
@@ -54,22 +54,22 @@ class FileSystem {
     // The path with each existing component spelled as the disk spells it; components that don't exist stay.
     virtual std::string Resolve(const std::string& path) = 0;
 
-    // The path from the root: a relative one stands in the working folder.
+    // The path from the root; a relative one counts from the working folder.
     virtual std::string FullPath(const std::string& path) = 0;
 
-    virtual bool FileExists(const std::string& path) = 0;  // a file that isn't a folder
+    virtual bool FileExists(const std::string& path) = 0;  // anything but a folder
     virtual bool FolderExists(const std::string& path) = 0;
     virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder
 
     // Null when the path names no readable file.
     virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
 
-    // A file that replaces `path` whole on Commit. Links are followed; a read-only target is refused. Null
-    // when neither a file beside it nor the file itself can be opened.
+    // A file that replaces `path` whole on Commit. Links are followed. Null for a read-only target, and when
+    // neither a file beside it nor the file itself can be opened.
     virtual std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) = 0;
 
-    // A file that is truncated at once and written in place: logs and the outputs of a merge. Commit closes
-    // it.
+    // A file that is truncated at once and written in place, as logs and the outputs of a merge. Commit
+    // closes it; without a Commit its end does.
     virtual std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) = 0;
 
     virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole

@@ -6,8 +6,8 @@ namespace orlo {
 
 struct Form;
 
-// The display of a long operation. The calling order is text, maximum, value, show; then text and value by
-// stage; then close.
+// The display of a long operation. The calls come in this order: text, maximum, value, show; text and value
+// for each stage; close.
 class ProgressHost {
   public:
     virtual ~ProgressHost() = default;

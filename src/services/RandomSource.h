@@ -7,7 +7,7 @@ class RandomSource {
     virtual ~RandomSource() = default;
 
     virtual double Next() = 0;         // in [0, 1)
-    virtual void SeedFromClock() = 0;  // a fixed seed, where one was given, takes the clock's place
+    virtual void SeedFromClock() = 0;  // by a fixed seed instead, where one was given
 };
 
 }  // namespace orlo

@@ -31,17 +31,17 @@ class WindowHost {
     virtual void ProcessEvents() = 0;
 
     virtual void ShowForm(Form& form) = 0;  // not modal
-    // Blocks until the form's close request, which it takes.
+    // Blocks until the form's close request, and clears it.
     virtual void ShowModal(Form& form, Form* owner) = 0;
     virtual void UnloadForm(Form& form) = 0;
 
-    // Whether the windows of this front end have a place on a screen that is worth keeping.
+    // Whether the places of this front end's windows on the screen are kept from one start to the next.
     virtual bool KeepsWindowPlace() const = 0;
 
-    // A command was chosen that has no procedure yet.
+    // Tells the user that the chosen command is not built yet.
     virtual void ShowNotBuilt(std::string_view controlName) = 0;
 
-    // One shot of `milliseconds`; firing runs the event procedure of the timer's name.
+    // Fires once after `milliseconds`, and runs the event procedure of that timer name.
     virtual void StartTimer(std::string_view name, int milliseconds) = 0;
     virtual void StopTimer(std::string_view name) = 0;
     virtual bool TimerArmed(std::string_view name) const = 0;
@@ -57,8 +57,8 @@ class WindowHost {
 
     // Asks for a printer. False on cancel.
     virtual bool ShowPrintDialog(std::string_view title) = 0;
-    // Prints the text on the printer chosen last, fixed-pitch, size 10. The user may look at the pages first,
-    // and give it up.
+    // Prints the text on the printer chosen last, fixed-pitch, size 10. The user may see the pages first and
+    // give the print up.
     virtual PrintOutcome Print(std::string_view text) = 0;
 
     // Opens a document with the system's default handler.

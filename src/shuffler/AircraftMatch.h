@@ -12,16 +12,18 @@ namespace orlo {
 // airports. The pointers hold until a list of `sets` changes.
 std::vector<AirlineSet*> ListAirlineSets(AirlineSets& sets);
 
-// Replaces the aircraft of all entries of all sets, and normalises the sets. A plan aircraft stands for the
-// first installed aircraft of its title, case aside; one without is left out. It goes into each entry that
-// bears its airline's name, case aside, in the order of the plan. Gives those whose airline text is empty.
+// Replaces the aircraft of all entries of all sets, and runs NormalisePercents for each set. A plan aircraft
+// stands for the first installed aircraft of its title, case aside; one whose title isn't installed is left
+// out. In the order of the plan each goes into all entries of its airline's name, case aside. Returns those
+// without an airline.
 std::vector<AirlineAircraft> MatchAircraft(const std::vector<PlanAircraft>& planAircrafts,
                                            const std::vector<FSAircraft>& fsAircrafts, AirlineSets& sets);
 
-// Sets the planned percents by the percents as read and by which entries have aircraft. A percent that would
-// take the sum past 100, and one of an entry without aircraft, becomes -1; entries with aircraft and -1 share
-// what the others leave, and where all have a share the rest up to 100 is spread evenly. What doesn't divide
-// is dropped. A planned percent that is told by none of this stays as it was.
+// Sets PlannedPercent from Percent. In order, a Percent of 1 or more that would take the sum past 100, or
+// whose entry has no aircraft, becomes -1. The rest of 100 is divided by the number of entries with aircraft
+// and a Percent below 1; those with -1 get that share, all others their Percent. Without such entries the
+// rest is spread evenly over the stated percents. Fractions are dropped; any other PlannedPercent stays as it
+// was.
 void NormalisePercents(AirlineSet& set);
 
 }  // namespace orlo

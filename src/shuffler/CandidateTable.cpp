@@ -10,7 +10,7 @@
 namespace orlo {
 namespace {
 
-// The bit of a surface; all that is no surface share bit 0.
+// The bit of a surface; bit 0 for any other value.
 std::int32_t SurfaceBit(std::int32_t surface) {
     return surface >= kSurfaceHard && surface <= kSurfaceSnow ? 1 << surface : 1;
 }
@@ -53,7 +53,7 @@ CandidateTable::Profile CandidateTable::ProfileOf(const FSAircraft& aircraft, bo
             SurfaceBitsOf(aircraft)};
 }
 
-// Fills profiles_ and gives the place there of each aircraft's profile.
+// Fills profiles_ and gives, for each aircraft, the place of its profile.
 std::vector<std::int32_t> CandidateTable::FindProfiles(const std::vector<FSAircraft>& fsAircrafts,
                                                        bool anyLevel) {
     std::map<Profile, std::int32_t> places;

@@ -11,9 +11,9 @@
 
 namespace orlo {
 
-// What all aircraft of all sets can do, laid out for the innermost test of the shuffle. Most aircraft take
-// their limits from a class or a model, so that few different ones stand behind many aircraft: these profiles
-// are tested once for each flight, and a set without a fitting profile is passed at once.
+// What all aircraft of all sets can do, laid out for the innermost test of the shuffle. Most aircraft have
+// the limits of a class or a class entry, so many share the same limits, here a profile. Each profile is
+// tested once a flight, and a set without a fitting one is passed at once.
 class CandidateTable {
   public:
     // `sets` and the records they point to must outlive this, and their entries and aircraft must not move.
@@ -21,14 +21,14 @@ class CandidateTable {
     CandidateTable(const std::vector<AirlineSet*>& sets, const std::vector<FSAircraft>& fsAircrafts,
                    bool anyLevel);
 
-    // Tests all profiles for a flight, to which the further calls belong.
+    // Tests all profiles for a flight; the calls below then answer for that flight.
     void TestProfiles(FlightLimits limits, RouteNeeds needs);
 
     // The rows of the set's aircraft that fit, in order. They hold until the next call.
     std::span<std::int32_t> FindFitting(std::int32_t set);
 
     // Moves the rows whose airline has not passed its planned share of the set's flights to the front, in
-    // order, and gives these; where there are none, gives all rows as they are.
+    // order, and gives them; where every airline has, gives all rows as they are.
     std::span<std::int32_t> PreferUnderShare(std::int32_t setFlights, std::span<std::int32_t> rows) const;
 
     // Counts a flight for the row's aircraft and its entry, and gives the aircraft.
@@ -39,7 +39,8 @@ class CandidateTable {
         AirlineEntry* entry = nullptr;
         AirlineAircraft* aircraft = nullptr;
     };
-    // What tells whether an airline has passed its share, kept beside its entry for the sake of the cache.
+    // What IsOver needs of an airline, packed apart from the entries so that it stays in the processor's
+    // cache.
     struct Share {
         std::int32_t planned = 0;
         std::int32_t flights = 0;

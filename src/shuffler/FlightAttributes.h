@@ -13,15 +13,15 @@
 
 namespace orlo {
 
-// What makes a flight true to the aircraft that the shuffle chose for it.
+// Adapts a flight to the aircraft that the shuffle chose for it.
 
 // A tail number by one of the patterns, which are separated by ",". In a pattern "!" becomes a digit, "." a
-// letter, "?" one of both; with `removeMinus` every "-" goes. Empty patterns give an empty text without a
-// draw. The first and the last of each choice come half as often as the others.
+// letter, "?" either; with `removeMinus` every "-" goes. Empty patterns give an empty text without a draw. In
+// each draw the first and the last choice come half as often as the others.
 std::string CreateTailNumber(std::string_view patterns, bool removeMinus, RandomSource& random);
 
-// VFR flights become IFR under aircraft that are not used or of class Large Prop and above, with the flight
-// numbers switched on; under Micro and Mid Props they stay VFR with the flight numbers off.
+// A VFR flight becomes IFR, with its flight numbers on, under an aircraft of class Not Used or of Large Prop
+// and above; under a Micro or Mid Prop it stays VFR, with its flight numbers off.
 void ApplyFlightRules(std::int32_t aircraftClass, WorkingFlight& flight);
 
 // A new level for each leg, for the flight's type and the aircraft's levels, drawn for legs 1 to the last

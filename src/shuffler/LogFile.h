@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// A log that is written in place, gathered to large pieces. Without an open file all calls do nothing.
+// A log that is written in place, in large pieces. Without an open file all calls do nothing.
 class LogFile {
   public:
     // A file that can't be created gives a closed log.

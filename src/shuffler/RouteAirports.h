@@ -12,8 +12,8 @@
 
 namespace orlo {
 
-// What the shuffle must know of an airport of a route, resolved once for each code. Sets are places in the
-// list of ListAirlineSets; -1 is none.
+// What the shuffle must know of an airport of a route, looked up once a code. Sets are places in the list of
+// ListAirlineSets; -1: none.
 struct RouteAirport {
     std::int32_t place = -1;    // in the plan's positions, -1 unknown
     std::int32_t country = -1;  // a number for each REGION/COUNTRY; -1 for an airport without a record
@@ -29,15 +29,15 @@ struct RouteAirport {
     bool Known() const { return country >= 0; }
 };
 
-// The airports of a plan's routes. Two codes have one number only if they are spelled alike; records and sets
-// are found without regard to case, and the first of a name wins.
+// The airports of a plan's routes. Codes are numbered as they are spelled, case included; their records and
+// sets are found without regard to case, the first of a name.
 class RouteAirports {
   public:
-    // All must outlive this and stay unchanged.
+    // The arguments must outlive this and stay unchanged.
     RouteAirports(const std::vector<AirportRecord>& records, const PlanPositions& positions,
                   const AirlineSets& sets);
 
-    // The number of a code; the text must outlive this. A new code is resolved here.
+    // The number of a code, whose text must outlive this. Looks a new code up.
     std::int32_t Number(std::string_view code) {
         const std::int32_t number = codes_.Number(code);
         if (static_cast<std::size_t>(number) == airports_.size()) airports_.push_back(Resolve(code));

@@ -19,7 +19,7 @@ void ReportLevelError(Services& services, std::int32_t index) {
     ShowMessage(services.messages, Concat("Error (Flight ", index + 1, "):\nType mismatch"), kMarkCritical);
 }
 
-// Rewrites session.plan.Flights. The error of a flight is reported here.
+// Rewrites session.plan.Flights. A level that is no number is reported here.
 ShuffleResult ShuffleFlights(Session& session, Services& services, ShuffleRun& run) {
     ShuffleResult result;
     result.succeeded = true;

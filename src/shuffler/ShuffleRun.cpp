@@ -78,7 +78,7 @@ ShuffleRun::Decision ShuffleRun::Decide(const FlightView& row) {
     return SearchAircraft();
 }
 
-// Resolves the airports of all legs, and whether all lie in one country.
+// Looks up the airports of all legs, and whether all lie in one country.
 void ShuffleRun::FindAirports() {
     domestic_ = true;
     for (std::int32_t i = 0; i < flight_.LegCount; ++i) {
@@ -118,9 +118,9 @@ void ShuffleRun::FindNeeds() {
     if (needs_.minParking == kUnset) needs_.minParking = 0;
 }
 
-// Airport, city and state of the start, and of the other airports of a domestic flight before any country;
-// then, where asked for, the same and the country of the other airports of any flight; last the wider sets of
-// the airport that was looked at last.
+// First airport, city and state of the start, for a domestic flight also of its other airports, and then the
+// country. Next, where asked for, all four of each other airport. Last the region of the airport looked at
+// last, the global set and the aircraft without airline.
 ShuffleRun::Decision ShuffleRun::SearchAircraft() {
     const std::int32_t retries = flight_.LegCount - 1;
     std::int32_t domesticRetries = 0;

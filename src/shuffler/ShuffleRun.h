@@ -20,8 +20,8 @@ void ResetRunAirlines(Session& session);
 // The set of the aircraft without airline: one entry that may take all.
 AirlineSet MakeNoAirlineSet(std::vector<AirlineAircraft> aircraft);
 
-// The working data of one shuffle, built by its constructor for session.shuffle.RunAirlines after the match.
-// Of the session, only PlanAircrafts' UsageCount and the counts of RunAirlines are changed.
+// The working data of one shuffle, built when MatchAircraft has filled session.shuffle.RunAirlines. Of the
+// session it changes only the UsageCount of PlanAircrafts and the counts of RunAirlines.
 class ShuffleRun {
   public:
     ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LogFile& logOf);
@@ -30,7 +30,7 @@ class ShuffleRun {
 
     enum class Decision { Assigned, Removed, LevelIsNoNumber };
 
-    // Decides the flight of a row and logs it. The new state stands in TheFlight() when it was assigned.
+    // Decides the flight of a row and logs it. When it was assigned, TheFlight() is its new state.
     Decision Decide(const FlightView& row);
     const WorkingFlight& TheFlight() const { return flight_; }
 
@@ -56,7 +56,7 @@ class ShuffleRun {
     LogFile& log_;
     PlanPositions positions_;
     RouteAirports airports_;
-    std::vector<AirlineSet*> sets_;  // as listed, the set without airline behind them
+    std::vector<AirlineSet*> sets_;  // of ListAirlineSets, and the set without airline last
     CandidateTable candidates_;
     std::vector<std::int32_t> usagePlaces_;  // by plan aircraft: where its flights are counted
 

@@ -22,7 +22,7 @@ struct WorkingLeg {
     std::int32_t Distance = -1;  // nautical miles; -1 unknown
 };
 
-// A flight while the shuffle decides it. One is used for all flights in turn, so that its buffers are kept.
+// A flight while the shuffle decides it. One is used for all flights in turn, to reuse its buffers.
 struct WorkingFlight {
     std::string_view ACNumber;
     std::string TailNumber;
@@ -43,7 +43,7 @@ struct WorkingFlight {
 // Fills `flight` from a row, which must outlive its use. Airport and Distance are left for the caller.
 void LoadFlight(const FlightView& row, WorkingFlight& flight);
 
-// Lends all fields of the flight; they hold until it is filled anew.
+// Lends all fields of the flight to `lent`; they hold until the flight is loaded anew.
 void LendFields(const WorkingFlight& flight, LentFlight& lent);
 
 }  // namespace orlo

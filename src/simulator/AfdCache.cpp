@@ -13,7 +13,7 @@ namespace {
 constexpr std::int64_t kSecondsPerDay = 86400;
 constexpr std::int64_t kDaysTo1970 = 25569;  // from 1899-12-30
 
-// The fields of each record stand once, in the file's order; a writer and a reader of values walk them.
+// The fields of each record are listed once, in the file's order, for the writer and the reader.
 
 template <typename Type, typename Record>
 concept RecordOf = std::is_same_v<std::remove_const_t<Type>, Record>;
@@ -114,7 +114,7 @@ class CacheWriter {
     }
 };
 
-// Bytes of a record with all texts and lists empty; none takes fewer.
+// Bytes of a record whose texts and lists are all empty: the least that one takes.
 template <typename Record>
 std::size_t SmallestSize() {
     static const std::size_t size = [] {
@@ -131,7 +131,7 @@ class CacheReader {
     explicit CacheReader(std::string_view file) : bytes(file) {}
 
     ByteReader bytes;
-    bool damaged = false;  // something stands there that no writer writes
+    bool damaged = false;  // it holds something that the writer never writes
 
     bool Good() const { return bytes.Ok() && !damaged; }
 
@@ -154,7 +154,8 @@ class CacheReader {
         if (bytes.Dword() != list.size()) damaged = true;
     }
 
-    // Reads that many records; the count is believed only as far as the bytes left can hold them.
+    // Reads so many records. A count that the bytes left can't hold is damage, and no memory is reserved for
+    // it.
     template <typename Record>
     void Records(std::vector<Record>& list, std::uint32_t count) {
         if (count > bytes.Left() / SmallestSize<Record>()) damaged = true;

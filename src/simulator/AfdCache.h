@@ -26,8 +26,8 @@ double DayCount(std::int64_t seconds);
 bool WriteAFDCache(FileSystem& files, const std::string& path, const std::vector<AirportRecord>& records,
                    const AFDCacheHeader& header);
 
-// True when the whole file reads as a cache of the present version; the records and the header are then those
-// of the file. False for any other version and for a damaged file, and leaves both as they were.
+// True when the whole file reads as a cache of the present version; records and header are then the file's.
+// False, with both as they were, for any other version and a damaged or missing file.
 bool ReadAFDCache(FileSystem& files, const std::string& path, std::vector<AirportRecord>& records,
                   AFDCacheHeader& header);
 

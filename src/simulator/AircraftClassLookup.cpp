@@ -35,8 +35,8 @@ void TakeLimits(FSAircraft& aircraft, const Source& source) {
     aircraft.IFRPercent = source.IFRPercent;
 }
 
-// Two departures from the profile are wanted as they are, since plans were tuned with them: a Micro Prop's
-// shortest range is its lowest level, and the share of IFR flights is Large Jet's for every class.
+// Two values depart from the profile, and have to, since plans were tuned with them: a Micro Prop's shortest
+// range is its lowest level, and the share of IFR flights is Large Jet's for every class.
 void TakeProfile(FSAircraft& aircraft, std::int32_t code, const ClassLists& lists) {
     const ClassProfile& profile = lists.Profiles[static_cast<std::size_t>(code)];
     TakeLimits(aircraft, profile);

@@ -17,9 +17,9 @@ struct ClassMatch {
 // case. An entry without an ID matches nothing.
 ClassMatch GetAircraftClass(const ClassLists& lists, std::string_view text);
 
-// Sets the aircraft's class and the values that hang on it: from the entry, or from the profile of the class
+// Sets the aircraft's class and the values that depend on it: those of the entry, or of the class profile
 // when the entry leaves levels and ranges unset. Without a class, and in Not Used, the limits are unset and
-// the cruise speed is the file's, which therefore stands in the aircraft already.
+// the cruise speed stays as the caller has set it, the file's.
 void ApplyAircraftClass(FSAircraft& aircraft, const ClassMatch& match, const ClassLists& lists);
 
 }  // namespace orlo

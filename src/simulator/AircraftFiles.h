@@ -12,11 +12,11 @@ namespace orlo {
 // it.
 std::string ConfigText(std::string_view value);
 
-// Name of a part's folder beside aircraft.cfg: the part alone, or with "." and the name behind it.
+// Name of a part's folder beside aircraft.cfg: "part", or "part.name" where there is a name.
 std::string PartName(std::string_view part, std::string_view name);
 
-// Fills the Problem of each aircraft from what is missing among its files, and the fleet's flag for
-// problems found, which is only ever set here. Needs the values of a detailed scan.
+// Writes what is missing among the files of each aircraft into its Problem, and sets FSAircraftProblems where
+// there is one; never clears it. Needs the values of a detailed scan.
 void CheckAircraftFiles(Fleet& fleet, FileSystem& files);
 
 }  // namespace orlo

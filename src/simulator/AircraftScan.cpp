@@ -18,12 +18,12 @@ namespace {
 
 constexpr std::string_view kVariantSection = "FLTSIM";
 
-// A file whose many sections of one name all take the same long texts is read no further than this many times
-// its size; true files repeat little.
+// Sections of one name all read the texts of the first. A file with many of them and long texts is read until
+// so many times its size were taken; true files repeat little.
 constexpr std::size_t kMostRepeats = 64;
 constexpr std::size_t kFreeRepeats = 1024 * 1024;  // bytes
 
-// Sections by name. Of two with one name the first is read for both.
+// Sections by name. Where two share a name, the first is read for both.
 class ConfigFile {
   public:
     explicit ConfigFile(const InitialisationFile& file) : file_(file) {
@@ -109,7 +109,7 @@ class FolderReader {
         aircraft.ATCHeavy = config_.Boolean(section, "atc_heavy");
     }
 
-    // A file without a model of its own tells model and type by section.
+    // Without a model in [General], model and type are the section's.
     void ReadModelAndType(std::string_view section, FSAircraft& aircraft) {
         const bool modelBySection = aircraft.ATCModel.empty();
         if (modelBySection) aircraft.ATCModel = config_.Text(section, "atc_model");
@@ -119,7 +119,7 @@ class FolderReader {
         }
     }
 
-    // By the file's own model or type, and where that tells nothing by the section's.
+    // By the model or type of [General]; where that gives no class, by the section's.
     ClassMatch FindClass(const FSAircraft& aircraft) {
         const ClassMatch ofFile = LookUpClass(common_);
         return ofFile.Class != kClassNone ? ofFile : LookUpClass(aircraft);

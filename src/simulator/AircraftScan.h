@@ -10,7 +10,7 @@ namespace orlo {
 
 // The simulator's folder as the machine-wide settings tell it, trimmed; empty when it is not known.
 std::string GetSimulatorPath(SettingsStore& machineSettings);
-// The folder that the user chose, else that one.
+// The simulator's folder that the user chose, else that of GetSimulatorPath.
 std::string SimulatorFolder(const Session& session, SettingsStore& machineSettings);
 
 // Replaces the fleet by the variants of all folders below "Aircraft", in the order of the folders

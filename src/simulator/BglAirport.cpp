@@ -23,7 +23,7 @@ float CircleHeading(std::int32_t value) {
     return static_cast<float>(degrees < 0 ? degrees + 360 : degrees);
 }
 
-// Stored against the sense of the variation. Adding 0 makes a plain 0 of the -0 that this gives for none.
+// Stored with the opposite sign. Adding 0 turns the -0 of no variation into 0.
 float MagneticVariation(std::int32_t value) {
     return static_cast<float>(value / kFullTurn * -360 + 0.0);
 }
@@ -41,7 +41,7 @@ void ReadReferencePoint(const BglSubRecord& subRecord, AirportRecord& record) {
     record.Elevation = elevation;
 }
 
-// Two bits of the flags word: 0 none, 1 left, 2 right; the fourth value has no meaning and is none.
+// Two bits of the flags word: 0 none, 1 left, 2 right; 3 has no meaning and is read as none.
 std::int32_t TrafficPattern(std::uint32_t flags, int shift) {
     const std::uint32_t pattern = flags >> shift & 3;
     return pattern == 3 ? 0 : static_cast<std::int32_t>(pattern);
@@ -189,7 +189,7 @@ SurfaceClass ClassOfSurface(std::int32_t code) {
     }
 }
 
-// False for a radius that is no 32-bit number; such a one counts for no limit.
+// Whether the radius is a 32-bit number; any other counts for no limit.
 bool IsWholeRadius(float radius) {
     return std::abs(static_cast<double>(radius)) < std::numeric_limits<std::int32_t>::max();
 }

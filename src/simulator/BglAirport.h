@@ -11,9 +11,9 @@
 
 namespace orlo {
 
-// Appends the airports of one scenery file with their limits. False when the file can't be read or has no
-// section of airport data; nothing is appended then. An airport whose body is missing or cut is appended with
-// what could be read of it.
+// Appends the airports of one scenery file, with their limits. False, with nothing appended, when the file
+// can't be read or has no section of airport data. Of an airport whose body is missing or cut, what could be
+// read is appended.
 bool ReadAFDFile(FileSystem& files, const std::string& path, std::vector<AirportRecord>& records);
 bool ReadAFDBytes(std::string_view bytes, std::vector<AirportRecord>& records);
 

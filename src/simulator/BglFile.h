@@ -8,8 +8,8 @@
 namespace orlo {
 
 // The walk over the airport facility data of a scenery file: the entries of its AFD section, and the
-// sub-records of an airport's body. docs/scenery-files.md shows the layout. Everything is checked against the
-// file's bytes; what is wrong ends the walk that meets it.
+// sub-records of an airport's body. docs/scenery-files.md shows the layout. Positions and sizes are checked
+// against the file's bytes; a wrong one ends the walk.
 
 enum BglEntryType : std::uint32_t {
     kBglRegion = 0x00010001,
@@ -46,19 +46,19 @@ struct BglSubRecord {
 // The entries of a parking sub-record.
 struct BglParkingBlock {
     std::size_t Start = 0;  // of the first entry, counted from the sub-record's start
-    std::size_t Count = 0;  // of whole entries that the sub-record really holds
+    std::size_t Count = 0;  // whole entries that the sub-record really holds
 };
 
 // A longer text is cut: texts of the hierarchy are copied into each airport below them.
 inline constexpr std::size_t kLongestBglText = 255;
 inline constexpr std::size_t kBglParkingEntrySize = 20;
 
-// The bytes of one scenery file, which the owner keeps, with its walks. Sub-records of different airports
-// never overlap in a true file, so all of them together are no longer than the file; a walk that has seen
-// that many bytes ends, and a file whose entries share bodies can't keep the reader busy.
+// The walks over one scenery file, whose bytes the owner keeps. In a true file sub-records never overlap, so
+// together they are no longer than the file. All walks together therefore see no more bytes than that, so a
+// file whose entries share bodies can't keep the reader busy.
 class BglFile {
   public:
-    // False goes no further.
+    // A visitor that gives false ends the walk.
     using EntryVisitor = std::function<bool(const BglEntry&)>;
     using SubRecordVisitor = std::function<bool(const BglSubRecord&)>;
 

@@ -6,9 +6,9 @@
 namespace orlo {
 
 constexpr double kFullTurn = 4294967296.0;  // of an angle or a longitude
-constexpr std::int32_t kHelipad = 4;        // the kind of a runway that is none
+constexpr std::int32_t kHelipad = 4;        // a runway's kind, for a helipad
 
-// The texts that the program makes of the numbers in an airport's body.
+// Texts made of the numbers in an airport's body.
 
 // A coordinate as letter, whole degrees, "*", whole minutes, ".", four digits and "'", all by truncation. A
 // latitude is stored in parts of a quadrant (10001750 of them), a longitude as a fraction of the circle.

@@ -9,8 +9,8 @@
 
 namespace orlo {
 
-// Reads little-endian values one after the other. A read that would go beyond the bytes gives 0 or an empty
-// text, and from then on every read does and Ok() is false; so a record is read whole and checked once.
+// Reads little-endian values one after the other. A read beyond the end gives 0 or an empty text; so does
+// every later read, and Ok() stays false. So a record is read whole and checked once.
 class ByteReader {
   public:
     explicit ByteReader(std::string_view bytes, std::uint64_t position = 0) : bytes_(bytes) {
@@ -59,7 +59,7 @@ class ByteReader {
     bool ok_ = true;
 };
 
-// The bytes up to the first 0, which is consumed with them. A text without an end is a read beyond the bytes.
+// The bytes up to the first 0, which is read too. Without a 0 it is a read beyond the end.
 inline std::string_view ReadZeroText(ByteReader& reader) {
     ByteReader ahead = reader;
     const std::string_view rest = ahead.Bytes(ahead.Left());

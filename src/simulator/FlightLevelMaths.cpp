@@ -21,8 +21,8 @@ const FlightLevelRule* FirstRule(const LevelRules& rules, Fits fits) {
     return nullptr;
 }
 
-// The rule that reaches highest among those that begin within the aircraft's reach, the first of equal ones;
-// null without one. The distance is of no account here.
+// The rule for the course that reaches highest among those that begin at or below the aircraft's highest
+// level, the first of equal ones; null without one. Distance doesn't count.
 const FlightLevelRule* HighestReachable(const LevelRules& rules, std::int32_t course, LevelLimits limits) {
     const FlightLevelRule* best = nullptr;
     for (const FlightLevelRule& rule : rules) {
@@ -33,7 +33,7 @@ const FlightLevelRule* HighestReachable(const LevelRules& rules, std::int32_t co
 }
 
 // The rule that serves the aircraft: `rule` where the aircraft reaches its top or begins inside its limits,
-// else the one that reaches highest. Where no rule begins within reach, `rule` stands.
+// else the highest reachable one, and `rule` again where there is none.
 const FlightLevelRule& ServingRule(const LevelRules& rules, const FlightLevelRule& rule, std::int32_t course,
                                    LevelLimits limits) {
     const bool topWithinReach = rule.LevelTo <= limits.MaxFL;
@@ -43,8 +43,8 @@ const FlightLevelRule& ServingRule(const LevelRules& rules, const FlightLevelRul
     return highest == nullptr ? rule : *highest;
 }
 
-// The lowest level of the rule's grid at or above the aircraft's minimum; LevelFrom where the grid does not
-// climb there.
+// The lowest level of the rule's grid at or above the aircraft's minimum; LevelFrom where its step doesn't
+// climb.
 std::int64_t LowestLevel(const FlightLevelRule& rule, LevelLimits limits) {
     const std::int64_t missing = std::int64_t{limits.MinFL} - rule.LevelFrom;
     if (missing <= 0 || rule.LevelStep <= 0) return rule.LevelFrom;

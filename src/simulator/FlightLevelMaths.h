@@ -12,8 +12,8 @@
 namespace orlo {
 
 // Levels are hundreds of feet, distances nautical miles, courses degrees. Flight rules are "IFR" or "VFR",
-// case aside; a VFR flight only meets rules whose distance range holds -1. Any rules and limits end the
-// search: no table of rules can keep it going.
+// case aside; for a VFR flight only rules whose distance range holds -1 count. The search ends with any rules
+// and limits.
 
 // What an aircraft can fly: MinFL and MaxFL of its FSAircraft.
 struct LevelLimits {
@@ -24,7 +24,7 @@ struct LevelLimits {
 };
 
 // The levels that suit a leg: Lower, then every Step up to Upper. With a Step of 0, or Upper not above Lower,
-// it is Lower alone. Wider than the rules' numbers, which are as hostile as their file.
+// it is Lower alone. 64 bits, since a file may hold any 32-bit numbers.
 struct LevelBand {
     std::int64_t Lower = 0;
     std::int64_t Upper = 0;
@@ -36,9 +36,9 @@ std::optional<LevelBand> FindLevelBand(const std::vector<FlightLevelRule>& rules
                                        std::string_view flightRules, std::int32_t distance,
                                        std::int32_t course, LevelLimits limits);
 
-// One level of the band as three digits, drawn from its grid so that both ends come half as often as the
-// others; "100" when no rule matches. Draws only where the grid has two levels or more. With `useText` it is
-// SuggestFlightLevelText, without a draw.
+// One level of the band as three digits, drawn so that the lowest and the highest come half as often as the
+// others; "100" when no rule matches. Draws only where the band has two levels or more. With `useText` the
+// result is that of SuggestFlightLevelText, without a draw.
 std::string SuggestFlightLevel(const std::vector<FlightLevelRule>& rules, std::string_view flightRules,
                                std::int32_t distance, std::int32_t course, LevelLimits limits, bool useText,
                                RandomSource& random);
@@ -52,7 +52,7 @@ struct LevelCheck {
     std::string Suggestion;  // the band as text; empty when the level is right
 };
 
-// Whether `level` is one of the band. Wrong when no rule matches.
+// Whether `level` is one of the band; wrong, with the suggestion "FL100", when no rule matches.
 LevelCheck CheckFlightLevel(const std::vector<FlightLevelRule>& rules, std::string_view flightRules,
                             std::int32_t distance, std::int32_t course, LevelLimits limits,
                             std::int32_t level);

@@ -20,7 +20,7 @@ std::int64_t MinutesOfArc(std::int32_t degrees, std::int32_t minutes) {
     return std::int64_t{degrees} * 60 + minutes;
 }
 
-// Whole minutes tell it exactly; the cosine of the angle between the two can come out a little beside 1.
+// Compares whole minutes, which is exact; the cosine of the angle between them may not come out as 1.
 bool AtOnePlace(const Position& a, const Position& b) {
     const std::int64_t east =
         MinutesOfArc(a.LonDegrees, a.LonMinutes) - MinutesOfArc(b.LonDegrees, b.LonMinutes);

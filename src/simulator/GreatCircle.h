@@ -8,8 +8,8 @@ namespace orlo {
 
 // Navigation on a spherical earth measured in minutes of arc: one minute is one nautical mile.
 
-// The angle in radians, 0 to pi, whose cosine is `x`. Nothing where the formula divides by zero or leaves the
-// real numbers: at 1 and -1, and beyond them.
+// The angle in radians, 0 to pi, whose cosine is `x`. Nothing at 1 and -1, where its formula divides by zero,
+// and beyond them.
 std::optional<double> ArcCos(double x);
 
 // A point in whole degrees and whole minutes; north and west are positive. Degrees and minutes bear the same
@@ -45,7 +45,7 @@ GreatCirclePoint PreparePoint(const Position& position);
 std::int32_t GreatCircleDistance(const GreatCirclePoint& from, const GreatCirclePoint& to);
 std::int32_t GreatCircleDistance(const Position& from, const Position& to);
 
-// Whole degrees, 0 to 359. -1 where there is no distance, and where the angle can't be found (from a pole, or
+// Whole degrees, 0 to 359. -1 where the distance is -1, and where the angle can't be found (from a pole, or
 // straight across one).
 std::int32_t GreatCircleCourse(const GreatCirclePoint& from, const GreatCirclePoint& to);
 std::int32_t GreatCircleCourse(const Position& from, const Position& to);

@@ -10,7 +10,7 @@ namespace orlo {
 MatchedAircraft::MatchedAircraft(const Plan& plan, const Fleet& fleet) : plan_(plan), fleet_(fleet) {
     const TitleIndex titles(fleet.FSAircrafts);
     places_.reserve(plan.PlanAircrafts.size());
-    // Room for all at once: numbers that differ in case alone stay in their order, so that the first is
+    // Room for all at once, so that numbers that differ in case alone stay in their order and the first is
     // found.
     installed_.Reserve(plan.PlanAircrafts.size());
     for (const PlanAircraft& aircraft : plan.PlanAircrafts) {

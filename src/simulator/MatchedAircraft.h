@@ -9,9 +9,8 @@
 
 namespace orlo {
 
-// A plan's aircraft joined to the installed ones: each to the first of its title, case aside. Numbers and
-// aircraft are lent by plan and fleet, which must not change meanwhile. Lives for one operation, which builds
-// it anew.
+// A plan's aircraft joined to the installed ones: each to the first of its title, case aside. Plan and fleet
+// must not change while it lives. Built anew for each operation.
 class MatchedAircraft {
   public:
     MatchedAircraft(const Plan& plan, const Fleet& fleet);
@@ -20,8 +19,8 @@ class MatchedAircraft {
     const std::vector<std::int32_t>& Places() const { return places_; }
     bool AllInstalled() const;
 
-    // The place of the first plan aircraft of that number whose title is installed, with the number compared
-    // exactly or without regard to case; -1 without one.
+    // The place in FSAircrafts of the first plan aircraft of that number whose title is installed; -1 without
+    // one. Place compares the number exactly, PlaceNoCase without regard to case.
     std::int32_t Place(std::string_view acNumber) const;
     std::int32_t PlaceNoCase(std::string_view acNumber) const;
 

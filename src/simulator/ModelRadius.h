@@ -18,8 +18,8 @@ struct ModelRadius {
 // Position of the radius in a model of format 1 to 3; 0 for any other.
 std::uint64_t ModelRadiusPosition(std::int32_t format);
 
-// The model of an aircraft's folder that the `model` value of a section names; an empty name is the folder's
-// plain model.
+// Reads the model that the `model` value of a section names; with an empty name, that of the plain folder
+// "model".
 ModelRadius ReadModelRadius(FileSystem& files, const std::string& folder, std::string_view modelName);
 
 }  // namespace orlo

@@ -27,7 +27,7 @@ std::optional<Position> SceneryPosition(const std::vector<AirportRecord>& airpor
     return Position{};
 }
 
-// The speed is taken as it is, so that one below 1 gives the time of legs of unknown length.
+// A speed below 1 is allowed here and gives the time of legs of unknown length.
 std::string ArrivalText(std::int32_t distance, std::string_view departureText, bool weekly,
                         std::int32_t speed) {
     const SplitTime split = weekly ? SplitDayPrefix(departureText) : SplitTime{{}, departureText};

@@ -19,17 +19,17 @@ class PlanPositions {
     // Place of a code in PlanAirports, case aside; -1 when it isn't there.
     std::int32_t Place(std::string_view code) const;
 
-    // Between two places. -1 when either is out of range (as -1 is) or has no readable position, and when
-    // both lie at one position, so also for a place and itself.
+    // Between two places. -1 when either is out of range (-1 too) or has no readable position, and when both
+    // lie at one position or at opposite ends of the earth.
     std::int32_t Distance(std::int32_t fromPlace, std::int32_t toPlace) const;  // nautical miles
     std::int32_t Course(std::int32_t fromPlace, std::int32_t toPlace) const;    // degrees, 0 to 359
 
-    // An end of a leg, its code looked up. `Place` may come from a memo of Place(Code).
+    // An end of a leg. `Place` is that of the code, as Place(Code) gives it.
     struct End {
         std::string_view Code;
         std::int32_t Place = -1;
     };
-    // Distance and course between two ends, as the two questions below answer.
+    // Distance and course between two ends, as by the two functions below.
     RouteMeasure Measure(const End& from, const End& to) const;
 
     // Between two codes. Equal codes, compared exactly, have the distance 0 and the course -1, whether they

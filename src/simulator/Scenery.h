@@ -9,7 +9,7 @@
 
 namespace orlo {
 
-// In the program folder. Only its deletion forces a new read of the simulator's scenery.
+// In the program folder. Deleting it forces a new read of the simulator's scenery.
 inline constexpr std::string_view kAFDCacheName = "AFDCache.dat";
 
 // The folder of the scenery files below the simulator's.
@@ -17,9 +17,9 @@ std::string SceneryFolder(const std::string& simulatorFolder);
 // Names of the files in it that may hold airport data: those longer than 3 characters that end in "BGL".
 std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& sceneryFolder);
 
-// Fills session.scenery.Airports from the cache or, where that is missing, of another version or damaged,
-// from the simulator's scenery, and then writes the cache. Airports already in memory stay. False when there
-// are none afterwards; no cache is written then. An unknown simulator is told to the user.
+// Fills session.scenery.Airports, unless it is filled, from the cache; where that is missing, of another
+// version or damaged, from the simulator's scenery, and then writes the cache. False, with no cache written,
+// when there are no airports afterwards. An unknown simulator is told to the user.
 bool ReadScenery(Session& session, Services& services);
 
 }  // namespace orlo

@@ -33,7 +33,7 @@ std::optional<ZoneShift> ParseZone(std::string_view zone, bool invert) {
     if (rest.empty()) return std::nullopt;
     ZoneShift shift;
     shift.backward = (rest.front() == '-') != invert;
-    // The first character is a sign by its place, whatever it is.
+    // The first character is taken for the sign, whatever it is.
     rest.remove_prefix(1);
     const std::size_t colon = rest.find(':');
     if (colon == std::string_view::npos) return std::nullopt;

@@ -11,8 +11,8 @@ namespace orlo {
 // shifts nothing. A time that can't be read comes back as it was.
 std::string ConvertZone(std::string_view time, std::string_view zone, bool invert);
 
-// The same; a label " (Sunday)" to " (Saturday)" goes to the day before or behind when the shift crosses
-// midnight. Any other label stays.
+// The same; where the shift crosses midnight, a label " (Sunday)" to " (Saturday)" becomes that of the day
+// before or after. Any other label stays.
 std::string ConvertZoneWeekday(std::string_view time, std::string_view zone, std::string& weekdayLabel,
                                bool invert);
 
@@ -20,7 +20,7 @@ std::string ConvertZoneWeekday(std::string_view time, std::string_view zone, std
 std::string ConvertZoneWeek(std::string_view time, std::string_view zone, std::string& dayPrefix,
                             bool invert);
 
-// The same of a flight's stored time, with its day prefix, where it has one, in front and rolled over.
+// The same for a time as a flight stores it; a day prefix stays in front and changes across midnight.
 std::string ConvertTimeText(std::string_view time, std::string_view zone, bool invert);
 
 }  // namespace orlo

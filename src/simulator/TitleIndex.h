@@ -10,7 +10,7 @@
 
 namespace orlo {
 
-// Where the installed aircraft stand, by title without regard to case. Titles are lent by the records, which
+// The places of the installed aircraft, by title without regard to case. The records lend their titles and
 // must outlive the index unchanged. Built once per operation.
 class TitleIndex {
   public:

@@ -20,7 +20,7 @@ std::string FoldedFileName(std::string_view name) {
     std::string single = FromScreen(name);
     const bool isUtf8 = ToScreen(name) == name;
     if (!isUtf8 || single != name) return UpperText(single);
-    // Bytes inside a longer character are no letters.
+    // The bytes of a longer character are no letters.
     for (char& character : single) {
         if (static_cast<unsigned char>(character) < 0x80) character = UpperChar(character);
     }

@@ -70,8 +70,8 @@ class PieceWriter {
 };
 
 // Written beside its target and renamed over it. The data are not forced to the disk before the rename: a
-// kill or a full disk can't hurt the old file either way, what a network reports late it reports at the
-// close, and waiting for the disk once a file would stretch a run over thousands of small files to minutes.
+// kill or a full disk can't hurt the old file anyway, a network disk reports late errors at the close, and
+// waiting for the disk at each of thousands of small files would take minutes.
 template <typename Handle>
 class BesideFile : public OutputFile {
   public:
@@ -93,7 +93,7 @@ class BesideFile : public OutputFile {
     }
 
   private:
-    // An open file can't be removed on every system.
+    // Closes first: some systems can't remove an open file.
     void Discard() {
         writer_.Abandon();
         if (!temporary_.empty()) Handle::Remove(temporary_);
@@ -127,12 +127,12 @@ class OverwrittenFile : public OutputFile {
     }
 
   private:
-    // A full disk shows before a byte of the old file is touched.
+    // So that a full disk shows before a byte of the old file is touched.
     bool TakeRoomForAll() {
         const auto old = SizeOf(file_);
         if (!old) return false;
         if (bytes_.size() <= *old || TakeRoom(file_, *old, bytes_.size())) return true;
-        // What a failed try added goes again; should that fail too, zero bytes stand behind the old file.
+        // Cuts off what the failed try added; should that fail too, zero bytes stand behind the old file.
         SetSize(file_, *old);
         return false;
     }
@@ -156,7 +156,7 @@ class InPlaceFile : public OutputFile {
     PieceWriter<Handle> writer_;
 };
 
-// The rest of `from`. False when it can't be read or written to its end.
+// Copies the rest of `from`. False when it can't be read or written to its end.
 template <typename Handle>
 bool CopyBytes(const Handle& from, OutputFile& to) {
     std::vector<char> buffer(std::size_t{256} * 1024);

@@ -15,7 +15,8 @@ bool IsCopy(FileSystem& files, const std::string& source, const std::string& tar
            ReadWholeFile(files, source) == ReadWholeFile(files, target);
 }
 
-// Makes what is in `from` the same in `to`; what else is there stays. False at the first entry that failed.
+// Copies everything in `from` over that in `to`; what else is in `to` stays. Stops at the first entry that
+// fails and gives false.
 bool CopyFolder(FileSystem& files, const std::string& from, const std::string& to, int depth) {
     if (depth > kDeepestFolder || !files.CreateFolders(to)) return false;
     for (const FolderEntry& entry : files.ListFolder(from)) {
@@ -34,7 +35,7 @@ bool FillUserFolder(FileSystem& files, const std::string& share, const std::stri
     return CopyFolder(files, share, partial, 0) && RenameFolder(partial, userFolder);
 }
 
-// The manual belongs to the program and follows its updates. Where it can't be written the old one stands.
+// The manual belongs to the program and follows its updates. Where it can't be written, the old one stays.
 void RenewHelp(FileSystem& files, const std::string& share, const std::string& userFolder) {
     const std::string help = JoinPath(share, "Help");
     if (files.FolderExists(help)) CopyFolder(files, help, JoinPath(userFolder, "Help"), 0);
@@ -42,7 +43,7 @@ void RenewHelp(FileSystem& files, const std::string& share, const std::string& u
 
 std::string UserProgramFolder(FileSystem& files, const std::string& share, const std::string& userFolder) {
     if (userFolder.empty()) return {};
-    // A folder "share" of others is not ours to copy.
+    // A folder "share" without the rule files belongs to others and is not copied.
     const bool hasShare = !share.empty() && files.FileExists(JoinPath(share, kRuleFile));
     if (files.FolderExists(userFolder)) {
         if (hasShare) RenewHelp(files, share, userFolder);

@@ -6,18 +6,17 @@
 
 namespace orlo {
 
-// The folder that holds the rule files, the cache and the logs.
-// A program that is installed, with a folder "share/orlo" beside its executable's folder, has `userFolder`,
-// even where it might write to its own: root can write to the folder of all programs. Any other, a portable
-// one or one in a build's folder, has its executable's own folder where the user may write there, else
-// `userFolder`. A `userFolder` that does not exist yet is made and filled with a copy of "share/orlo", or, in
-// a checkout, of "share", where that holds the rule files; it appears only when the copy is complete. In one
-// that exists the pages of "Help" that differ from those there are replaced; nothing else in it is touched.
-// Empty when there is no folder.
+// The folder that holds the rule files, the scenery cache and the manual. For an installed program, which has
+// a folder "share/orlo" beside its executable's folder, it is `userFolder`, even where the executable's
+// folder can be written: root can write to the folder of all programs. For any other, portable or in a
+// build's folder, it is the executable's folder where the user may write there, else `userFolder`. A missing
+// `userFolder` is made as a copy of "share/orlo" or, in a checkout, of "share", where that holds the rule
+// files; it appears only when the copy is complete. In an existing one the pages of "Help" that differ from
+// those of the share are replaced; nothing else is touched. Empty when there is no folder.
 std::string FindProgramFolder(FileSystem& files, const std::string& executablePath,
                               const std::string& userFolder);
 
-// What the system has to offer for it.
+// What FindProgramFolder needs of the system, which each system defines.
 bool CanWriteIn(const std::string& folder);
 bool RenameFolder(const std::string& from, const std::string& to);
 

@@ -7,7 +7,7 @@
 namespace orlo {
 
 InitialisationFile ReadSettingsText(std::string_view text) {
-    // A second mark would be the first one once the text is written.
+    // All byte order marks go: behind the first, a second one would be the first of the text that is written.
     while (WithoutByteOrderMark(text).size() != text.size()) text = WithoutByteOrderMark(text);
     std::string lines;
     lines.reserve(text.size() + 2);

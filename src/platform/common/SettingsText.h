@@ -12,7 +12,7 @@ inline constexpr InitialisationDialect kSettingsDialect{.remarks = ";#",
                                                         .quotes = InitialisationDialect::Quotes::Escaped,
                                                         .joined = true};
 
-// The settings of a text, all of whose lines end in CR LF then.
+// Reads the text. In the result all lines end in CR LF.
 InitialisationFile ReadSettingsText(std::string_view text);
 
 }  // namespace orlo

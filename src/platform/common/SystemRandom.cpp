@@ -14,7 +14,8 @@ SystemRandom::SystemRandom(std::optional<std::uint64_t> fixedSeed) : fixedSeed_(
     SeedFromClock();
 }
 
-// The distributions of the standard library differ from one library to the next; the generator does not.
+// Not by a distribution of the standard library: these differ from one library to the next, the generator
+// does not.
 double SystemRandom::Next() {
     return static_cast<double>(generator_() >> kUnusedBits) * kStep;
 }

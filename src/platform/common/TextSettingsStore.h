@@ -18,7 +18,7 @@ class TextSettingsStore : public SettingsStore {
     std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override;
     // False for a key path that holds a line end or a zero byte.
     bool Set(std::string_view keyPath, std::string_view name, std::string_view value) override;
-    // False also when the file stood there and could not be read: it is not replaced by what is known.
+    // False also when the file exists but could not be read: it is not replaced then.
     bool Flush() override;
 
   private:

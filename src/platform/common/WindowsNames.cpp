@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kSeparators = "\\/";
 constexpr std::array<std::string_view, 6> kDevices = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
 constexpr std::array<std::string_view, 2> kPorts = {"COM", "LPT"};
-// Raised digits name ports too; as code page 1252 and as UTF-8.
+// The raised digits 1 to 3 name ports too; in code page 1252 and in UTF-8.
 constexpr std::array<std::string_view, 6> kRaised = {"\xB9",     "\xB2",     "\xB3",
                                                      "\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};
 constexpr std::array<std::string_view, 2> kServices = {"pipe", "mailslot"};
@@ -26,7 +26,7 @@ bool IsPortNumber(std::string_view text) {
     return std::find(kRaised.begin(), kRaised.end(), text) != kRaised.end();
 }
 
-// A device's name stays one with any extension and with blanks behind it.
+// With an extension, or blanks behind it, a device's name still names the device.
 bool IsDevice(std::string_view name) {
     const std::string_view base = WithoutBlanksBehind(BeforeFirst(name, "."));
     const auto isBase = [&](std::string_view device) { return EqualNoCase(base, device); };
@@ -52,7 +52,7 @@ bool HasDrive(std::string_view path) {
     return path.size() >= 2 && path[1] == ':' && UpperChar(path[0]) >= 'A' && UpperChar(path[0]) <= 'Z';
 }
 
-// Takes the part in front of the next separators off `path`, and them with it.
+// Takes the part in front of the next separators, and these separators, off `path`; gives the part.
 std::string_view TakePart(std::string_view& path) {
     const std::size_t end = std::min(path.find_first_of(kSeparators), path.size());
     const std::string_view part = path.substr(0, end);
@@ -61,7 +61,7 @@ std::string_view TakePart(std::string_view& path) {
     return part;
 }
 
-// Takes "\\server\share\" off; false where that is no share of files.
+// Takes "\\server\share\" off `path`; false where that is no share of files.
 bool TakeShare(std::string_view& path) {
     path.remove_prefix(2);
     const std::string_view server = TakePart(path);

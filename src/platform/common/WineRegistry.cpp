@@ -155,7 +155,7 @@ bool TakeIf(std::string_view& text, std::string_view beginning) {
     return true;
 }
 
-// The kind in "str(2):" or "hex(1):" behind the bracket, with what closes it.
+// The number in "str(2):" or "hex(1):" from behind the opening bracket; takes "):" too.
 std::optional<std::uint32_t> TakeKind(std::string_view& text) {
     std::uint32_t kind = 0;
     int digits = 0;
@@ -170,7 +170,7 @@ std::optional<std::uint32_t> TakeKind(std::string_view& text) {
     return kind;
 }
 
-// Two hexadecimal digits and the comma behind them.
+// Takes two hexadecimal digits and the comma behind them.
 std::optional<std::uint32_t> TakeHexByte(std::string_view& text) {
     if (text.size() < 2) return std::nullopt;
     const auto high = HexDigit(text[0]);

@@ -17,7 +17,7 @@ class LargePageResource : public std::pmr::memory_resource {
     }
     static bool IsLarge(std::size_t bytes) { return bytes >= kLargePage; }
 
-    // Maps one page more than wanted and gives back what stands outside the aligned block.
+    // Maps one large page more than wanted and gives back what lies outside the aligned block.
     static void* MapLarge(std::size_t size) {
         void* mapped =
             mmap(nullptr, size + kLargePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -54,7 +54,7 @@ class LargePageResource : public std::pmr::memory_resource {
 }  // namespace
 
 std::pmr::memory_resource& LargePageMemory() {
-    // Never destroyed: lists that live in statics of others may still hold memory at the very end.
+    // Never destroyed: lists in static variables may still hold memory at the very end.
     static auto* const resource = new LargePageResource;
     return *resource;
 }

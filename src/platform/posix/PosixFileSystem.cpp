@@ -40,7 +40,7 @@ std::optional<struct stat> FactsOf(const std::string& path) {
     return facts;
 }
 
-// The permissions of a copy. A program stays one, and a copy can always be replaced by the next copy.
+// The permissions of a copy: the source's, and the owner may write, so that the next copy can replace it.
 mode_t CopyMode(const struct stat& source) {
     return (source.st_mode & 0777) | S_IWUSR;
 }

@@ -44,8 +44,8 @@ void PosixHandle::Remove(const std::string& path) {
 
 PosixHandle OpenRegular(const std::string& path, int flags, mode_t mode) {
     struct stat facts {};
-    // Opening a device can already do something to it, so what stands there is looked at first, and again
-    // once it is open in case it was exchanged.
+    // Opening a device can already do something to it, so the path is looked at first; and again once it is
+    // open, in case it was exchanged.
     if (stat(path.c_str(), &facts) == 0 && !S_ISREG(facts.st_mode)) return {};
     int descriptor = -1;
     do {
@@ -86,7 +86,7 @@ bool SetSize(const PosixHandle& file, std::uint64_t size) {
     return ftruncate(file.Descriptor(), static_cast<off_t>(size)) == 0;
 }
 
-// Not every disk can set room aside; it then shows at the write that it is full.
+// Not every disk can set room aside; on such a one the write shows that the disk is full.
 bool TakeRoom(const PosixHandle& file, std::uint64_t from, std::uint64_t to) {
     const int fault =
         posix_fallocate(file.Descriptor(), static_cast<off_t>(from), static_cast<off_t>(to - from));

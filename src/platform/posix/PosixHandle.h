@@ -37,11 +37,11 @@ class PosixHandle {
     int descriptor_ = -1;
 };
 
-// Opens without waiting for the other end of a pipe. Not open when that fails or when what stands there is no
-// regular file. `flags` are those of open(); `mode` is that of a file that is created.
+// Opens without waiting for the other end of a pipe. Not open when that fails or the path is no regular file.
+// `flags` are those of open(); `mode` is for a file that is created.
 PosixHandle OpenRegular(const std::string& path, int flags, mode_t mode = 0);
 
-// All bytes at the present place of the file; false when the system took only a part of them.
+// Writes all bytes at the present place of the file; false when the system took only a part of them.
 bool WriteAll(const PosixHandle& file, std::string_view bytes);
 
 // Bytes read into the front of `buffer`; 0 at the end; negative after a failure.

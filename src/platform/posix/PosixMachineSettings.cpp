@@ -12,7 +12,7 @@
 namespace orlo {
 namespace {
 
-// The path without links; empty where nothing stands.
+// The path without links; empty where nothing is.
 std::string RealPath(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
     return real ? std::string(real.get()) : std::string();
@@ -46,8 +46,8 @@ std::optional<std::string> PosixMachineSettings::FindInWine(std::string_view key
     return SystemPath(*value);
 }
 
-// A value that names a place on a drive as the system's path to it; any other as it is, and so is one on a
-// drive that the prefix doesn't have.
+// The system's path for a value such as "C:\folder". Any other value, and one on a drive that the prefix
+// doesn't have, comes back as it is.
 std::string PosixMachineSettings::SystemPath(const std::string& value) {
     const auto parts = SplitDrivePath(value);
     if (!parts) return value;

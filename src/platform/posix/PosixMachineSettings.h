@@ -12,16 +12,16 @@ namespace orlo {
 
 inline constexpr std::string_view kMachineSettingsPath = "/etc/orlo/machine.txt";
 
-// The machine-wide settings. A value comes from the first place that has it: a simulator's folder that was
-// given, the machine file (text form of TextSettingsStore), the registry of the user's Wine prefix. Paths
-// from there are given as the system's paths. Each value is looked up once.
+// The machine-wide settings. A value comes from the first place that has it: SetSimulator, the machine file
+// (text form of TextSettingsStore), the registry of the user's Wine prefix, whose paths are given as the
+// system's. Each value is looked up once.
 class PosixMachineSettings : public SettingsStore {
   public:
-    // `winePrefix` is the prefix's folder, as from WinePrefixFolder(); an empty one, as an empty
-    // `machineFile`, is no place to look.
+    // `winePrefix` is the prefix's folder, as from WinePrefixFolder(); where it, or `machineFile`, is empty,
+    // that place is passed over.
     PosixMachineSettings(FileSystem& files, std::string machineFile, std::string winePrefix);
 
-    // Answers for the simulator's value before all else; an empty text takes that back.
+    // The simulator's folder, whatever the other places have; an empty text takes that back.
     void SetSimulator(std::string folder) { simulator_ = std::move(folder); }
 
     std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override;

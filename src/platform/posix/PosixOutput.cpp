@@ -26,13 +26,13 @@ std::optional<struct stat> FactsOfTarget(const std::string& path) {
     return facts;
 }
 
-// An administrator may write everything; a file that nobody may write is read-only to him too.
+// A file that nobody may write is read-only for root too, who could write it.
 bool IsReadOnly(const std::string& path, const struct stat& facts) {
     return (facts.st_mode & kAnyoneWrites) == 0 || faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0;
 }
 
-// Gives a new file the owner and the permissions of the one that it is to replace. Only an administrator can
-// give a file away; without that the new file is the user's own.
+// Gives a new file the owner and the permissions of the one that it is to replace. Only root can give a file
+// away; otherwise the new file stays the user's own.
 bool TakeOver(const PosixHandle& file, const struct stat& old) {
     [[maybe_unused]] const int group = fchown(file.Descriptor(), static_cast<uid_t>(-1), old.st_gid);
     [[maybe_unused]] const int owner = fchown(file.Descriptor(), old.st_uid, static_cast<gid_t>(-1));

@@ -36,7 +36,7 @@ std::string UserDataFolder() {
     return status == S_OK ? JoinPath(PlainPath(folder.get()), kOwnName) : std::string();
 }
 
-// Only a try tells: permissions, a read-only disk and an installer's folder all have their say.
+// Only a try tells, since permissions, a read-only disk or protected folders can forbid it.
 bool CanWriteIn(const std::string& folder) {
     const std::string path = JoinPath(folder, Concat(".orlo-", GetCurrentProcessId(), ".try"));
     WindowsHandle file = OpenOnDisk(path, OpenFor::Making);

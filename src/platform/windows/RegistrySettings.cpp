@@ -33,8 +33,8 @@ class RegistryKey {
     HKEY key_ = nullptr;
 };
 
-// A text ends at its first zero, or at its end where it was stored without one. Variables of the environment
-// in an expandable text come out replaced.
+// A text ends at its first zero, or at its end where it was stored without one. In an expandable text,
+// variables of the environment are replaced.
 std::optional<std::string> RegistryKey::ReadText(std::string_view name) const {
     const std::wstring wideName = WideText(name);
     std::wstring text(MAX_PATH, L'\0');

@@ -9,13 +9,13 @@
 
 namespace orlo {
 
-// The user's settings in the registry, below HKEY_CURRENT_USER. Values are texts there; a text is UTF-8 on
-// this side. A key that is read is made where it is missing. What is set reaches the registry by Flush.
+// The user's settings in the registry, below HKEY_CURRENT_USER. Values are texts, UTF-8 inside the program.
+// Reading a missing key makes it. What is set goes to the registry with Flush.
 class RegistrySettings : public SettingsStore {
   public:
     std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override;
     bool Set(std::string_view keyPath, std::string_view name, std::string_view value) override;
-    // False when a value could not be written; the others are, and it stays as it was.
+    // False when a value could not be written; it stays as it was, and the others are written.
     bool Flush() override;
 
   private:
@@ -30,7 +30,7 @@ class RegistrySettings : public SettingsStore {
 // The machine-wide settings: the view that 32-bit programs have of HKEY_LOCAL_MACHINE. Nothing is made there.
 class MachineRegistrySettings : public SettingsStore {
   public:
-    // `simulator`, where it is not empty, answers for the simulator's value before all else.
+    // `simulator`, unless it is empty, is given as the simulator's folder whatever the registry has.
     explicit MachineRegistrySettings(std::string simulator) : simulator_(std::move(simulator)) {}
 
     std::optional<std::string> Get(std::string_view keyPath, std::string_view name) override;

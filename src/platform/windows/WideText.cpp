@@ -36,7 +36,7 @@ std::wstring FullWidePath(const std::string& path) {
         full.resize(length);
         if (length == 0 || fits) break;
     }
-    // A blank or a dot is dropped at the end of a name, and a device could come to light.
+    // Checked again: the system drops blanks and dots at the end of a name, which may leave that of a device.
     return IsDiskPath(NarrowText(full)) ? full : std::wstring();
 }
 

@@ -18,8 +18,8 @@ std::string PlainPath(std::wstring_view path);
 // The full path; empty when it is no path of a disk (see IsDiskPath).
 std::string FullPath(const std::string& path);
 
-// The full path in the form that the system takes at any length and without a look at devices; empty when it
-// is no path of a disk.
+// The full path in the form that the system takes at any length and never as a device; empty when it is no
+// path of a disk.
 std::wstring SystemPath(const std::string& path);
 
 }  // namespace orlo

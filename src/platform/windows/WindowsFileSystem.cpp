@@ -37,7 +37,7 @@ Facts FactsIn(const Data& data) {
             (std::uint64_t{data.nFileSizeHigh} << 32) + data.nFileSizeLow};
 }
 
-// Of what a link leads to.
+// The facts of what a link leads to.
 std::optional<Facts> FactsBehindLink(const std::wstring& systemPath) {
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE opened = CreateFileW(systemPath.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,

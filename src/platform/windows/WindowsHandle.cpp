@@ -32,14 +32,14 @@ DWORD DispositionFor(OpenFor purpose) {
     return OPEN_EXISTING;
 }
 
-// An administrator may get past the attribute, and no file is to be written so.
+// An administrator might write in spite of the attribute; that is refused.
 bool IsReadOnly(HANDLE file) {
     BY_HANDLE_FILE_INFORMATION facts{};
     return GetFileInformationByHandle(file, &facts) == 0 ||
            (facts.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
-// A file that is replaced hands its permissions and attributes on; not every disk can do that.
+// A replaced file hands its permissions and attributes on, where the disk can do that.
 bool RenameOnce(const std::wstring& from, const std::wstring& to) {
     constexpr DWORD kRules = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
     return ReplaceFileW(to.c_str(), from.c_str(), nullptr, kRules, nullptr, nullptr) != 0 ||
@@ -120,7 +120,7 @@ bool SetSize(const WindowsHandle& file, std::uint64_t size) {
     return SetFileInformationByHandle(file.Value(), FileEndOfFileInfo, &end, sizeof end) != 0;
 }
 
-// A disk of this system takes room when a file's end moves.
+// This system's disks set room aside when a file's end moves.
 bool TakeRoom(const WindowsHandle& file, std::uint64_t, std::uint64_t to) {
     return SetSize(file, to);
 }

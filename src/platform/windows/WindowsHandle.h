@@ -39,9 +39,8 @@ enum class OpenFor {
     Truncating  // of a file that is made or emptied
 };
 
-// Not open when that fails, when what stands there is no file of a disk, or when it is read-only and is to be
-// written. Others may read, write and rename
-// the file meanwhile.
+// Not open when that fails, when the path is no file of a disk, or when a read-only file is to be written.
+// Others may read, write and rename the file meanwhile.
 WindowsHandle OpenOnDisk(const std::string& path, OpenFor purpose);
 
 // See common/OutputFiles.h.

@@ -7,8 +7,8 @@
 
 namespace orlo {
 
-// See FileSystem::Resolve. The system finds names without regard to case by itself; this tells how they are
-// spelled, short names in their long form. A component that is missing ends the look-up.
+// See FileSystem::Resolve. The system itself finds names without regard to case; this gives their spelling,
+// short names in their long form. A component that is missing ends the look-up.
 std::string ResolveNames(const std::string& path);
 
 // See FileSystem::ListFolder. Links to folders are folders.

@@ -7,8 +7,8 @@
 
 namespace orlo {
 
-// See FileSystem::CreateReplacing. `path` is resolved, so that the file keeps its spelling. A link that leads
-// nowhere is refused.
+// See FileSystem::CreateReplacing. `path` is resolved, so that the file keeps its spelling. Null for a link
+// that leads nowhere.
 std::unique_ptr<OutputFile> OpenReplacing(const std::string& path);
 
 // See FileSystem::CreateInPlace. Destroyed without a Commit, it still writes what it was given.

@@ -17,7 +17,7 @@
 namespace orlo {
 namespace {
 
-// The encodings of a console while it is UTF-8, which it otherwise keeps when the program has ended.
+// Sets a console to UTF-8, and at the end to its old encodings: it keeps what a program has set.
 class ConsoleEncodings {
   public:
     ConsoleEncodings() : input_(GetConsoleCP()), output_(GetConsoleOutputCP()) {
@@ -69,7 +69,7 @@ bool ErrorsAreOnTerminal() {
     return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
 }
 
-// The words that main gets have lost what the system's own code page lacks.
+// Not the words that main gets: those lack all characters outside the system's code page.
 std::vector<std::string> ProgramArguments(int, char**) {
     int count = 0;
     const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(CommandLineToArgvW(GetCommandLineW(), &count),
