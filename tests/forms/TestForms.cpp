@@ -5,6 +5,7 @@
 
 #include "core/Text.h"
 #include "forms/Forms.h"
+#include "support/LayoutFaults.h"
 
 namespace orlo {
 namespace {
@@ -83,6 +84,14 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
             const bool sameScope = bothOrNone && MnemonicScope(*other) == MnemonicScope(*mine);
             EXPECT_FALSE(sameScope || (!isEntry && IsMenuBarEntry(*other))) << name << " and " << other->name;
         }
+    }
+}
+
+TEST(Forms, TheRowsOfADialogNameEachControlOnceInTheOrderOfTheTabKey) {
+    const Forms forms;
+    for (const Form* form : AllForms(forms)) {
+        if (form == &forms.frmMain) continue;  // it has boxes
+        EXPECT_EQ(test::LayoutFaults(*form), "");
     }
 }
 
