@@ -63,10 +63,8 @@ void FormWindow::Build() {
         PlaceControls();
         return;
     }
-    LayOut(*form_, *this, menus_->Bar(), [this](const Control& control) -> QWidget* {
-        const auto found = byControl_.find(&control);
-        return found == byControl_.end() ? nullptr : &found->second->Widget();
-    });
+    LayOut(*form_, *this, menus_->Bar(),
+           [this](const Control& control) -> QWidget& { return byControl_.at(&control)->Widget(); });
 }
 
 // The boxes of such a form say where its controls stand; any other is laid out by the toolkit.

@@ -11,6 +11,8 @@ struct AboutForm : Form {
     AboutForm() : Form("frmAbout", Concat("About ", kApplicationTitle)) {
         defaultButton = &cmdOK;
         cancelButton = &cmdOK;
+        fixedSize = true;
+        layout.rows = {TitleRow(lblTitle), WideRow(lblVersion), RightRow({cmdOK, cmdSysInfo})};
     }
 
     Label lblTitle{*this, "lblTitle", kApplicationTitle};

@@ -34,6 +34,20 @@ FlightEditForm::FlightEditForm() : Form("frmFlightEdit", "Flight Editor") {
     lvLegs.accessibleName = "Legs";
     defaultButton = &cmdOK;
     cancelButton = &cmdCancel;
+    layout.columns = 3;
+    layout.rows = {
+        WideRow(cmAircraft),
+        FieldRow({txtReg, txtPercent, cmPeriod}),
+        FieldRow({Holding(frFlightType, {{LeftRow({opIFR, opVFR})}}), cmZone}),
+        FillingRow(lvLegs),
+        RightRow({cmdAdd, cmdDelete}),
+        WideRow(Holding(frLeg,
+                        {{FieldRow({cmDeparture, cmArrival, cmDay}), FieldRow({txtTime, txtETA, ckFixedETA}),
+                          FieldRow({txtLevel, txtNumber, ckUseNumber})},
+                         3})),
+        LeftRow({ckAircraftRange, ckFlightLevel, ckFlightTimes}),
+        RightRow({cmdOK, cmdCancel, cmdUndo, cmdPrint}),
+    };
 }
 
 }  // namespace orlo

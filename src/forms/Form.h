@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/Layout.h"
 
 namespace orlo {
 
@@ -58,7 +59,9 @@ struct Form {
     std::int32_t opacity = 255;    // 0 to 255
     bool systemMenuAbout = false;  // the window's system menu has an entry "About"
     bool frameless = false;        // a picture on the screen, without title and border
+    bool fixedSize = false;        // as large as its layout needs, and no larger
     bool takesFiles = false;       // a file may be dropped on the window
+    Layout layout;                 // of a dialog; one without rows has boxes
     Button* defaultButton = nullptr;
     Button* cancelButton = nullptr;
     int frozen = 0;             // above 0 nothing is drawn

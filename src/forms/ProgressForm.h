@@ -7,7 +7,10 @@ namespace orlo {
 
 // The display of a long operation; the user can't close it.
 struct ProgressForm : Form {
-    ProgressForm() : Form("frmProgress", kApplicationTitle) { lblProgress.plainCaption = true; }
+    ProgressForm() : Form("frmProgress", kApplicationTitle) {
+        lblProgress.plainCaption = true;
+        layout.rows = {WideRow(lblProgress), WideRow(pbProgress)};
+    }
 
     Label lblProgress{*this, "lblProgress", ""};
     ProgressBar pbProgress{*this, "pbProgress"};

@@ -10,6 +10,7 @@ struct SplashForm : Form {
         picSplash.accessibleName = kApplicationTitle;
         picSplash.emblem = true;
         frameless = true;
+        layout.rows = {FillingRow(picSplash)};
     }
 
     Picture picSplash{*this, "picSplash"};

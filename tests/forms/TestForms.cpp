@@ -6,6 +6,7 @@
 #include "core/Text.h"
 #include "shell/FormFacts.h"
 #include "support/FakeProgram.h"
+#include "support/LayoutFaults.h"
 
 namespace orlo {
 namespace {
@@ -86,6 +87,14 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
             const bool sameScope = bothOrNone && MnemonicScope(*other) == MnemonicScope(*mine);
             EXPECT_FALSE(sameScope || (!isEntry && IsMenuBarEntry(*other))) << name << " and " << other->name;
         }
+    }
+}
+
+TEST(Forms, TheRowsOfADialogNameEachControlOnceInTheOrderOfTheTabKey) {
+    Forms forms;
+    for (const Form* form : FormsOf(forms)) {
+        if (form == &forms.frmMain) continue;  // it has boxes
+        EXPECT_EQ(test::LayoutFaults(*form), "");
     }
 }
 

@@ -40,6 +40,14 @@ struct SampleForm : Form {
         mnuSelect.popup = true;
         defaultButton = &cmdGo;
         cancelButton = &cmdStop;
+        layout.rows = {
+            WideRow(tabViews),          FieldRow({txtName}),
+            FieldRow({txtOther}),       FillingRow(txtNotes),
+            FieldRow({cmZone}),         FieldRow({cmFree}),
+            FieldRow({ckSwitch}),       FieldRow({Holding(frChoice, {{LeftRow({opFirst, opSecond})}})}),
+            FillingRow(lvRows),         FillingRow(tvNodes),
+            RightRow({cmdGo, cmdStop}), WideRow(sbState),
+        };
         const std::int32_t group = tvNodes.Add(-1, "#G", "Group", Colour::WindowText);
         tvNodes.Add(group, "one", "One", Colour::Blue);
         tvNodes.Add(group, "two", "Two", Colour::Red);
