@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/ChildProcess.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/posix/PosixFileSystem.h"
 

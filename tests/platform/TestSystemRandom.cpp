@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-#include "platform/TemporaryFolder.h"
+#include "platform/ChildProcess.h"
 #include "platform/posix/SystemClock.h"
 
 namespace orlo {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Text.h"
+#include "platform/ChildProcess.h"
 #include "platform/TemporaryFolder.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/UserFolders.h"

@@ -188,6 +188,7 @@ void CompareOneWorld(unsigned seed, Seen& seen) {
         ASSERT_EQ(made.session.plan.Flights.Line(i), plain.session.plan.Flights.Line(i));
         ASSERT_EQ(made.session.plan.Flights.Removed(i), plain.session.plan.Flights.Removed(i)) << i;
     }
+    EXPECT_EQ(Describe(made.session.rules.Airlines), Describe(plain.session.rules.Airlines));
     EXPECT_EQ(Describe(made.session.shuffle.RunAirlines), Describe(plain.session.shuffle.RunAirlines));
     EXPECT_EQ(made.session.plan.PlanAircrafts, plain.session.plan.PlanAircrafts);
     seen.assigned += plain.assigned;

@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "core/Session.h"
 #include "simulator/Navigation.h"
 #include "simulator/PlanPositions.h"
 #include "support/CaseTable.h"
