@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "core/Text.h"
 #include "shell/EventTables.h"
@@ -26,10 +27,18 @@ bool OpenForms::IsOpen(const Form& form) const {
     return std::find(forms.begin(), forms.end(), &form) != forms.end();
 }
 
-int EventPump::EnterModal() {
-    const int outer = running_;
-    running_ = 0;
-    return outer;
+int EventPump::EnterModal(Form& form, Form* owner) {
+    form.owner = owner;
+    form.closeRequest = false;
+    windows_.Show(form);
+    windows_.modal.insert(windows_.modal.begin(), &form);
+    return std::exchange(running_, 0);
+}
+
+void EventPump::LeaveModal(Form& form, int outer) {
+    running_ = outer;
+    windows_.Unload(form);
+    form.closeRequest = false;
 }
 
 bool EventPump::TakesInput(const Form& form) const {
