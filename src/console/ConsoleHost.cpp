@@ -149,16 +149,9 @@ void ConsoleHost::ShowForm(Form& form) {
 
 void ConsoleHost::ShowModal(Form& form, Form* owner) {
     if (program_ == nullptr) return;
-    OpenForms& windows = program_->pump.Windows();
-    form.owner = owner;
-    form.closeRequest = false;
-    windows.Show(form);
-    windows.modal.insert(windows.modal.begin(), &form);
-    const int outer = program_->pump.EnterModal();
+    const int outer = program_->pump.EnterModal(form, owner);
     runModal_(form);
-    program_->pump.LeaveModal(outer);
-    windows.Unload(form);
-    form.closeRequest = false;
+    program_->pump.LeaveModal(form, outer);
 }
 
 void ConsoleHost::UnloadForm(Form& form) {

@@ -32,16 +32,13 @@ void PlaceOverOwner(FormWindow& window) {
 // A modal form and its round of events, which end together in whatever way the loop ends.
 class DesktopHost::ModalRound {
   public:
-    ModalRound(DesktopHost& host, Form& form) : host_(host), form_(form), outer_(host.pump_->EnterModal()) {
-        std::vector<Form*>& modal = host_.pump_->Windows().modal;
-        modal.insert(modal.begin(), &form_);
-    }
+    ModalRound(DesktopHost& host, Form& form, Form* owner)
+        : host_(host), form_(form), outer_(host.pump_->EnterModal(form, owner)) {}
     ModalRound(const ModalRound&) = delete;
     ModalRound& operator=(const ModalRound&) = delete;
     ~ModalRound() {
-        form_.closeRequest = false;
         if (host_.pump_ == nullptr) return;
-        host_.pump_->LeaveModal(outer_);
+        host_.pump_->LeaveModal(form_, outer_);
         host_.Shut(form_);
         host_.ScheduleDraw();
     }
@@ -215,10 +212,8 @@ void DesktopHost::Present(FormWindow& window) {
 
 void DesktopHost::ShowModal(Form& form, Form* owner) {
     if (pump_ == nullptr) return;
-    form.owner = owner;
-    form.closeRequest = false;
     FormWindow& window = Open(form, OwnerWindow(owner), Qt::Dialog);
-    const ModalRound round(*this, form);
+    const ModalRound round(*this, form, owner);
     window.setWindowModality(Qt::ApplicationModal);
     Present(window);
     RunUntilClosed(form);

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "desktop/EventSink.h"
 #include "desktop/InputFilter.h"
+#include "desktop/InputSink.h"
 #include "forms/ProgressForm.h"
 #include "services/FrontEnd.h"
 
@@ -23,7 +23,7 @@ class EventPump;
 // The desktop front end over an event pump: windows for the forms, dialogs, timers, and the loops that run
 // events. One lives beside the application object; the pump and the forms come after it and go before it,
 // except for what stays in RunUntilClosed.
-class DesktopHost : public QObject, public EventSink, public FrontEnd {
+class DesktopHost : public QObject, public InputSink, public FrontEnd {
   public:
     DesktopHost();
     ~DesktopHost() override;
@@ -43,16 +43,14 @@ class DesktopHost : public QObject, public EventSink, public FrontEnd {
     // window has to be answered first, and where the user wants to stay.
     bool AskToClose(Form& form);
 
-    // EventSink
+    // InputSink
     bool Accepts(const Event& event) const override;
     void Post(const Event& event) override;
-
-    // For the input filter.
-    bool TakesInput(const FormWindow& window) const;
-    void DeliverNow(Event& event);          // after what is queued
-    void CatchUp(FormWindow& window);       // runs what is queued and draws what it changed in the window
-    FormWindow* WindowOf(QObject* object);  // of a widget or of the system's window; null for another's
-    int DialogsShown() const { return dialogsShown_; }
+    bool TakesInput(const FormWindow& window) const override;
+    void DeliverNow(Event& event) override;
+    void CatchUp(FormWindow& window) override;
+    FormWindow* WindowOf(QObject* object) override;
+    int DialogsShown() const override { return dialogsShown_; }
 
     // ProgressHost
     void SetText(std::string_view text) override;

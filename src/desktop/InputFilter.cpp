@@ -14,9 +14,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
+#include "desktop/InputSink.h"
 #include "desktop/ScreenText.h"
+#include "shell/UserHands.h"
 
 namespace orlo {
 namespace {
@@ -54,12 +55,6 @@ const Control* FocusTaker(const FormWindow& window, const QPoint& place) {
         return binder == nullptr ? nullptr : &binder->Of();
     }
     return nullptr;
-}
-
-bool TakesEnter(const Control* control) {
-    if (control == nullptr || control->kind != ControlKind::TextBox) return false;
-    const auto& box = static_cast<const TextBox&>(*control);
-    return box.style != TextBoxStyle::SingleLine && !box.readOnly;
 }
 
 // How many tabs further such keys go, back where negative; 0 for any other.
@@ -103,10 +98,6 @@ std::string DraggedFile(const QDropEvent& event) {
     return {};
 }
 
-bool Clickable(const Button* button) {
-    return button != nullptr && button->EffectivelyEnabled() && button->EffectivelyVisible();
-}
-
 }  // namespace
 
 bool InputFilter::eventFilter(QObject* object, QEvent* event) {
@@ -114,13 +105,13 @@ bool InputFilter::eventFilter(QObject* object, QEvent* event) {
     const bool watched = IsInput(type) || type == QEvent::MouseButtonRelease || type == QEvent::KeyRelease ||
                          type == QEvent::FocusIn;
     if (!watched) return false;
-    FormWindow* window = host_.WindowOf(object);
+    FormWindow* window = sink_.WindowOf(object);
     if (window == nullptr) return false;  // a dialog or pop-up of the toolkit
     if (IsInput(type)) {
-        if (!host_.TakesInput(*window)) return true;
+        if (!sink_.TakesInput(*window)) return true;
         // What was done before runs and is seen before what is done now.
-        host_.CatchUp(*window);
-        if (!host_.TakesInput(*window)) return true;
+        sink_.CatchUp(*window);
+        if (!sink_.TakesInput(*window)) return true;
     }
     switch (type) {
         case QEvent::MouseButtonPress:
@@ -156,10 +147,9 @@ bool InputFilter::eventFilter(QObject* object, QEvent* event) {
 
 bool InputFilter::Leaves(FormWindow& window, const Control* to) {
     Control* from = window.FocusControl();
-    if (from == nullptr || from == to || from->kind != ControlKind::TextBox) return true;
-    if (to != nullptr && to == from->form.cancelButton) return true;  // it never validates
+    if (!AsksToLeave(from, to)) return true;
     Event event{&from->form, from, EventKind::Leave};
-    host_.DeliverNow(event);
+    sink_.DeliverNow(event);
     return !event.refused;
 }
 
@@ -169,11 +159,11 @@ bool InputFilter::Press(FormWindow& window, QObject* object, QMouseEvent& event)
     swallowedButton_ = 0;
     const Control* to = FocusTaker(window, event.position().toPoint());
     if (to == nullptr) return false;
-    const int shown = host_.DialogsShown();
+    const int shown = sink_.DialogsShown();
     if (Leaves(window, to)) {
         // A dialog that the procedure showed has taken the release.
         const bool lost =
-            shown != host_.DialogsShown() && !QGuiApplication::mouseButtons().testFlag(event.button());
+            shown != sink_.DialogsShown() && !QGuiApplication::mouseButtons().testFlag(event.button());
         if (!lost) return false;
     }
     swallowedButton_ = static_cast<int>(event.button());
@@ -194,7 +184,7 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
     Control* control = window.FocusControl();
     // A picture on the screen hears of every key.
     if (form.frameless && !event.isAutoRepeat()) {
-        host_.Post({&form, nullptr, EventKind::KeyUp, KeyOf(event)});
+        sink_.Post({&form, nullptr, EventKind::KeyUp, KeyOf(event)});
         return true;
     }
     const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
@@ -209,27 +199,24 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
     if (shift && event.key() == Qt::Key_F1) return TipOfCurrent(window);
     switch (event.key()) {
         case Qt::Key_F1:
-            host_.Post({&form, nullptr, EventKind::Help});
+            sink_.Post({&form, nullptr, EventKind::Help});
             return true;
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
             return !Leaves(window, nullptr);
         case Qt::Key_Return:
         case Qt::Key_Enter: {
-            if (TakesEnter(control)) return false;
+            if (EnterEndsLine(control)) return false;
             if (event.isAutoRepeat()) return true;  // a key held down is one click
-            Button* button = control != nullptr && control->kind == ControlKind::Button
-                                 ? static_cast<Button*>(control)
-                                 : form.defaultButton;
-            if (!Clickable(button)) return false;
-            host_.Post({&form, button, EventKind::Click});
-            return true;
+            Button* button = ButtonOfKey(form, kKeyEnter, control);
+            if (button != nullptr) sink_.Post({&form, button, EventKind::Click});
+            return button != nullptr;
         }
-        case Qt::Key_Escape:
-            if (!Clickable(form.cancelButton)) return false;
-            if (event.isAutoRepeat()) return true;
-            host_.Post({&form, form.cancelButton, EventKind::Click});
-            return true;
+        case Qt::Key_Escape: {
+            Button* button = ButtonOfKey(form, kKeyEscape, control);
+            if (button != nullptr && !event.isAutoRepeat()) sink_.Post({&form, button, EventKind::Click});
+            return button != nullptr;
+        }
         default:
             return false;
     }
@@ -241,7 +228,7 @@ void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& ev
     if (key != kKeyDelete && key != kKeyInsert) return;
     Control* control = window.FocusControl();
     const bool pressedHere = std::exchange(pressedKey_, kKeyOther) == key && pressedOn_ == control;
-    if (control != nullptr && pressedHere) host_.Post({&control->form, control, EventKind::KeyUp, key});
+    if (control != nullptr && pressedHere) sink_.Post({&control->form, control, EventKind::KeyUp, key});
 }
 
 // A file is the window's, wherever it is dropped; its source keeps it. What else is dragged goes to the
@@ -252,7 +239,7 @@ bool InputFilter::DragFile(FormWindow& window, QDropEvent& event) {
     if (dropped.path.empty() || !dropped.form->takesFiles) return false;
     event.setDropAction(Qt::CopyAction);
     event.accept();
-    if (event.type() == QEvent::Drop) host_.Post(dropped);
+    if (event.type() == QEvent::Drop) sink_.Post(dropped);
     return true;
 }
 
@@ -295,7 +282,7 @@ bool InputFilter::Popup(FormWindow& window, const QWidget* widget, const QPoint&
     Control& control = binder->Of();
     if (control.kind != ControlKind::ListView && control.kind != ControlKind::TreeView) return false;
     Event popup{&control.form, &control, EventKind::Popup};
-    host_.DeliverNow(popup);
+    sink_.DeliverNow(popup);
     if (popup.menu != nullptr && window.Shown() != nullptr) window.Menus().Open(*popup.menu, place);
     return true;
 }
@@ -321,9 +308,9 @@ bool InputFilter::TurnTab(FormWindow& window, int steps) {
     if (shown == tabs.pages.end() || !Leaves(window, &tabs)) return true;
     const std::ptrdiff_t next = (shown - tabs.pages.begin() + steps + count) % count;
     const Event event{&tabs.form, &tabs, EventKind::SelectTab};
-    if (!host_.Accepts(event)) return true;
+    if (!sink_.Accepts(event)) return true;
     tabs.selectedKey = tabs.pages[static_cast<std::size_t>(next)].key;
-    host_.Post(event);
+    sink_.Post(event);
     return true;
 }
 
@@ -346,7 +333,7 @@ bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) 
     const auto* area = qobject_cast<QAbstractScrollArea*>(&binder->Widget());
     const bool onContent = area == nullptr || area->viewport() == widget;
     Event hover{&control.form, &control, EventKind::Hover, onContent ? binder->HoverValue(event.pos()) : -1};
-    host_.DeliverNow(hover);
+    sink_.DeliverNow(hover);
     if (window.Shown() == nullptr) return true;
     // The rows of a list have tips of their own.
     if (control.kind == ControlKind::ListView) return false;

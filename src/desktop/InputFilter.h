@@ -15,8 +15,8 @@ class QWidget;
 
 namespace orlo {
 
-class DesktopHost;
 class FormWindow;
+class InputSink;
 struct Control;
 
 // Sees what the user does before any widget does: drops it where no form takes it, asks the field that is
@@ -25,7 +25,7 @@ struct Control;
 // in the middle of anything then.
 class InputFilter : public QObject {
   public:
-    explicit InputFilter(DesktopHost& host) : host_(host) {}
+    explicit InputFilter(InputSink& sink) : sink_(sink) {}
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -48,7 +48,7 @@ class InputFilter : public QObject {
     // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.
     bool Leaves(FormWindow& window, const Control* to);
 
-    DesktopHost& host_;
+    InputSink& sink_;
     int swallowedButton_ = 0;  // whose release follows a press that was dropped
     // Delete or Insert, pressed alone and not released yet, and where.
     EventKey pressedKey_ = kKeyOther;

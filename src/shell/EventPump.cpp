@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "core/Text.h"
 #include "shell/FormFacts.h"
@@ -32,10 +33,18 @@ EventPump::EventPump(Context& context) : context_(context) {
     }
 }
 
-int EventPump::EnterModal() {
-    const int outer = running_;
-    running_ = 0;
-    return outer;
+int EventPump::EnterModal(Form& form, Form* owner) {
+    form.owner = owner;
+    form.closeRequest = false;
+    windows_.Show(form);
+    windows_.modal.insert(windows_.modal.begin(), &form);
+    return std::exchange(running_, 0);
+}
+
+void EventPump::LeaveModal(Form& form, int outer) {
+    running_ = outer;
+    windows_.Unload(form);
+    form.closeRequest = false;
 }
 
 bool EventPump::TakesInput(const Form& form) const {

@@ -53,9 +53,10 @@ class EventPump {
 
     bool OperationRuns() const { return running_ > 0; }
 
-    // A modal form opens a new round of events above the operation that shows it.
-    int EnterModal();
-    void LeaveModal(int running) { running_ = running; }
+    // Opens the form as the topmost modal one, with a round of events of its own above the operation that
+    // shows it. The result goes to LeaveModal, which takes the form's close request and closes it.
+    int EnterModal(Form& form, Form* owner);
+    void LeaveModal(Form& form, int outer);
 
   private:
     void Run(Event& event);

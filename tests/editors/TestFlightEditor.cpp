@@ -97,7 +97,8 @@ TEST(FlightEditor, CancelAndTheCloseBoxKeepTheSwitchesAndNothingElse) {
                                 fake.Type(fake.editor.txtTime, "nonsense");
                                 fake.Press(fake.editor.ckAircraftRange);
                                 EXPECT_TRUE(fake.session.switches.CheckAircraftRange);
-                                closeBox ? fake.CloseBox(fake.editor) : fake.Press(fake.editor.cmdCancel);
+                                closeBox ? fake.PressCloseBox(fake.editor)
+                                         : fake.Press(fake.editor.cmdCancel);
                                 EXPECT_TRUE(fake.editor.closeRequest);
                             }),
                   "");
