@@ -147,6 +147,13 @@ TEST(FlightEditLegs, AFixedArrivalStaysUntilItIsTypedOrSetFree) {
                   EXPECT_EQ(form.txtETA.text, "21:00:00");
                   fake.Type(form.txtTime, "12:00");
                   EXPECT_EQ(fake.Row(0), "AAAA BBBB 6/12:00:00 0/21:00:00 0001 FL100");
+                  fake.Leave(form.txtETA);
+                  fake.Choose(form.cmDay, "Sunday");
+                  EXPECT_EQ(fake.Row(0), "AAAA BBBB 0/12:00:00 1/21:00:00 0001 FL100")
+                      << "the day moves with that of the departure";
+                  fake.Type(form.txtETA, "11:00");
+                  EXPECT_EQ(fake.Row(0), "AAAA BBBB 0/12:00:00 1/11:00:00 0001 FL100");
+                  fake.Choose(form.cmDay, "Saturday");
                   fake.Press(form.ckFixedETA);
                   EXPECT_EQ(fake.Row(0), "AAAA BBBB 6/12:00:00 6/13:00:00 0001 FL100");
                   EXPECT_FALSE(form.txtETA.enabled);
@@ -200,50 +207,7 @@ TEST(FlightEditLegs, InvalidTextsAreNotStoredAndKeepTheFocus) {
     }
 }
 
-// Enter leaves no field, but what is typed in it counts.
-TEST(FlightEditLegs, EnterTakesWhatIsTypedOrRefusesIt) {
-    Editor fake;
-    fake.SwitchChecksOff();
-    fake.Edit(Editor::FlightOf("24Hr", {Editor::FixedLeg("08:00:00", "09:00:00")}), [&] {
-        fake.editor.focus = &fake.editor.txtLevel;
-        fake.Type(fake.editor.txtLevel, "31");
-        fake.Type(fake.editor.txtLevel, "5");
-        fake.Accept();
-        EXPECT_FALSE(fake.editor.closeRequest);
-        fake.Type(fake.editor.txtLevel, "55");
-        fake.Accept();
-        EXPECT_TRUE(fake.editor.closeRequest);
-    });
-    EXPECT_EQ(fake.said, (Texts{"Flight Level has to be a value between 10 and 999"}));
-    EXPECT_EQ(fake.edited.Legs[0].FlightLevel, "055");
-}
-
-TEST(FlightEditLegs, AFixedArrivalKeepsItsDayUntilTheDepartureChangesIts) {
-    Editor fake;
-    fake.SwitchChecksOff();
-    fake.Edit(Editor::FlightOf("WEEK", {Editor::FixedLeg("5/12:00:00", "0/14:00:00")}), [&] {
-        fake.Leave(fake.editor.txtETA);
-        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "0/14:00:00");
-        fake.Choose(fake.editor.cmDay, "Saturday");
-        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "1/14:00:00");
-        fake.Type(fake.editor.txtETA, "11:00");
-        EXPECT_EQ(fake.editor.WorkingFlight.Legs[0].ETA, "0/11:00:00");
-    });
-}
-
-TEST(FlightEditLegs, WhatTheFileCannotHoldBecomesBlanks) {
-    Editor fake;
-    fake.SwitchChecksOff();
-    fake.Edit(Editor::FlightOf("24Hr", {Editor::FixedLeg("08:00:00", "09:00:00")}), [&] {
-        fake.Type(fake.editor.txtReg, "D-A,B");
-        fake.Type(fake.editor.txtNumber, "1;//2");
-        fake.Accept();
-    });
-    EXPECT_EQ(fake.edited.TailNumber, "D-A B");
-    EXPECT_EQ(fake.edited.Legs[0].FlightNumber, "1   2");
-}
-
-TEST(FlightEditLegs, OptionsAndChecksAreStored) {
+TEST(FlightEditLegs, OptionsAndChecksAreStoredAndWhatTheFileCannotHoldBecomesBlanks) {
     Editor fake;
     fake.SwitchChecksOff();
     fake.Edit(Editor::FlightOf("24Hr", {Editor::FreeLeg("08:00:00", "BBBB")}), [&] {
@@ -251,11 +215,21 @@ TEST(FlightEditLegs, OptionsAndChecksAreStored) {
         fake.Press(fake.editor.ckUseNumber);
         fake.Press(fake.editor.ckFixedETA);
         fake.Press(fake.editor.opVFR);
+        fake.Type(fake.editor.txtReg, "D-A,B");
+        fake.Type(fake.editor.txtNumber, "1;//2");
+        // Enter leaves no field, but what is typed in it counts.
+        fake.editor.focus = &fake.editor.txtLevel;
+        fake.Type(fake.editor.txtLevel, "5");
         fake.Accept();
+        EXPECT_FALSE(fake.editor.closeRequest);
+        fake.Type(fake.editor.txtLevel, "55");
+        fake.Accept();
+        EXPECT_TRUE(fake.editor.closeRequest);
     });
-    EXPECT_EQ(fake.edited.FlightType, "VFR");
-    EXPECT_EQ(fake.edited.Legs[0].NumberMode, "R");
-    EXPECT_TRUE(fake.edited.Legs[0].FixedETA);
+    const Leg& leg = fake.edited.Legs[0];
+    EXPECT_EQ(Concat(fake.edited.FlightType, " ", fake.edited.TailNumber), "VFR D-A B");
+    EXPECT_EQ(Concat(leg.NumberMode, " ", leg.FlightNumber, " ", leg.FlightLevel), "R 1   2 055");
+    EXPECT_TRUE(leg.FixedETA);
 }
 
 }  // namespace

@@ -20,27 +20,6 @@ FSAircraft Installed(std::string title, std::string airline, std::string manufac
     return aircraft;
 }
 
-// A tree as displayed: two blanks a level, mark, text, and in brackets what else differs from a plain group.
-std::string Show(const TreeView& tree) {
-    std::string out;
-    for (const std::int32_t place : tree.DisplayOrder()) {
-        const TreeNode& node = tree.At(place);
-        for (std::int32_t up = node.parent; up >= 0; up = tree.At(up).parent) out += "  ";
-        const bool gray = node.colour == Colour::Gray;
-        out += Concat(gray ? "[-] " : node.checked ? "[x] " : "[ ] ", node.text);
-        if (!gray && node.colour != Colour::WindowText) out += Concat(" ", ColourWord(node.colour));
-        if (!node.tag.empty()) out += Concat(" ", node.tag);
-        out += "\n";
-    }
-    return out;
-}
-
-std::vector<std::string> Keys(const TreeView& tree) {
-    std::vector<std::string> keys;
-    for (const std::int32_t place : tree.DisplayOrder()) keys.push_back(tree.At(place).key);
-    return keys;
-}
-
 struct Trees : ::testing::Test {
     MainForm form;
     Session session;
@@ -74,36 +53,6 @@ struct Trees : ::testing::Test {
         form.cmMoveView.tag = std::to_string(moveView);
     }
 };
-
-TEST_F(Trees, AreFilledByManufacturerAndByAirlineWithThePlanMarked) {
-    FillAircraftTrees(form, session);
-    EXPECT_EQ(Show(shuffle),
-              "[ ] # ORLO - No Manufacturer\n"
-              "  [ ] Piper blue 3\n"
-              "[-] Airbus\n"
-              "  [-] A320\n"
-              "    [x] Airbus one (HANSA) blue 1\n"
-              "    [ ] Airbus two (Blue) blue 6\n"
-              "[-] Boeing\n"
-              "  [x] 747\n"
-              "    [x] Jumbo (Hansa) blue 0\n"
-              "  [ ] 777\n"
-              "  [ ] Beech (Hansa) blue 5\n");
-    EXPECT_EQ(Keys(shuffle),
-              (std::vector<std::string>{"# ORLO - No Manufacturer", "PIPER##", "#AIRBUS", "#AIRBUSA320",
-                                        "AIRBUS ONE##", "AIRBUS TWO##", "#BOEING", "#BOEING747", "JUMBO##",
-                                        "#BOEING777", "BEECH##"}));
-    EXPECT_EQ(Show(move),
-              "[ ] # ORLO - No Airline\n"
-              "  [ ] Piper red\n"
-              "[ ] Blue\n"
-              "  [ ] Airbus two red\n"
-              "[ ] Hansa\n"
-              "  [ ] Airbus one black ,AC#1,\n"
-              "  [ ] Beech red\n"
-              "  [ ] Jumbo black ,AC#7,AC#9,\n"
-              "[ ] Other\n");
-}
 
 TEST_F(Trees, TheCheckedAircraftAreTheCheckedLeavesWithoutTheirAirlines) {
     const auto add = [&](std::int32_t parent, std::string_view text, Colour colour, std::string_view tag,

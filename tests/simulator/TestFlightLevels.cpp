@@ -3,9 +3,7 @@
 #include <initializer_list>
 #include <limits>
 #include <map>
-#include <random>
 
-#include "core/Number.h"
 #include "simulator/FlightLevelMaths.h"
 #include "support/CaseTable.h"
 #include "support/FakeHosts.h"
@@ -142,39 +140,6 @@ TEST(FlightLevels, HostileRulesEndTheSearch) {
          }) {
         EXPECT_EQ(SuggestFlightLevelText(c.rules, "IFR", 300, 90, c.limits), c.expected);
     }
-}
-
-// Over many random tables of rules: a drawn level passes the check, and lies in the suggested band.
-TEST(FlightLevels, EveryDrawnLevelPassesTheCheck) {
-    std::mt19937 engine(20020618);
-    const auto pick = [&engine](std::int32_t from, std::int32_t to) {
-        return std::uniform_int_distribution<std::int32_t>(from, to)(engine);
-    };
-    FakeRandom random;
-    random.draws = {0, 0.999999999, 0.25, 0.5, 0.75, 0.1, 0.9};
-    int matched = 0;
-    for (int i = 0; i < 20000; ++i) {
-        Rules rules(static_cast<std::size_t>(pick(1, 6)));
-        for (FlightLevelRule& rule : rules) {
-            rule = {pick(-1, 500), pick(200, 900), 0, pick(90, 359), pick(0, 400),
-                    pick(0, 400),  pick(0, 4) * 10};
-            if (pick(0, 9) == 0) rule.LevelStep = pick(-30, 30);
-        }
-        const std::int32_t distance = pick(0, 800);
-        const std::int32_t course = pick(0, 359);
-        const LevelLimits limits{pick(-1, 300), pick(-1, 420)};
-        if (!FindLevelBand(rules, "IFR", distance, course, limits)) continue;
-        ++matched;
-        const std::string drawn = SuggestFlightLevel(rules, "IFR", distance, course, limits, false, random);
-        const auto level = ParseWholeNumber(drawn);
-        ASSERT_TRUE(level) << drawn;
-        EXPECT_GE(*level, limits.MinFL);
-        const LevelCheck check = CheckFlightLevel(rules, "IFR", distance, course, limits, *level);
-        EXPECT_TRUE(check.Right) << drawn << " is not one of " << check.Suggestion;
-        EXPECT_EQ(CheckFlightLevel(rules, "IFR", distance, course, limits, -5000).Suggestion,
-                  SuggestFlightLevelText(rules, "IFR", distance, course, limits));
-    }
-    EXPECT_GT(matched, 5000);
 }
 
 }  // namespace
