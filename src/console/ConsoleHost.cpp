@@ -1,31 +1,15 @@
 #include "console/ConsoleHost.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
+#include "console/ScriptActs.h"
 #include "console/ScriptText.h"
 #include "core/Text.h"
 #include "shell/Program.h"
 
 namespace orlo {
 namespace {
-
-struct AnswerWord {
-    MessageAnswer answer;
-    std::string_view word;
-};
-constexpr std::array<AnswerWord, 4> kAnswerWords = {{{MessageAnswer::Ok, "ok"},
-                                                     {MessageAnswer::Yes, "yes"},
-                                                     {MessageAnswer::No, "no"},
-                                                     {MessageAnswer::Cancel, "cancel"}}};
-
-std::string_view WordOf(MessageAnswer answer) {
-    for (const AnswerWord& entry : kAnswerWords) {
-        if (entry.answer == answer) return entry.word;
-    }
-    return "none";
-}
 
 std::string_view MarkWord(int flags) {
     switch (flags & 0x70) {
@@ -56,21 +40,9 @@ std::vector<MessageAnswer> ButtonsOf(int flags) {
 std::string ButtonsLine(const std::vector<MessageAnswer>& buttons, int flags) {
     std::string line = "buttons ";
     for (std::size_t i = 0; i < buttons.size(); ++i)
-        line.append(Concat(i == 0 ? "" : ",", WordOf(buttons[i])));
+        line.append(Concat(i == 0 ? "" : ",", AnswerWord(buttons[i])));
     const bool second = (flags & kDefaultSecondButton) != 0 && buttons.size() > 1;
-    return Concat(line, " default ", WordOf(buttons[second ? 1 : 0]));
-}
-
-bool Offers(const std::vector<MessageAnswer>& buttons, MessageAnswer answer) {
-    for (MessageAnswer button : buttons) {
-        if (button == answer) return true;
-    }
-    return false;
-}
-
-// The line of a dialog or input box; nothing stands behind the arrow of a cancel.
-std::string ArrowLine(std::string_view said, const std::optional<std::string>& answer) {
-    return answer ? Concat(said, " -> ", Printed(*answer)) : Concat(said, " ->");
+    return Concat(line, " default ", AnswerWord(buttons[second ? 1 : 0]));
 }
 
 }  // namespace
@@ -131,15 +103,10 @@ MessageAnswer ConsoleHost::ShowMessage(std::string_view text, int flags, std::st
     if (TrimBlanks(text).empty()) return MessageAnswer::None;
     const std::vector<MessageAnswer> buttons = ButtonsOf(flags);
     if (trace_) out_ << ButtonsLine(buttons, flags) << '\n';
-    MessageAnswer answer = buttons.size() == 1 ? MessageAnswer::Ok : MessageAnswer::No;
-    const bool answered = !answers.replies.empty() && Offers(buttons, answers.replies.front());
-    if (answered) {
-        answer = answers.replies.front();
-        answers.replies.pop_front();
-    }
-    out_ << "message " << MarkWord(flags) << " \"" << PrintedMessage(text) << "\" -> " << WordOf(answer)
-         << '\n';
-    if (strict_ && !answered && buttons.size() > 1) throw ScriptEnd{"a question has no queued answer"};
+    const auto reply = answers.TakeReply(buttons);
+    const MessageAnswer answer = reply.value_or(AnswerWithoutReply(buttons));
+    out_ << MessageLine(MarkWord(flags), text, answer);
+    if (strict_ && !reply && buttons.size() > 1) throw ScriptEnd{"a question has no queued answer"};
     return answer;
 }
 
@@ -194,7 +161,7 @@ std::optional<std::string> ConsoleHost::TakePath(std::string_view what, std::str
         answers.paths.pop_front();
     }
     if (path && (path->empty() || !IsThere(*path, wanted))) path.reset();
-    out_ << ArrowLine(Concat("dialog ", what, " \"", PrintedMessage(title), "\""), path) << '\n';
+    out_ << DialogLine(what, title, path);
     if (strict_ && !answered) throw ScriptEnd{"a dialog has no queued answer"};
     return path;
 }
@@ -219,8 +186,7 @@ std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::s
         text = answers.inputs.front();
         answers.inputs.pop_front();
     }
-    const std::string said = Concat("input \"", PrintedMessage(title), "\" \"", PrintedMessage(prompt), "\"");
-    out_ << ArrowLine(said, text ? std::optional(ReplaceAll(*text, "\\", "\\\\")) : std::nullopt) << '\n';
+    out_ << InputLine(title, prompt, text);
     if (strict_ && !answered) throw ScriptEnd{"an input box has no queued answer"};
     return text;
 }
@@ -238,7 +204,7 @@ PrintOutcome ConsoleHost::Print(std::string_view text) {
 }
 
 bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {
-    out_ << "document " << path << '\n';
+    out_ << DocumentLine(path);
     return true;
 }
 

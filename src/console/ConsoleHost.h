@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <ostream>
@@ -8,26 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "console/ScriptAnswers.h"
 #include "services/FileSystem.h"
 #include "services/FrontEnd.h"
 
 namespace orlo {
 
 struct Program;
-
-// Ends a script from anywhere; passes every handler of failures.
-struct ScriptEnd {
-    std::string reason;
-};
-
-// What the script has queued for questions, dialogs and input boxes.
-struct QueuedAnswers {
-    std::deque<MessageAnswer> replies;
-    std::deque<std::optional<std::string>> paths;
-    std::deque<std::optional<std::string>> inputs;
-
-    bool Empty() const { return replies.empty() && paths.empty() && inputs.empty(); }
-};
 
 // The services of the console: everything said to the user is a line of output, every question is answered
 // from the queues.

@@ -3,16 +3,18 @@
 #include <istream>
 #include <ostream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "console/ConsoleHost.h"
+#include "console/ScriptActs.h"
+#include "console/ScriptCommands.h"
 #include "shell/Program.h"
+#include "shell/UserHands.h"
 
 namespace orlo {
 
 // Runs a script on a program, command by command; a modal form takes the commands until it closes.
-class ScriptRunner {
+class ScriptRunner : private ScriptActs {
   public:
     ScriptRunner(Program& program, ConsoleHost& host, std::istream& script, std::ostream& out,
                  std::ostream& errors, bool strict);
@@ -23,58 +25,43 @@ class ScriptRunner {
     int Run();
 
   private:
-    using Words = std::vector<std::string>;
-
     void RunUntilClosed(Form& form);
     bool RunNextLine();
-    bool ReadLine(std::string& line);
-    void RunCommand(const Words& words);
-    void Quit();
+    bool Kept(const Control& field);
 
-    // Commands. Each throws ScriptEnd when it can't be done.
-    void Click(const Words& words);
-    void Set(const Words& words);
-    void Type(const Words& words);
-    void Node(const Words& words);
-    void Select(const Words& words);
-    void Current(const Words& words);
-    void DoubleClick(const Words& words);
-    void SortColumn(const Words& words);
-    void Key(const Words& words);
-    void Focus(const Words& words);
-    void CloseForm(const Words& words);
-    void FireTimer(const Words& words);
-    void DropFile(const Words& words);
-    void Reply(const Words& words);
-    void Hover(const Words& words);
-    void Popup(const Words& words);
-
-    // Looks a control up in the open forms, topmost first; "FORM.CONTROL" names one exactly.
-    Control& FindControl(std::string_view name) const;
-    Form* FindForm(std::string_view name) const;
-    template <typename Type>
-    Type& FindAs(std::string_view name, ControlKind kind) const;
-    // The same for a control that is to be used: it must be enabled and in reach.
-    Control& Usable(std::string_view name) const;
-    template <typename Type>
-    Type& UsableAs(std::string_view name, ControlKind kind) const;
-
-    // Moves the focus; false, with a line that says which field was kept, when the field that has it refuses.
-    bool MoveFocus(Control& to);
-    bool Leave(Control& field);
-    // The close box; false when the form refuses.
-    bool PressCloseBox(Form& form);
-    bool Deliver(Control& control, EventKind kind, std::int32_t value = 0);
-    void Press(Control& control);
-    void WriteText(TextBox& field, const std::string& text);
+    bool Reach(Control& control) override;
+    void Click(Control& control) override;
+    void Focus(Control& control) override;
+    void Type(TextBox& field, const std::string& text) override;
+    void LeaveField(TextBox& field) override;
+    void Type(ComboBox& combo, const std::string& text) override;
+    void ChooseEntry(ComboBox& combo, std::int32_t index) override;
+    void SelectTab(TabStrip& tabs, const TabPage& page) override;
+    void CheckNode(TreeView& tree, std::int32_t node, bool on) override;
+    void SelectRows(ListView& list, const std::vector<std::int32_t>& rows) override;
+    void SelectAllRows(ListView& list, bool selected) override;
+    void ClickRow(ListView& list, std::int32_t row) override;
+    void DoubleClickRow(ListView& list, std::int32_t row) override;
+    void ClickColumn(ListView& list, std::int32_t column) override;
+    void PressKey(Control& control, EventKey key) override;
+    void PressKey(Form& form, EventKey key) override;
+    void AskForHelp(Form& form) override;
+    void DropFile(Form& form, const std::string& path) override;
+    void PressCloseBox(Form& form) override;
+    void FireTimer(const std::string& name) override;
+    void Quit() override;
+    void Rest(Control& control, std::int32_t node) override;
+    const MenuEntry* OpenPopup(Control& control) override;
+    void Show(std::ostream& out, Control& control) override;
+    bool ShowsEnabled(Control& control) override;
 
     Program& program_;
     ConsoleHost& host_;
-    std::istream& script_;
+    UserHands hands_;
+    ScriptCommands commands_;
     std::ostream& out_;
     std::ostream& errors_;
     bool strict_;
-    int lineNumber_ = 0;
     bool quitting_ = false;  // the forms above the main window close one by one
     bool scriptEnded_ = false;
     bool quitCancelled_ = false;

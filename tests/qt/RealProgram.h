@@ -25,9 +25,9 @@ inline bool MakeSampleWorld(const std::string& folder, int flights) {
 }
 
 // The system's services on a sample world: the settings are a text file in it, the clock stands, and each
-// seeding starts the same row of random values.
-inline SystemServices ServicesOn(const std::string& world) {
-    SystemServices system(JoinPath(world, "settings.txt"), JoinPath(world, "Simulator"), 1);
+// seeding starts the same row of random values. `simulator` is its folder in the world.
+inline SystemServices ServicesOn(const std::string& world, const std::string& simulator = "Simulator") {
+    SystemServices system(JoinPath(world, "settings.txt"), JoinPath(world, simulator), 1);
     system.clock = std::make_unique<FakeClock>();
     return system;
 }
@@ -35,13 +35,19 @@ inline SystemServices ServicesOn(const std::string& world) {
 // The desktop program on a sample world, with the services that its main makes.
 struct RealProgram {
     SystemServices system;
-    DesktopHost host;
+    std::unique_ptr<DesktopHost> owned;
+    DesktopHost& host;
     Services services = system.Behind(host);
     Program program;
     MainForm& form = program.forms.frmMain;
 
     explicit RealProgram(const std::string& world)
-        : system(ServicesOn(world)), program(services, JoinPath(world, "Program")) {
+        : RealProgram(world, ServicesOn(world), std::make_unique<DesktopHost>()) {}
+    RealProgram(const std::string& world, SystemServices systemOf, std::unique_ptr<DesktopHost> hostOf)
+        : system(std::move(systemOf)),
+          owned(std::move(hostOf)),
+          host(*owned),
+          program(services, JoinPath(world, "Program")) {
         host.Attach(program.pump, program.forms.frmProgress);
         DesignMainForm(form);
     }

@@ -3,17 +3,21 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
+#include <QUrl>
 #include <QWindow>
 #include <algorithm>
 #include <sstream>
@@ -83,6 +87,23 @@ QPoint PlaceOfRow(const ListView& list, std::int32_t position) {
     return table.viewport()->mapTo(&table, table.visualRect(index).center());
 }
 
+// Of a node in the tree as it is shown.
+QModelIndex IndexOf(const TreeView& tree, std::int32_t node) {
+    const QAbstractItemModel& model = *As<QTreeView>(tree).model();
+    std::vector<int> rows;  // from the root
+    for (std::int32_t at = node; at >= 0; at = tree.At(at).parent) {
+        const std::int32_t parent = tree.At(at).parent;
+        const std::vector<std::int32_t>& beside = parent < 0 ? tree.roots : tree.At(parent).children;
+        const auto found = std::find(beside.begin(), beside.end(), at);
+        rows.insert(rows.begin(), static_cast<int>(found - beside.begin()));
+    }
+    QModelIndex index;
+    for (const int row : rows) index = model.index(row, 0, index);
+    if (model.data(index).toString() != ToQString(tree.At(node).text))
+        throw std::runtime_error(Concat(tree.name, " shows its nodes in another order"));
+    return index;
+}
+
 std::string RowSeen(const QAbstractItemModel& model, int row) {
     std::string line;
     for (int column = 0; column < model.columnCount(); ++column) {
@@ -133,7 +154,7 @@ void TypeText(QWidget& window, const std::string& text) {
 }
 
 void ClickButton(const Control& control) {
-    auto& button = As<QAbstractButton>(control);
+    auto& button = As<QWidget>(control);
     ClickAt(button, QPoint(kMarkInset, button.height() / 2));
 }
 
@@ -188,17 +209,7 @@ void ClickTab(const TabStrip& tabs, std::size_t page) {
 
 void ClickCheckMark(const TreeView& tree, std::int32_t node) {
     auto& shown = As<QTreeView>(tree);
-    std::vector<int> rows;  // from the root
-    for (std::int32_t at = node; at >= 0; at = tree.At(at).parent) {
-        const std::int32_t parent = tree.At(at).parent;
-        const std::vector<std::int32_t>& beside = parent < 0 ? tree.roots : tree.At(parent).children;
-        const auto found = std::find(beside.begin(), beside.end(), at);
-        rows.insert(rows.begin(), static_cast<int>(found - beside.begin()));
-    }
-    QModelIndex index;
-    for (const int row : rows) index = shown.model()->index(row, 0, index);
-    if (shown.model()->data(index).toString() != ToQString(tree.At(node).text))
-        throw std::runtime_error(Concat(tree.name, " shows its nodes in another order"));
+    const QModelIndex index = IndexOf(tree, node);
     shown.scrollTo(index);  // opens the groups above it
     const QRect place = shown.visualRect(index);
     ClickAt(shown, shown.viewport()->mapTo(&shown, QPoint(place.left() + kMarkInset, place.center().y())));
@@ -227,6 +238,44 @@ void GoTo(const Control& control) {
     for (int i = 0; i < kMostTabs && window.FocusControl() != &control; ++i) PressKeys(window, "Tab");
     if (window.FocusControl() != &control)
         throw std::runtime_error(Concat("the tab key doesn't reach ", control.name));
+}
+
+void DropOn(QWidget& window, const QString& path) {
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(path)});
+    QDragEnterEvent enter(QPoint(), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    if (!enter.isAccepted()) throw std::runtime_error("the window takes no files");
+    QDropEvent drop(QPointF(), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+}
+
+void RestOn(const Control& control, std::int32_t node) {
+    QWidget* widget = &As<QWidget>(control);
+    QPoint place(kMarkInset, widget->height() - kMarkInset);
+    if (auto* tree = qobject_cast<QTreeView*>(widget)) {
+        widget = tree->viewport();
+        if (node >= 0) {
+            const QModelIndex index = IndexOf(static_cast<const TreeView&>(control), node);
+            tree->scrollTo(index);
+            place = tree->visualRect(index).center();
+        }
+    }
+    QHelpEvent rest(QEvent::ToolTip, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &rest);
+}
+
+std::string PopupOf(const Control& control) {
+    auto& widget = As<QWidget>(control);
+    ClickAt(widget, widget.rect().center(), Qt::RightButton);
+    QWidget* popup = QApplication::activePopupWidget();
+    if (popup == nullptr) return {};
+    QWidget& window = WindowOf(control.form);
+    const QList<QAction*> actions = window.findChildren<QAction*>();
+    const auto root = std::find_if(actions.begin(), actions.end(),
+                                   [&](const QAction* action) { return action->menu() == popup; });
+    PressKeys(window, "Esc");
+    return root == actions.end() ? std::string() : (*root)->objectName().toStdString();
 }
 
 bool SeenEnabled(const Control& control) {

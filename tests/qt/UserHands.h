@@ -35,6 +35,10 @@ void DoubleClickRow(const ListView& list, std::int32_t position);
 void ClickColumn(const ListView& list, std::int32_t column);
 // Goes there by the tab key.
 void GoTo(const Control& control);
+void DropOn(QWidget& window, const QString& path);
+void RestOn(const Control& control, std::int32_t node);  // -1: beside the nodes of a tree
+// The name of the pop-up menu that a right click opens, and Escape closes again; empty for none.
+std::string PopupOf(const Control& control);
 
 // What stands on the screen, in the words of the console.
 std::string Seen(const Control& control);

@@ -3,63 +3,93 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QTest>
-#include <algorithm>
 #include <array>
-#include <functional>
-#include <map>
 #include <stdexcept>
+#include <utility>
 
 #include "console/ControlPrinting.h"
-#include "console/ScriptText.h"
-#include "core/Number.h"
 #include "core/Text.h"
 #include "qt/UserHands.h"
+#include "shell/UserHands.h"
 
 namespace orlo::test {
 namespace {
 
 constexpr int kStepMilliseconds = 5;
-constexpr int kMostSteps = 4000;         // that a command may take
-constexpr int kPressMilliseconds = 150;  // for which a button pressed by its mnemonic stays down
+constexpr int kMostSteps = 4000;  // that a command may take
+constexpr int kMostTries = 100;
+constexpr int kNotYet = 3'600'000;
 constexpr const char* kAnswered = "answered";
 
-struct ButtonWord {
-    QMessageBox::StandardButton button;
-    MessageAnswer answer;
-    const char* word;
-};
-constexpr std::array<ButtonWord, 4> kButtons = {{{QMessageBox::Yes, MessageAnswer::Yes, "yes"},
-                                                 {QMessageBox::No, MessageAnswer::No, "no"},
-                                                 {QMessageBox::Ok, MessageAnswer::Ok, "ok"},
-                                                 {QMessageBox::Cancel, MessageAnswer::Cancel, "cancel"}}};
+constexpr std::array<std::pair<QMessageBox::StandardButton, MessageAnswer>, 4> kButtons = {
+    {{QMessageBox::Yes, MessageAnswer::Yes},
+     {QMessageBox::No, MessageAnswer::No},
+     {QMessageBox::Ok, MessageAnswer::Ok},
+     {QMessageBox::Cancel, MessageAnswer::Cancel}}};
 
 // By the toolkit's icons.
 constexpr const char* kMarkWords[] = {"none", "information", "exclamation", "critical", "question"};
 
-std::int32_t Number(const std::string& word) {
-    const auto number = ParseWholeNumber(word);
-    if (!number) throw std::runtime_error(word + " is no number");
-    return *number;
-}
-
 }  // namespace
 
-WindowScript::WindowScript(RealProgram& real, const std::string& script) : real_(real), script_(script) {
+void ScriptHost::StartTimer(std::string_view name, int) {
+    DesktopHost::StartTimer(name, kNotYet);
+}
+
+void ScriptHost::FireTimer(const std::string& name) {
+    DesktopHost::StartTimer(name, 0);
+    if (!QTest::qWaitFor([&] { return !TimerArmed(name); })) throw ScriptEnd{Concat(name, " never fires")};
+}
+
+std::optional<std::string> ScriptHost::TakePath() {
+    if (answers.paths.empty()) return std::nullopt;
+    std::optional<std::string> path = answers.paths.front();
+    answers.paths.pop_front();
+    if (path && path->empty()) path.reset();
+    return path;
+}
+
+bool ScriptHost::ShowPrintDialog(std::string_view title) {
+    const auto path = TakePath();
+    printPath_ = path.value_or("");
+    said << DialogLine("print", title, path);
+    return path.has_value();
+}
+
+PrintOutcome ScriptHost::Print(std::string_view text) {
+    QFile paper(PathToQString(printPath_));
+    const bool printed =
+        paper.open(QIODevice::WriteOnly) && paper.write(text.data(), static_cast<qint64>(text.size())) >= 0;
+    return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
+}
+
+bool ScriptHost::OpenDocument(const std::string& path, const std::string&) {
+    said << DocumentLine(path);
+    return true;
+}
+
+WindowScript::WindowScript(RealProgram& real, ScriptHost& host, const std::string& script)
+    : real_(real),
+      host_(host),
+      script_(script),
+      commands_(real.program, *this, host.answers, script_, host.said) {
     connect(&answering_, &QTimer::timeout, this, [this] { AnswerDialog(); });
 }
 
-std::string WindowScript::Run() {
+void WindowScript::Run() {
     answering_.start(kStepMilliseconds);
     QTimer::singleShot(0, this, [this] { Step(); });
-    real_.host.RunUntilClosed(real_.form);
+    host_.RunUntilClosed(real_.form);
     answering_.stop();
-    return said_.str();
 }
 
 Form& WindowScript::TopForm() const {
@@ -75,95 +105,92 @@ void WindowScript::Step() {
     const int step = ++step_;
     Form& top = TopForm();
     if (&top == actingIn_ || !real_.program.pump.TakesInput(top)) {
-        if (++waited_ > kMostSteps) qFatal("The script waits for ever at line %d.", line_);
+        if (++waited_ > kMostSteps) qFatal("The script waits for ever: %s", host_.said.str().c_str());
         return;
     }
     waited_ = 0;
     // What was caused by the last command runs first, and is seen.
-    real_.host.CatchUp(WindowOf(top));
+    host_.CatchUp(WindowOf(top));
     if (step != step_ || !real_.program.pump.TakesInput(top)) return;
     const QScopedValueRollback<const Form*> acting(actingIn_, &top);
+    if (!host_.notBuilt.empty()) Fail(Concat(std::exchange(host_.notBuilt, {}), " is not built yet"));
+    if (!fault_.empty()) return CloseAtOnce();
     try {
+        if (&top == &real_.form) TurnBack();
         if (quitting_) return CloseTop();
         RunNextLine();
-    } catch (const std::exception& fault) {
-        fault_ = Concat("line ", line_, ": ", fault.what());
-        script_.setstate(std::ios::eofbit);
-        quitting_ = true;
+    } catch (const ScriptEnd& end) {
+        Fail(end.reason);
+    } catch (const std::exception& failure) {
+        Fail(failure.what());
     }
 }
 
-void WindowScript::CloseTop() {
-    Form& top = TopForm();
-    quitting_ = &top != &real_.form || !script_.good();
-    WindowOf(top).close();
+void WindowScript::Fail(const std::string& reason) {
+    fault_ = commands_.Fault({reason});
 }
 
 void WindowScript::RunNextLine() {
-    std::string line;
-    if (!std::getline(script_, line)) {
-        quitting_ = true;
-        return;
+    if (ended_ || !commands_.RunNextLine()) {
+        ended_ = quitting_ = true;
+        if (quitCancelled_ && &TopForm() == &real_.form) CloseAtOnce();
     }
-    ++line_;
-    const auto words = SplitScriptLine(line);
-    if (words && !words->empty() && !words->front().starts_with('#')) RunCommand(*words);
 }
 
-void WindowScript::RunCommand(const Words& words) {
-    const auto word = [&](std::size_t place) -> const std::string& { return words.at(place); };
-    const auto list = [&]() -> const ListView& { return FindAs<ListView>(ControlKind::ListView, word(1)); };
-    const auto tree = [&]() -> const TreeView& { return FindAs<TreeView>(ControlKind::TreeView, word(1)); };
-    const auto combo = [&]() -> const ComboBox& { return FindAs<ComboBox>(ControlKind::ComboBox, word(1)); };
-    const auto path = [&] { return words.size() > 1 ? std::optional(word(1)) : std::nullopt; };
-    const std::map<std::string_view, std::function<void()>> commands = {
-        {"click", [&] { Click(Find(word(1))); }},
-        {"set", [&] { Set(Find(word(1)), word(2)); }},
-        {"node", [&] { Node(tree(), word(2), word(3) == "on"); }},
-        {"select", [&] { Select(list(), word(2)); }},
-        {"dblclick", [&] { DoubleClickRow(list(), Number(word(2))); }},
-        {"sort", [&] { Sort(list(), word(2)); }},
-        {"focus", [&] { GoTo(Find(word(1))); }},
-        {"key",
-         [&] {
-             GoTo(Find(word(1)));
-             PressKeys(WindowOf(TopForm()), word(2));
-         }},
-        {"keys",
-         [&] {
-             for (std::size_t i = 1; i < words.size(); ++i) PressKeys(WindowOf(TopForm()), word(i));
-             QTest::qWait(kPressMilliseconds);
-         }},
-        {"quit", [&] { quitting_ = true; }},
-        {"reply", [&] { Reply(word(1)); }},
-        {"choose", [&] { answers_.paths.push_back(path()); }},
-        {"show", [&] { said_ << Seen(Find(word(1))); }},
-        {"enabled", [&] { said_ << (SeenEnabled(Find(word(1))) ? "yes" : "no") << '\n'; }},
-        {"rows", [&] { PrintRows(said_, list()); }},
-        {"entries", [&] { PrintEntries(said_, combo()); }},
-        {"echo",
-         [&] {
-             for (std::size_t i = 1; i < words.size(); ++i) said_ << (i == 1 ? "" : " ") << word(i);
-             said_ << '\n';
-         }},
-    };
-    const auto found = commands.find(word(0));
-    if (found == commands.end()) throw std::runtime_error(Concat("unknown command '", word(0), "'"));
-    found->second();
+// A quit that is refused is over.
+void WindowScript::CloseTop() {
+    Form& top = TopForm();
+    const bool last = &top == &real_.form;
+    quitting_ = !last;
+    quitCancelled_ = last;  // unless no further step is made
+    WindowOf(top).close();
 }
 
-Control& WindowScript::Find(const std::string& name) const {
-    for (const Form* form : real_.program.pump.Windows().forms) {
-        if (Control* found = form->Find(name)) return *found;
+// Where the console's script ends, the program is left as it stands.
+void WindowScript::CloseAtOnce() {
+    Form& top = TopForm();
+    top.closeRequest = true;
+    host_.CatchUp(WindowOf(top));
+}
+
+// By the tab key, as far as the next control.
+bool WindowScript::LeaveFocus(Form& form, const Control* to) {
+    FormWindow& window = WindowOf(form);
+    const Control* field = window.FocusControl();
+    if (!AsksToLeave(field, to)) return true;
+    PressKeys(window, "Tab");
+    if (window.FocusControl() != field) return true;
+    host_.said << "kept " << field->name << '\n';
+    return false;
+}
+
+// Turns the tabs until the control is seen, and remembers which one was shown. False where it isn't seen.
+bool WindowScript::BringIntoView(Control& control) {
+    if (control.EffectivelyVisible()) return true;
+    MainForm& form = real_.form;
+    if (&control.form != &form || &TopForm() != &form || control.kind == ControlKind::MenuEntry) return false;
+    const std::string shown = form.tabMain.selectedKey;
+    for (std::size_t i = 0; i < form.tabMain.pages.size() && !control.EffectivelyVisible(); ++i) {
+        ClickTab(form.tabMain, i);
+        host_.CatchUp(WindowOf(form));
     }
-    throw std::runtime_error(Concat("unknown name '", name, "'"));
+    if (shownTab_.empty()) shownTab_ = shown;
+    return control.EffectivelyVisible();
 }
 
-template <typename Type>
-Type& WindowScript::FindAs(ControlKind kind, const std::string& name) const {
-    Control& found = Find(name);
-    if (found.kind != kind) throw std::runtime_error(name + " is another control");
-    return static_cast<Type&>(found);
+void WindowScript::TurnBack() {
+    TabStrip& tabs = real_.form.tabMain;
+    const std::string key = std::exchange(shownTab_, {});
+    for (std::size_t i = 0; i < tabs.pages.size(); ++i) {
+        if (tabs.pages[i].key == key) ClickTab(tabs, i);
+    }
+    if (!key.empty()) host_.CatchUp(WindowOf(real_.form));
+}
+
+bool WindowScript::Reach(Control& control) {
+    if (TakesFocus(control) && !LeaveFocus(control.form, &control)) return false;
+    BringIntoView(control);
+    return true;
 }
 
 void WindowScript::Click(Control& control) {
@@ -171,81 +198,109 @@ void WindowScript::Click(Control& control) {
     ClickButton(control);
 }
 
-void WindowScript::Set(Control& control, const std::string& text) {
-    const auto turn = [&](bool checked) {
-        if (checked != (text == "on")) Click(control);
-    };
-    switch (control.kind) {
-        case ControlKind::TextBox:
-            return SetText(control, text);
-        case ControlKind::ComboBox:
-            return SetCombo(static_cast<ComboBox&>(control), text);
-        case ControlKind::CheckBox:
-            return turn(static_cast<CheckBox&>(control).checked);
-        case ControlKind::OptionButton:
-            return turn(static_cast<OptionButton&>(control).checked);
-        case ControlKind::MenuEntry:
-            return turn(static_cast<MenuEntry&>(control).checked);
-        case ControlKind::TabStrip: {
-            const auto& tabs = static_cast<TabStrip&>(control);
-            const auto found = std::find_if(tabs.pages.begin(), tabs.pages.end(),
-                                            [&](const TabPage& page) { return page.key == text; });
-            return ClickTab(tabs, static_cast<std::size_t>(found - tabs.pages.begin()));
-        }
-        default:
-            throw std::runtime_error(Concat(control.name, " can't be set"));
-    }
+void WindowScript::Focus(Control& control) {
+    GoTo(control);
 }
 
-void WindowScript::SetText(Control& field, const std::string& text) {
+void WindowScript::Type(TextBox& field, const std::string& text) {
     ReplaceText(field, text);
-    FormWindow& window = WindowOf(field.form);
-    PressKeys(window, "Tab");
-    if (window.FocusControl() == &field) said_ << "kept " << field.name << '\n';
 }
 
-void WindowScript::SetCombo(ComboBox& combo, const std::string& text) {
-    const auto found = std::find_if(combo.entries.begin(), combo.entries.end(),
-                                    [&](const ComboEntry& entry) { return entry.text == text; });
-    if (found != combo.entries.end())
-        return ChooseComboEntry(combo, static_cast<std::int32_t>(found - combo.entries.begin()));
-    if (combo.style != ComboStyle::Editable) throw std::runtime_error(combo.name + " has no such entry");
+void WindowScript::LeaveField(TextBox& field) {
+    if (WindowOf(field.form).FocusControl() == &field) LeaveFocus(field.form, nullptr);
+}
+
+void WindowScript::Type(ComboBox& combo, const std::string& text) {
     ReplaceText(combo, text);
 }
 
-void WindowScript::Node(const TreeView& tree, const std::string& text, bool on) {
-    for (const std::int32_t place : tree.DisplayOrder()) {
-        const TreeNode& node = tree.At(place);
-        if (!EqualNoCase(node.text, text) && !EqualNoCase(node.key, text)) continue;
-        if (node.checked != on) ClickCheckMark(tree, place);
-        return;
-    }
-    throw std::runtime_error(Concat(tree.name, " has no node '", text, "'"));
+void WindowScript::ChooseEntry(ComboBox& combo, std::int32_t index) {
+    ChooseComboEntry(combo, index);
 }
 
-void WindowScript::Select(const ListView& list, const std::string& rows) {
-    if (rows == "all") {
-        GoTo(list);
-        return PressKeys(WindowOf(list.form), "Ctrl+A");
-    }
+void WindowScript::SelectTab(TabStrip& tabs, const TabPage& page) {
+    ClickTab(tabs, static_cast<std::size_t>(&page - tabs.pages.data()));
+}
+
+void WindowScript::CheckNode(TreeView& tree, std::int32_t node, bool) {
+    ClickCheckMark(tree, node);
+}
+
+void WindowScript::SelectRows(ListView& list, const std::vector<std::int32_t>& rows) {
     Qt::KeyboardModifiers keys = Qt::NoModifier;
-    for (const std::string_view row : SplitText(rows, ',')) {
-        ClickRow(list, Number(std::string(row)), keys);
-        keys = Qt::ControlModifier;
+    for (const std::int32_t row : rows) test::ClickRow(list, row, std::exchange(keys, Qt::ControlModifier));
+}
+
+void WindowScript::SelectAllRows(ListView& list, bool selected) {
+    if (!selected) throw ScriptEnd{"a mouse doesn't select none"};
+    GoTo(list);
+    PressKeys(WindowOf(list.form), "Ctrl+A");
+}
+
+void WindowScript::ClickRow(ListView& list, std::int32_t row) {
+    test::ClickRow(list, row);
+}
+
+void WindowScript::DoubleClickRow(ListView& list, std::int32_t row) {
+    test::DoubleClickRow(list, row);
+}
+
+void WindowScript::ClickColumn(ListView& list, std::int32_t column) {
+    test::ClickColumn(list, column);
+}
+
+void WindowScript::PressKey(Control& control, EventKey key) {
+    PressKey(control.form, key);
+}
+
+void WindowScript::PressKey(Form& form, EventKey key) {
+    const char* name = key == kKeyEnter    ? "Return"
+                       : key == kKeyEscape ? "Esc"
+                       : key == kKeyDelete ? "Del"
+                                           : "Ins";
+    PressKeys(WindowOf(form), name);
+}
+
+void WindowScript::AskForHelp(Form& form) {
+    PressKeys(WindowOf(form), "F1");
+}
+
+void WindowScript::DropFile(Form& form, const std::string& path) {
+    DropOn(WindowOf(form), QDir::current().absoluteFilePath(PathToQString(path)));
+}
+
+void WindowScript::PressCloseBox(Form& form) {
+    WindowOf(form).close();
+}
+
+void WindowScript::Rest(Control& control, std::int32_t node) {
+    if (!BringIntoView(control)) throw ScriptEnd{Concat(control.name, " can't be seen")};
+    RestOn(control, node);
+}
+
+const MenuEntry* WindowScript::OpenPopup(Control& control) {
+    const std::string name = PopupOf(control);
+    return static_cast<const MenuEntry*>(control.form.Find(name));
+}
+
+void WindowScript::Show(std::ostream& out, Control& control) {
+    if (BringIntoView(control)) {
+        out << Seen(control);
+    } else {
+        PrintControl(out, control);
     }
 }
 
-void WindowScript::Sort(const ListView& list, const std::string& caption) {
-    for (std::size_t i = 0; i < list.columns.size(); ++i) {
-        if (list.columns[i].caption == caption) return ClickColumn(list, static_cast<std::int32_t>(i));
-    }
-    throw std::runtime_error(Concat(list.name, " has no column '", caption, "'"));
+bool WindowScript::ShowsEnabled(Control& control) {
+    return BringIntoView(control) ? SeenEnabled(control) : control.EffectivelyEnabled();
 }
 
-void WindowScript::Reply(const std::string& word) {
-    for (const ButtonWord& button : kButtons) {
-        if (word == button.word) answers_.replies.push_back(button.answer);
-    }
+bool WindowScript::RunOther(const std::vector<std::string>& words) {
+    constexpr int kPressMilliseconds = 150;  // for which a button pressed by its mnemonic stays down
+    if (words[0] != "keys") return false;
+    for (std::size_t i = 1; i < words.size(); ++i) PressKeys(WindowOf(TopForm()), words[i]);
+    QTest::qWait(kPressMilliseconds);
+    return true;
 }
 
 void WindowScript::AnswerDialog() {
@@ -256,41 +311,59 @@ void WindowScript::AnswerDialog() {
     modal->setProperty(kAnswered, true);
     if (auto* box = qobject_cast<QMessageBox*>(modal)) AnswerMessage(*box);
     if (auto* dialog = qobject_cast<QFileDialog*>(modal)) AnswerFileDialog(*dialog);
+    if (auto* dialog = qobject_cast<QInputDialog*>(modal)) AnswerInput(*dialog);
 }
 
 // By the mnemonic of the button, or Escape.
 void WindowScript::AnswerMessage(QMessageBox& box) {
-    MessageAnswer answer = box.button(QMessageBox::Ok) != nullptr ? MessageAnswer::Ok : MessageAnswer::No;
-    for (const ButtonWord& button : kButtons) {
-        if (answers_.replies.empty() || answers_.replies.front() != button.answer) continue;
-        if (box.button(button.button) == nullptr) continue;
-        answer = button.answer;
-        answers_.replies.pop_front();
-        break;
+    std::vector<MessageAnswer> offered;
+    for (const auto& [button, answer] : kButtons) {
+        if (box.button(button) != nullptr) offered.push_back(answer);
     }
-    for (const ButtonWord& button : kButtons) {
-        if (answer != button.answer) continue;
-        said_ << "message " << kMarkWords[box.icon()] << " \"" << PrintedMessage(FromQString(box.text()))
-              << "\" -> " << button.word << '\n';
-        const QKeySequence keys = QKeySequence::mnemonic(box.button(button.button)->text());
+    const MessageAnswer answer = host_.answers.TakeReply(offered).value_or(AnswerWithoutReply(offered));
+    // A long text is cut on the screen, and whole in the details.
+    const QString text = box.detailedText().isEmpty() ? box.text() : box.detailedText();
+    host_.said << MessageLine(kMarkWords[box.icon()], FromQString(text), answer);
+    for (const auto& [button, meant] : kButtons) {
+        if (meant != answer) continue;
+        const QKeySequence keys = QKeySequence::mnemonic(box.button(button)->text());
         PressKeys(box, keys.isEmpty() ? "Esc" : keys.toString().toStdString());
     }
 }
 
 void WindowScript::AnswerFileDialog(QFileDialog& dialog) {
     const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
-    std::string path;
-    if (!answers_.paths.empty()) {
-        path = answers_.paths.front().value_or("");
-        answers_.paths.pop_front();
+    const bool folder = dialog.fileMode() == QFileDialog::Directory;
+    std::optional<std::string> path = host_.TakePath();
+    if (opens && path) {
+        const QFileInfo found(PathToQString(*path));
+        if (!found.exists() || found.isDir() != folder) path.reset();
     }
-    if (opens && !QFileInfo::exists(PathToQString(path))) path.clear();
-    said_ << "dialog " << (opens ? "open" : "save") << " \"" << dialog.windowTitle().toStdString() << "\" ->"
-          << (path.empty() ? "" : " ") << path << '\n';
-    if (path.empty()) return PressKeys(dialog, "Esc");
+    host_.said << DialogLine(opens ? "open" : "save", FromQString(dialog.windowTitle()), path);
+    if (!path) return PressKeys(dialog, "Esc");
+    const QString full = QDir::current().absoluteFilePath(PathToQString(*path));
     auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    name->setText(QDir::current().absoluteFilePath(PathToQString(path)));
     name->setFocus();
+    // The last letter by its key, since the dialog keeps to a file that it has chosen itself until one is
+    // typed. It may choose late, when it has read the folder.
+    for (int tries = 0; tries < kMostTries && dialog.selectedFiles() != QStringList(full); ++tries) {
+        if (tries > 0) QTest::qWait(kStepMilliseconds);
+        name->setText(full.chopped(1));
+        TypeText(dialog, full.right(1).toStdString());
+    }
+    PressKeys(dialog, "Return");
+}
+
+void WindowScript::AnswerInput(QInputDialog& dialog) {
+    auto& inputs = host_.answers.inputs;
+    std::optional<std::string> text;
+    if (!inputs.empty()) {
+        text = inputs.front();
+        inputs.pop_front();
+    }
+    host_.said << InputLine(FromQString(dialog.windowTitle()), FromQString(dialog.labelText()), text);
+    if (!text) return PressKeys(dialog, "Esc");
+    dialog.setTextValue(ToQString(*text));
     PressKeys(dialog, "Return");
 }
 

@@ -6,63 +6,106 @@
 #include <string>
 #include <vector>
 
-#include "console/ConsoleHost.h"
+#include "console/ScriptCommands.h"
+#include "desktop/DesktopHost.h"
 #include "qt/RealProgram.h"
 
 class QFileDialog;
+class QInputDialog;
 class QMessageBox;
 
 namespace orlo::test {
 
-// Runs a script of the console on the windows of a program, by mouse and keyboard, and answers the dialogs
-// that come up. It knows the commands that the tests need, and one of its own: `keys Alt+F Return ...`.
-class WindowScript : public QObject {
+// The desktop front end for a script: a timer fires when the script says so, what is printed goes to a file,
+// and a document is named instead of opened, as on the console.
+class ScriptHost : public DesktopHost {
   public:
-    // The program has started. Its main window is closed at the end of the script.
-    WindowScript(RealProgram& real, const std::string& script);
+    QueuedAnswers answers;
+    std::ostringstream said;  // to the user, and shown by the script, as the console prints it
+    std::string notBuilt;     // the control whose command isn't built yet, once one was chosen
 
-    // Runs events until the main window has closed. What was said to the user and shown, as the console
-    // prints it.
-    std::string Run();
+    std::optional<std::string> TakePath();
+    void FireTimer(const std::string& name);
+
+    void StartTimer(std::string_view name, int milliseconds) override;
+    bool ShowPrintDialog(std::string_view title) override;
+    PrintOutcome Print(std::string_view text) override;
+    bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
+    void ShowNotBuilt(std::string_view controlName) override { notBuilt = controlName; }
+
+  private:
+    std::string printPath_;
+};
+
+// Runs a script of the console on the windows of a program, by mouse and keyboard, and answers the dialogs
+// that come up. It has a command of its own: `keys Alt+F Return ...`.
+class WindowScript : public QObject, private ScriptActs {
+  public:
+    // The program has started on that host. Its main window is closed at the end of the script.
+    WindowScript(RealProgram& real, ScriptHost& host, const std::string& script);
+
+    // Runs events until the main window has closed.
+    void Run();
     // Of a line that could not be done, which ended the script; empty where there was none.
     const std::string& Fault() const { return fault_; }
 
   private:
-    using Words = std::vector<std::string>;
-
     Form& TopForm() const;
     void Step();
     void RunNextLine();
-    void RunCommand(const Words& words);
     void CloseTop();
-    Control& Find(const std::string& name) const;
-    template <typename Type>
-    Type& FindAs(ControlKind kind, const std::string& name) const;
+    void CloseAtOnce();
+    void Fail(const std::string& reason);
 
-    void Click(Control& control);
-    void Set(Control& control, const std::string& text);
-    void SetText(Control& field, const std::string& text);
-    void SetCombo(ComboBox& combo, const std::string& text);
-    void Node(const TreeView& tree, const std::string& text, bool on);
-    void Select(const ListView& list, const std::string& rows);
-    void Sort(const ListView& list, const std::string& caption);
-    void Reply(const std::string& word);
+    bool LeaveFocus(Form& form, const Control* to);
+    bool BringIntoView(Control& control);
+    void TurnBack();
+
+    bool Reach(Control& control) override;
+    void Click(Control& control) override;
+    void Focus(Control& control) override;
+    void Type(TextBox& field, const std::string& text) override;
+    void LeaveField(TextBox& field) override;
+    void Type(ComboBox& combo, const std::string& text) override;
+    void ChooseEntry(ComboBox& combo, std::int32_t index) override;
+    void SelectTab(TabStrip& tabs, const TabPage& page) override;
+    void CheckNode(TreeView& tree, std::int32_t node, bool on) override;
+    void SelectRows(ListView& list, const std::vector<std::int32_t>& rows) override;
+    void SelectAllRows(ListView& list, bool selected) override;
+    void ClickRow(ListView& list, std::int32_t row) override;
+    void DoubleClickRow(ListView& list, std::int32_t row) override;
+    void ClickColumn(ListView& list, std::int32_t column) override;
+    void PressKey(Control& control, EventKey key) override;
+    void PressKey(Form& form, EventKey key) override;
+    void AskForHelp(Form& form) override;
+    void DropFile(Form& form, const std::string& path) override;
+    void PressCloseBox(Form& form) override;
+    void FireTimer(const std::string& name) override { host_.FireTimer(name); }
+    void Quit() override { quitting_ = true; }
+    void Rest(Control& control, std::int32_t node) override;
+    const MenuEntry* OpenPopup(Control& control) override;
+    void Show(std::ostream& out, Control& control) override;
+    bool ShowsEnabled(Control& control) override;
+    bool RunOther(const std::vector<std::string>& words) override;
 
     void AnswerDialog();
     void AnswerMessage(QMessageBox& box);
     void AnswerFileDialog(QFileDialog& dialog);
+    void AnswerInput(QInputDialog& dialog);
 
     RealProgram& real_;
+    ScriptHost& host_;
     std::istringstream script_;
-    std::ostringstream said_;
+    ScriptCommands commands_;
     std::string fault_;
-    QueuedAnswers answers_;
     QTimer answering_;
-    int line_ = 0;
     int step_ = 0;
     int waited_ = 0;                  // steps since the last command
     const Form* actingIn_ = nullptr;  // whose command is being done
     bool quitting_ = false;           // all windows close, from the top
+    bool ended_ = false;              // there are no lines left
+    bool quitCancelled_ = false;
+    std::string shownTab_;  // the tab to turn back to; empty where it was not turned
 };
 
 }  // namespace orlo::test
