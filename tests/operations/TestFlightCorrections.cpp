@@ -196,15 +196,6 @@ TEST(FlightCorrections, LevelsAreDrawnForKnownAircraftFromTheSecondLegOn) {
     EXPECT_EQ(world.world.random.seedings, 0);
 }
 
-TEST(FlightCorrections, MinusLeavesTailNumbersAndNothingElse) {
-    CorrectionWorld world;
-    world.form.mnuToolsRemoveMinus.enabled = true;
-    const std::string rest = ",50%,24Hr,IFR,08:00:00,@09:00:00,-10,F,1,A-B,10:00:00,11:00:00,100,F,2,EDDF";
-    world.AddFlight("AC#1,D--A-B-" + rest);
-    ASSERT_TRUE(world.Press(world.form.mnuToolsRemoveMinus));
-    EXPECT_EQ(world.Line(0), "AC#1,DAB" + rest);
-}
-
 TEST(FlightCorrections, AToolIsOneUndoStepAndResetsTheViews) {
     CorrectionWorld world;
     world.AddFlight("AC#1,N-1,50%,24Hr,IFR,08:00:00,09:00:00,350,F,1,EDDM,09:00:00,11:00:00,350,F,2,EDDF");

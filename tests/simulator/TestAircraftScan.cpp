@@ -136,6 +136,14 @@ TEST(AircraftScan, AScanReplacesTheListAndFailsWithoutAFolder) {
     EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files, "", true));
 }
 
+FSAircraft ScanOne(const std::string& config) {
+    ScanWorld world;
+    world.session.rules.Classes = SampleClasses();
+    const auto& variants = world.Scan("[fltsim.0]\ntitle=A\n" + config);
+    EXPECT_EQ(variants.size(), 1u);
+    return variants.at(0);
+}
+
 TEST(AircraftScan, ClassValuesComeFromTheEntryOrTheProfile) {
     // Speed, levels, ranges, runway, parking, IFR share.
     const struct {
@@ -154,18 +162,14 @@ TEST(AircraftScan, ClassValuesComeFromTheEntryOrTheProfile) {
         {"A320", kClassNone, "333,-1,-1,-1,-1,-1,,-1,,-1"},
     };
     for (const auto& one : cases) {
-        ScanWorld world;
-        world.session.rules.Classes = SampleClasses();
-        const auto& variants = world.Scan(Concat("[fltsim.0]\ntitle=A\n[General]\natc_model=", one.model,
-                                                 "\n[Reference Speeds]\ncruise_speed=333\n"));
-        ASSERT_EQ(variants.size(), 1u);
-        EXPECT_EQ(variants[0].Class, one.code) << one.model;
-        EXPECT_EQ(Limits(variants[0]), one.limits) << one.model;
+        const FSAircraft aircraft =
+            ScanOne(Concat("[General]\natc_model=", one.model, "\n[Reference Speeds]\ncruise_speed=333\n"));
+        EXPECT_EQ(aircraft.Class, one.code) << one.model;
+        EXPECT_EQ(Limits(aircraft), one.limits) << one.model;
     }
 }
 
 TEST(AircraftScan, ModelAndTypeOfTheFileWinOverThoseOfTheSection) {
-    const std::string section = "[fltsim.0]\ntitle=A\natc_model=737\natc_type=X172\n[General]\n";
     const struct {
         const char* general;
         const char* modelAndType;
@@ -180,12 +184,9 @@ TEST(AircraftScan, ModelAndTypeOfTheFileWinOverThoseOfTheSection) {
         {"atc_model=A320\n", "A320 X172", kClassNone},
     };
     for (const auto& one : cases) {
-        ScanWorld world;
-        world.session.rules.Classes = SampleClasses();
-        const auto& variants = world.Scan(section + one.general);
-        ASSERT_EQ(variants.size(), 1u);
-        EXPECT_EQ(variants[0].ATCModel + " " + variants[0].ATCType, one.modelAndType);
-        EXPECT_EQ(variants[0].Class, one.code) << one.general;
+        const FSAircraft aircraft = ScanOne(Concat("atc_model=737\natc_type=X172\n[General]\n", one.general));
+        EXPECT_EQ(aircraft.ATCModel + " " + aircraft.ATCType, one.modelAndType);
+        EXPECT_EQ(aircraft.Class, one.code) << one.general;
     }
 }
 

@@ -290,7 +290,7 @@ struct SceneryWorld : FakeWorld {
     }
 };
 
-TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCache) {
+TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCacheWhileThatIsWhole) {
     SceneryWorld world;
     world.clock.now = 86400 / 2;
     ASSERT_TRUE(ReadScenery(world.session, world.services));
@@ -312,16 +312,13 @@ TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCache) {
     ASSERT_TRUE(ReadAFDCache(world.files, world.cachePath, records, header));
     EXPECT_EQ(header.Count, 2);
     EXPECT_EQ(header.Date, 25569.5);
-}
 
-TEST(Scenery, ADamagedCacheIsReplacedFromTheSimulator) {
-    SceneryWorld world;
-    ASSERT_TRUE(ReadScenery(world.session, world.services));
     const std::string good = world.files.files[world.cachePath];
-    world.files.files[world.cachePath] = good.substr(0, good.size() - 1);
+    world.files.files[world.cachePath] = good.substr(0, good.size() - 1);  // damaged
+    world.SetSimulator(NativePath("\\fs"));
     world.session.scenery.Airports.clear();
     ASSERT_TRUE(ReadScenery(world.session, world.services));
-    EXPECT_EQ(world.session.scenery.Airports.size(), 2u);
+    EXPECT_EQ(world.session.scenery.Airports, airports);
     EXPECT_EQ(world.files.files[world.cachePath], good);
 }
 
