@@ -6,6 +6,7 @@
 #include "core/Application.h"
 #include "core/Text.h"
 #include "core/TimeZoneNames.h"
+#include "forms/EmptyHints.h"
 
 namespace orlo {
 namespace {
@@ -148,6 +149,7 @@ MainForm::MainForm() : Form("frmMain", kApplicationTitle) {
     SetUpLists(*this);
     SetUpFields(*this);
     DisableForStart(*this);
+    SetEmptyHints(*this);
 }
 
 }  // namespace orlo

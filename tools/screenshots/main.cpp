@@ -64,12 +64,13 @@ class Photographer {
     void TakeAll(const std::string& plan, bool least) {
         Take(program_.forms.frmSplash, "splash");
         CloseSplash(program_.context);
+        if (least) WindowOf(form_)->resize(form_.leastWidth, form_.leastHeight);
+        TakePanes("start-");
         answering_.start(kSettle);
         OpenFlightplan(program_.context, plan);
         answering_.stop();
-        if (least) WindowOf(form_)->resize(form_.leastWidth, form_.leastHeight);
         Settle();
-        TakePanes();
+        TakePanes("");
         TakeMenus();
         TakeProgress();
         TakeMessage();
@@ -120,7 +121,7 @@ class Photographer {
         tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
     }
 
-    void TakePanes() {
+    void TakePanes(const QString& prefix) {
         for (const auto& [key, name] :
              {std::pair{"SHUFFLE", "shuffle"}, std::pair{"MOVE", "move"}, std::pair{"EXPORT", "export"},
               std::pair{"TIMETABLE", "timetable"}, std::pair{"PROJECT", "project"}}) {
@@ -128,7 +129,7 @@ class Photographer {
             if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
             if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
             if (form_.picExport.visible) SearchAll();
-            Take(form_, name);
+            Take(form_, prefix + name);
         }
     }
 
