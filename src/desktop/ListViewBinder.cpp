@@ -13,6 +13,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include "desktop/EmptyHint.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
@@ -63,6 +64,7 @@ class ListTable : public QTableView {
   public:
     ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
+    void DrawHint() { hint_.Draw(*this, list_.Count() == 0 ? list_.emptyHint : std::string()); }
 
     // A row is shown without a move sideways, unless it is the column that is wanted.
     void scrollTo(const QModelIndex& index, ScrollHint hint) override {
@@ -81,6 +83,11 @@ class ListTable : public QTableView {
     }
 
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        QTableView::paintEvent(event);
+        hint_.Paint(*this);
+    }
+
     // Keys move by whole rows.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
         const int rows = model() == nullptr ? 0 : model()->rowCount();
@@ -116,6 +123,7 @@ class ListTable : public QTableView {
 
   private:
     const ListView& list_;
+    EmptyHint hint_;
     bool alongColumns_ = false;  // while a key moves from column to column
     mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
@@ -202,6 +210,7 @@ void ListViewBinder::DrawContent() {
     DrawHeader();
     DrawSelection();
     DrawCurrent();
+    static_cast<ListTable&>(shown_).DrawHint();
 }
 
 void ListViewBinder::DrawRows() {

@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "desktop/EmptyHint.h"
+
 namespace orlo {
 namespace {
 
@@ -27,8 +29,16 @@ class NodeDelegate : public QStyledItemDelegate {
 class NodeTree : public QTreeView {
   public:
     using QTreeView::QTreeView;
+    void DrawHint(const TreeView& tree) {
+        hint_.Draw(*this, tree.Count() == 0 ? tree.emptyHint : std::string());
+    }
 
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        QTreeView::paintEvent(event);
+        hint_.Paint(*this);
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         const bool typing = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
         const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
@@ -43,6 +53,7 @@ class NodeTree : public QTreeView {
     }
 
   private:
+    EmptyHint hint_;
     QElapsedTimer typed_;  // since the last letter or digit of a name
 };
 
@@ -107,6 +118,7 @@ void TreeViewBinder::DrawContent() {
         drawnCurrent_ = tree_.current;
         shown_.setCurrentIndex(model_.IndexOf(tree_.current));
     }
+    static_cast<NodeTree&>(shown_).DrawHint(tree_);
 }
 
 void TreeViewBinder::OpenKeptNodes() {

@@ -121,6 +121,7 @@ struct ListView : Control {
     // blank. Empty without a selection.
     std::string SelectedText() const;
 
+    std::string emptyHint;                             // drawn in the list while it has no rows
     std::map<std::string, std::int32_t> columnWidths;  // those that the user chose, by column key
     bool ensureVisibleRequest = false;                 // of the current row; taken once by the front end
     std::int64_t contentRevision = 0;                  // counts changes of columns, rows, texts and colours

@@ -1,6 +1,7 @@
 #include "forms/MainForm.h"
 
 #include "core/Application.h"
+#include "forms/EmptyHints.h"
 
 namespace orlo {
 
@@ -25,6 +26,7 @@ MainForm::MainForm()
       ProjectPane(static_cast<Form&>(*this)) {
     defaultButton = &cmdShuffle;
     takesFiles = true;
+    SetEmptyHints(*this);
 }
 
 }  // namespace orlo

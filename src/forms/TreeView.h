@@ -48,6 +48,7 @@ struct TreeView : Control {
     std::vector<std::int32_t> roots;  // places, as displayed
     std::int32_t current = -1;
     bool checkBoxes = true;
+    std::string emptyHint;             // drawn in the tree while it has no nodes
     std::int64_t contentRevision = 0;  // counts adds, clears and sorts
     std::int64_t stateRevision = 0;    // whoever changes checks, colours or tags raises it
 

@@ -4,6 +4,7 @@
 #include "core/FlightplanFile.h"
 #include "core/PlanSideFiles.h"
 #include "core/Text.h"
+#include "forms/EmptyHints.h"
 #include "mainwindow/AircraftTrees.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
@@ -97,6 +98,7 @@ void ShowPlan(Context& context, BusyForm& busy) {
     ResetTimetableView(context);
     ResetExportView(context);
     ResetMoverView(context);
+    ClearPlanHints(form);
     form.tvShuffleAircraft.visible = true;
     form.tvMoveAircrafts.visible = true;
     session.plan.PlanLoaded = true;

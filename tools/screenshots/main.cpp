@@ -68,12 +68,13 @@ class Photographer {
     bool TakeAll(const std::string& plan, bool least) {
         Take(program_.forms.frmSplash, "splash");
         CloseSplash(program_.context);
+        if (least) WindowOf(form_)->resize(form_.leastWidth, form_.leastHeight);
+        TakePanes("start-");
         answering_.start(kSettle);
         OpenFlightplan(program_.context, plan);
         answering_.stop();
-        if (least) WindowOf(form_)->resize(form_.leastWidth, form_.leastHeight);
         Settle();
-        TakePanes();
+        TakePanes("");
         TakeMenus();
         TakeProgress();
         TakeMessage();
@@ -137,13 +138,14 @@ class Photographer {
         tree->expand(tree->model()->index(1, 0, tree->model()->index(0, 0)));
     }
 
-    void TakePanes() {
+    void TakePanes(const QString& prefix) {
         for (const PaneFacts& pane : Panes()) {
             ShowTab(pane.key);
             if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
             if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
             if (form_.picExport.visible) SearchAll();
-            Take(form_, QString::fromUtf8(pane.key.data(), static_cast<int>(pane.key.size())).toLower());
+            Take(form_,
+                 prefix + QString::fromUtf8(pane.key.data(), static_cast<int>(pane.key.size())).toLower());
         }
     }
 
