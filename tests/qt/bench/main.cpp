@@ -20,6 +20,7 @@
 
 #include "core/Text.h"
 #include "desktop/EdgeStyle.h"
+#include "platform/Platform.h"
 #include "qt/RealProgram.h"
 #include "qt/UserHands.h"
 
