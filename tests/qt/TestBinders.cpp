@@ -199,17 +199,6 @@ TEST_F(Binders, ATextOfTheStatusBarKeepsItsDistanceFromTheEdges) {
     EXPECT_NE(drawn(0, bar.width()), all);
 }
 
-TEST_F(Binders, TipsAskTheirProcedure) {
-    std::vector<std::int32_t> nodes;
-    form.on["Hover tvNodes"] = [&](Context&, Event& event) { nodes.push_back(event.value); };
-    auto& tree = desktop.Find<QTreeView>(form.tvNodes);
-    for (const QPoint place : {tree.visualRect(tree.model()->index(0, 0)).center(), QPoint(5, 90)}) {
-        QHelpEvent rest(QEvent::ToolTip, place, tree.viewport()->mapToGlobal(place));
-        QApplication::sendEvent(tree.viewport(), &rest);
-    }
-    EXPECT_EQ(nodes, (std::vector{0, -1}));
-}
-
 TEST_F(Binders, EveryControlOfEveryFormHasItsWidgetNameAndBuddy) {
     for (const FormFacts& facts : AllForms()) {
         Form* of = &facts.form(desktop.program.forms);

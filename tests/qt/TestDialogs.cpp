@@ -94,18 +94,6 @@ TEST_F(Dialogs, ASaveDialogAsksAboutANameThatDiffersOnlyInCase) {
     }
 }
 
-TEST_F(Dialogs, AFolderDialogGivesAFolder) {
-    const Folders folders;
-    for (const bool accepted : {true, false}) {
-        InDialog<QFileDialog>([&](QFileDialog& shown) {
-            if (!accepted) return shown.reject();
-            test::Choose(shown, folders.Path("exports"));
-        });
-        EXPECT_EQ(desktop.host.ShowFolderDialog("Folder", folders.Path("plans")),
-                  accepted ? folders.Path("exports") : "");
-    }
-}
-
 QByteArray ReadAll(const std::string& path) {
     QFile file(QString::fromStdString(path));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

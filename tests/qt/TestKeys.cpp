@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QDropEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
@@ -49,17 +48,6 @@ TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
     DesktopProgram::Settle();
     EXPECT_TRUE(form.ran.empty());
-}
-
-TEST_F(Keys, F1AsksForHelpWhereverTheFocusIs) {
-    for (Control* control :
-         std::initializer_list<Control*>{&form.txtName, &form.cmFree, &form.lvRows, &form.cmdGo}) {
-        desktop.Focus(*control);
-        form.ran.clear();
-        desktop.Key(form, Qt::Key_F1);
-        DesktopProgram::Settle();
-        EXPECT_EQ(form.Ran("Help form"), 1) << control->name;
-    }
 }
 
 TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
@@ -131,32 +119,25 @@ TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     std::string path;
     form.on["DropFile form"] = [&](Context&, Event& event) { path = event.path; };
     const auto drop = [](QWidget& widget, const QMimeData& data) {
-        QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
-                              Qt::NoModifier);
-        QApplication::sendEvent(&widget, &enter);
-        if (!enter.isAccepted()) return false;
-        QDropEvent event(QPointF(3, 3), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(&widget, &event);
-        EXPECT_EQ(event.dropAction(), Qt::CopyAction);
+        const Qt::DropAction taken = test::DropOn(widget, data);
         DesktopProgram::Settle();
-        return true;
+        return taken;
     };
     QMimeData file;
     file.setUrls({QUrl("http://somewhere/plan.txt"), QUrl::fromLocalFile("/plans/a b.txt")});
     for (QWidget* widget :
          {static_cast<QWidget*>(&desktop.WindowOf(form)), &desktop.Find<QWidget>(form.txtName)}) {
         path.clear();
-        EXPECT_TRUE(drop(*widget, file));
+        EXPECT_EQ(drop(*widget, file), Qt::CopyAction);
         EXPECT_EQ(path, "/plans/a b.txt");
     }
     EXPECT_EQ(form.txtName.text, "");
 
     QMimeData text;
     text.setText("text");
-    EXPECT_FALSE(drop(desktop.WindowOf(form), text));
+    EXPECT_EQ(drop(desktop.WindowOf(form), text), Qt::IgnoreAction);
     form.enabled = false;
-    EXPECT_FALSE(drop(desktop.WindowOf(form), file));
+    EXPECT_EQ(drop(desktop.WindowOf(form), file), Qt::IgnoreAction);
     EXPECT_EQ(form.Ran("DropFile form"), 2);
 }
 

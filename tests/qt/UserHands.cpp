@@ -17,7 +17,6 @@
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
-#include <QUrl>
 #include <QWindow>
 #include <algorithm>
 #include <sstream>
@@ -240,14 +239,14 @@ void GoTo(const Control& control) {
         throw std::runtime_error(Concat("the tab key doesn't reach ", control.name));
 }
 
-void DropOn(QWidget& window, const QString& path) {
-    QMimeData file;
-    file.setUrls({QUrl::fromLocalFile(path)});
-    QDragEnterEvent enter(QPoint(), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &enter);
-    if (!enter.isAccepted()) throw std::runtime_error("the window takes no files");
-    QDropEvent drop(QPointF(), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &drop);
+Qt::DropAction DropOn(QWidget& widget, const QMimeData& data) {
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(3, 3), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &enter);
+    if (!enter.isAccepted()) return Qt::IgnoreAction;
+    QDropEvent drop(QPointF(3, 3), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &drop);
+    return drop.dropAction();
 }
 
 void RestOn(const Control& control, std::int32_t node) {

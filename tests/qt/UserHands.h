@@ -9,6 +9,8 @@
 #include "forms/ListView.h"
 #include "forms/TreeView.h"
 
+class QMimeData;
+
 namespace orlo::test {
 
 // What a user does to a control by mouse and keyboard, by way of the system's window. Each throws
@@ -35,7 +37,8 @@ void DoubleClickRow(const ListView& list, std::int32_t position);
 void ClickColumn(const ListView& list, std::int32_t column);
 // Goes there by the tab key.
 void GoTo(const Control& control);
-void DropOn(QWidget& window, const QString& path);
+// What was taken of copying and moving; nothing where the drop was refused.
+Qt::DropAction DropOn(QWidget& widget, const QMimeData& data);
 void RestOn(const Control& control, std::int32_t node);  // -1: beside the nodes of a tree
 // The name of the pop-up menu that a right click opens, and Escape closes again; empty for none.
 std::string PopupOf(const Control& control);

@@ -10,15 +10,16 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTest>
+#include <QUrl>
 #include <array>
 #include <stdexcept>
 #include <utility>
 
 #include "console/ControlPrinting.h"
 #include "core/Text.h"
-#include "qt/UserHands.h"
 #include "shell/UserHands.h"
 
 namespace orlo::test {
@@ -198,32 +199,8 @@ void WindowScript::Click(Control& control) {
     ClickButton(control);
 }
 
-void WindowScript::Focus(Control& control) {
-    GoTo(control);
-}
-
-void WindowScript::Type(TextBox& field, const std::string& text) {
-    ReplaceText(field, text);
-}
-
 void WindowScript::LeaveField(TextBox& field) {
     if (WindowOf(field.form).FocusControl() == &field) LeaveFocus(field.form, nullptr);
-}
-
-void WindowScript::Type(ComboBox& combo, const std::string& text) {
-    ReplaceText(combo, text);
-}
-
-void WindowScript::ChooseEntry(ComboBox& combo, std::int32_t index) {
-    ChooseComboEntry(combo, index);
-}
-
-void WindowScript::SelectTab(TabStrip& tabs, const TabPage& page) {
-    ClickTab(tabs, static_cast<std::size_t>(&page - tabs.pages.data()));
-}
-
-void WindowScript::CheckNode(TreeView& tree, std::int32_t node, bool) {
-    ClickCheckMark(tree, node);
 }
 
 void WindowScript::SelectRows(ListView& list, const std::vector<std::int32_t>& rows) {
@@ -237,22 +214,6 @@ void WindowScript::SelectAllRows(ListView& list, bool selected) {
     PressKeys(WindowOf(list.form), "Ctrl+A");
 }
 
-void WindowScript::ClickRow(ListView& list, std::int32_t row) {
-    test::ClickRow(list, row);
-}
-
-void WindowScript::DoubleClickRow(ListView& list, std::int32_t row) {
-    test::DoubleClickRow(list, row);
-}
-
-void WindowScript::ClickColumn(ListView& list, std::int32_t column) {
-    test::ClickColumn(list, column);
-}
-
-void WindowScript::PressKey(Control& control, EventKey key) {
-    PressKey(control.form, key);
-}
-
 void WindowScript::PressKey(Form& form, EventKey key) {
     const char* name = key == kKeyEnter    ? "Return"
                        : key == kKeyEscape ? "Esc"
@@ -261,16 +222,10 @@ void WindowScript::PressKey(Form& form, EventKey key) {
     PressKeys(WindowOf(form), name);
 }
 
-void WindowScript::AskForHelp(Form& form) {
-    PressKeys(WindowOf(form), "F1");
-}
-
 void WindowScript::DropFile(Form& form, const std::string& path) {
-    DropOn(WindowOf(form), QDir::current().absoluteFilePath(PathToQString(path)));
-}
-
-void WindowScript::PressCloseBox(Form& form) {
-    WindowOf(form).close();
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(QDir::current().absoluteFilePath(PathToQString(path)))});
+    DropOn(WindowOf(form), file);
 }
 
 void WindowScript::Rest(Control& control, std::int32_t node) {

@@ -9,6 +9,7 @@
 #include "console/ScriptCommands.h"
 #include "desktop/DesktopHost.h"
 #include "qt/RealProgram.h"
+#include "qt/UserHands.h"
 
 class QFileDialog;
 class QInputDialog;
@@ -63,23 +64,25 @@ class WindowScript : public QObject, private ScriptActs {
 
     bool Reach(Control& control) override;
     void Click(Control& control) override;
-    void Focus(Control& control) override;
-    void Type(TextBox& field, const std::string& text) override;
+    void Focus(Control& control) override { GoTo(control); }
+    void Type(TextBox& field, const std::string& text) override { ReplaceText(field, text); }
     void LeaveField(TextBox& field) override;
-    void Type(ComboBox& combo, const std::string& text) override;
-    void ChooseEntry(ComboBox& combo, std::int32_t index) override;
-    void SelectTab(TabStrip& tabs, const TabPage& page) override;
-    void CheckNode(TreeView& tree, std::int32_t node, bool on) override;
+    void Type(ComboBox& combo, const std::string& text) override { ReplaceText(combo, text); }
+    void ChooseEntry(ComboBox& combo, std::int32_t index) override { ChooseComboEntry(combo, index); }
+    void SelectTab(TabStrip& tabs, const TabPage& page) override {
+        ClickTab(tabs, static_cast<std::size_t>(&page - tabs.pages.data()));
+    }
+    void CheckNode(TreeView& tree, std::int32_t node, bool) override { ClickCheckMark(tree, node); }
     void SelectRows(ListView& list, const std::vector<std::int32_t>& rows) override;
     void SelectAllRows(ListView& list, bool selected) override;
-    void ClickRow(ListView& list, std::int32_t row) override;
-    void DoubleClickRow(ListView& list, std::int32_t row) override;
-    void ClickColumn(ListView& list, std::int32_t column) override;
-    void PressKey(Control& control, EventKey key) override;
+    void ClickRow(ListView& list, std::int32_t row) override { test::ClickRow(list, row); }
+    void DoubleClickRow(ListView& list, std::int32_t row) override { test::DoubleClickRow(list, row); }
+    void ClickColumn(ListView& list, std::int32_t column) override { test::ClickColumn(list, column); }
+    void PressKey(Control& control, EventKey key) override { PressKey(control.form, key); }
     void PressKey(Form& form, EventKey key) override;
-    void AskForHelp(Form& form) override;
+    void AskForHelp(Form& form) override { PressKeys(WindowOf(form), "F1"); }
     void DropFile(Form& form, const std::string& path) override;
-    void PressCloseBox(Form& form) override;
+    void PressCloseBox(Form& form) override { WindowOf(form).close(); }
     void FireTimer(const std::string& name) override { host_.FireTimer(name); }
     void Quit() override { quitting_ = true; }
     void Rest(Control& control, std::int32_t node) override;
