@@ -12,7 +12,7 @@ struct Layout;
 // One place in a row. A field, list or tree brings its label (LabelOf): beside a field of one line, above all
 // else.
 struct LayoutItem {
-    LayoutItem(Control& controlOf) : control(&controlOf) {}
+    LayoutItem(Control& controlOf);
 
     Control* control;
     Button* button = nullptr;    // stands behind the field, such as "Change..."
@@ -44,6 +44,8 @@ struct Layout {
     std::vector<LayoutRow> rows;
     int columns = 1;  // of fields
 };
+
+inline LayoutItem::LayoutItem(Control& controlOf) : control(&controlOf) {}
 
 LayoutItem WithButton(Control& field, Button& button);
 LayoutItem Holding(Control& container, Layout inside);
