@@ -202,7 +202,12 @@ void ScriptCommands::SortColumn(const Words& words) {
 void ScriptCommands::Key(const Words& words) {
     const bool help = EqualNoCase(words[2], "F1");
     const EventKey key = KeyNamed(words[2]);
-    if (Form* form = FindForm(words[1])) return help ? acts_.AskForHelp(*form) : acts_.PressKey(*form, key);
+    if (Form* form = FindForm(words[1])) {
+        // A form without a frame goes by any key.
+        if (!help && key == kKeyOther && !form->frameless)
+            throw ScriptEnd{Concat("unknown key '", words[2], "'")};
+        return help ? acts_.AskForHelp(*form) : acts_.PressKey(*form, key);
+    }
     Control& control = Usable(words[1]);
     if (!TakesFocus(control)) throw ScriptEnd{Concat(control.name, " takes no focus")};
     if (!acts_.Reach(control)) return;

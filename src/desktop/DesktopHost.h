@@ -3,11 +3,12 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
+#include "core/KeyedIndex.h"
 #include "desktop/InputFilter.h"
 #include "desktop/InputSink.h"
 #include "forms/ProgressForm.h"
@@ -108,7 +109,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     ProgressForm* progress_ = nullptr;
     std::vector<FormWindow*> windows_;  // in the order of opening; their toolkit parents own none of them
     std::vector<Loop> loops_;           // the innermost last
-    std::map<std::string, std::unique_ptr<QTimer>, std::less<>> timers_;
+    std::unordered_map<std::string, std::unique_ptr<QTimer>, NoCaseHash, NoCaseEqual> timers_;
     InputFilter filter_{*this};
     bool runPosted_ = false;
     QTimer drawTimer_;

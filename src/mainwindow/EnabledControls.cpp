@@ -67,11 +67,10 @@ void EnableTimetablePane(Context& context) {
 void EnableProjectPane(Context& context) {
     MainForm& form = context.forms.frmMain;
     form.cmdProjectAdd.enabled = context.session.project.ProjectBegun;
-    Enable({&form.cmdProjectDelete, &form.cmdProjectMerge, &form.cmdProjectCompile},
-           form.lvProject.Count() > 0);
-    Enable({&form.frProject, &form.lblProjectFile, &form.lblProjectDescription, &form.lblProjectAC,
+    Enable({&form.cmdProjectDelete, &form.cmdProjectMerge, &form.cmdProjectCompile, &form.frProject,
+            &form.lblProjectFile, &form.lblProjectDescription, &form.lblProjectAC,
             &form.txtProjectDescription, &form.cmdProjectFile, &form.cmdProjectAC},
-           !form.CurrentProjectKey.empty());
+           form.lvProject.current >= 0);
 }
 
 void EnableAll(Context& context) {

@@ -1,5 +1,7 @@
 #include "shell/EventIndex.h"
 
+#include "core/Text.h"
+
 namespace orlo {
 namespace {
 
@@ -13,7 +15,7 @@ bool EventIndex::Add(Form& form, EventTable table) {
     bool added = true;
     for (const EventEntry& entry : table) {
         if (entry.kind == EventKind::Timer) {
-            added &= timers_.try_emplace(entry.timer, &entry).second;
+            added &= timers_.try_emplace(UpperText(entry.timer), &entry).second;
             continue;
         }
         const Control* control = entry.control == nullptr ? nullptr : &entry.control(form);
@@ -24,7 +26,7 @@ bool EventIndex::Add(Form& form, EventTable table) {
 
 const EventEntry* EventIndex::Find(const Event& event) const {
     if (event.kind == EventKind::Timer) {
-        const auto timer = timers_.find(event.name);
+        const auto timer = timers_.find(UpperText(event.name));
         return timer == timers_.end() ? nullptr : timer->second;
     }
     const auto found = entries_.find({TargetOf(event.form, event.control), event.kind});

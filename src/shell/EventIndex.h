@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <string>
 #include <utility>
 
 #include "forms/Event.h"
@@ -20,7 +21,7 @@ class EventIndex {
   private:
     using Key = std::pair<const void*, EventKind>;  // control, or form for an event of the form itself
     std::map<Key, const EventEntry*> entries_;
-    std::map<std::string_view, const EventEntry*> timers_;
+    std::map<std::string, const EventEntry*> timers_;  // by upper-cased name
 };
 
 }  // namespace orlo

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Text.h"
+#include "mainwindow/EnabledControls.h"
 #include "shell/FormFacts.h"
 #include "shell/Title.h"
 
@@ -94,7 +95,8 @@ void EventPump::Run(Event& event) {
         return;
     }
     if (entry->procedure == nullptr) {
-        context_.services.windows.ShowNotBuilt(event.control->name);
+        context_.services.windows.ShowNotBuilt(event.control != nullptr ? event.control->name
+                                                                        : event.form->name);
         return;
     }
     ++running_;
@@ -126,6 +128,7 @@ void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
     main.HandlingNodeCheck = false;
     main.tvShuffleAircraft.visible = context_.session.plan.PlanLoaded;
     main.tvMoveAircrafts.visible = context_.session.plan.PlanLoaded;
+    EnableAll(context_);
     main.sbMain.text = Concat("The operation ended early: ", reason, ".");
 }
 

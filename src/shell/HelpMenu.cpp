@@ -53,14 +53,15 @@ void OnSplash(Context& context, Event&) {
 }
 
 constexpr std::array kAboutEvents = {
+    EventEntry{nullptr, EventKind::Help, ShowHelpPage},
     EventEntry{ControlOf<AboutForm, &AboutForm::cmdOK>, EventKind::Click, OnAboutOk},
     EventEntry{ControlOf<AboutForm, &AboutForm::cmdSysInfo>, EventKind::Click, OnSystemInformation},
 };
 
 constexpr std::array kSplashEvents = {
     EventEntry{ControlOf<SplashForm, &SplashForm::picSplash>, EventKind::Click, OnSplash},
-    EventEntry{ControlOf<SplashForm, &SplashForm::picSplash>, EventKind::KeyUp, OnSplash},
     EventEntry{nullptr, EventKind::KeyUp, OnSplash},
+    EventEntry{nullptr, EventKind::Close, OnSplash},
 };
 
 }  // namespace

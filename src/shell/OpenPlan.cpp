@@ -52,6 +52,7 @@ void EraseOldPlan(Context& context) {
     session.fleet.FSAircrafts.clear();
     session.search = {};
     form.lvExPreview.Clear();
+    form.lvTimetable.Clear();
 
     const FrozenForm frozen(form);
     form.tvShuffleAircraft.visible = false;

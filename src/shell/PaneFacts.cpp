@@ -19,6 +19,15 @@ const PaneFacts& ChosenPane(const MainForm& form) {
     return found == panes.end() ? panes.front() : *found;
 }
 
+const PaneFacts* PaneAround(const MainForm& form, const Control& control) {
+    const Control* outermost = &control;
+    while (outermost->parent != nullptr) outermost = outermost->parent;
+    const auto panes = Panes();
+    const auto found = std::find_if(panes.begin(), panes.end(),
+                                    [&](const PaneFacts& pane) { return &(form.*pane.pane) == outermost; });
+    return found == panes.end() ? nullptr : &*found;
+}
+
 void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width) {
     layout.SetFormHeight(height);
     layout.SetFormWidth(width);

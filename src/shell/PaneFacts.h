@@ -61,6 +61,8 @@ PaneFacts ProjectPaneFacts();
 std::span<const PaneFacts> Panes();
 // Of the tab that is chosen.
 const PaneFacts& ChosenPane(const MainForm& form);
+// Of the pane that the control stands in; null for none.
+const PaneFacts* PaneAround(const MainForm& form, const Control& control);
 
 // Registers the controls of the main window that follow its size, for its present inner size.
 void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width);

@@ -1,6 +1,25 @@
 #include "shell/UserHands.h"
 
+#include "shell/PaneFacts.h"
+
 namespace orlo {
+namespace {
+
+Button* Pressable(Button* button) {
+    return button != nullptr && button->EffectivelyEnabled() && button->EffectivelyVisible() ? button
+                                                                                             : nullptr;
+}
+
+// The default button of a pane behind another tab that holds the focus, which a script may reach; null where
+// the focus stands elsewhere.
+Button* DefaultBehindTab(Form& form, const Control* focus) {
+    auto* main = dynamic_cast<MainForm*>(&form);
+    const PaneFacts* pane = main != nullptr && focus != nullptr ? PaneAround(*main, *focus) : nullptr;
+    if (pane == nullptr || (main->*pane->pane).visible) return nullptr;
+    return &(main->*pane->defaultButton);
+}
+
+}  // namespace
 
 bool TakesFocus(const Control& control) {
     switch (control.kind) {
@@ -27,13 +46,14 @@ bool EnterEndsLine(const Control* focus) {
     return box.style != TextBoxStyle::SingleLine && !box.readOnly;
 }
 
-Button* ButtonOfKey(const Form& form, EventKey key, Control* focus) {
-    if (key == kKeyEnter && EnterEndsLine(focus)) return nullptr;
-    Button* button = key == kKeyEnter ? form.defaultButton : key == kKeyEscape ? form.cancelButton : nullptr;
-    if (key == kKeyEnter && focus != nullptr && focus->kind == ControlKind::Button)
-        button = static_cast<Button*>(focus);
-    if (button == nullptr || !button->EffectivelyEnabled()) return nullptr;
-    return button == focus || button->EffectivelyVisible() ? button : nullptr;
+Button* ButtonOfKey(Form& form, EventKey key, Control* focus) {
+    if (key == kKeyEscape) return Pressable(form.cancelButton);
+    if (key != kKeyEnter || EnterEndsLine(focus)) return nullptr;
+    if (focus != nullptr && focus->kind == ControlKind::Button)
+        return focus->EffectivelyEnabled() ? static_cast<Button*>(focus) : nullptr;
+    if (Button* behind = DefaultBehindTab(form, focus))
+        return behind->EffectivelyEnabled() ? behind : nullptr;
+    return Pressable(form.defaultButton);
 }
 
 template <typename Write>
@@ -52,7 +72,7 @@ bool UserHands::Deliver(Form& form, EventKind kind, std::int32_t value) {
 bool UserHands::MoveFocus(Control& to) {
     Form& form = to.form;
     if (form.focus == &to || !TakesFocus(to)) return true;
-    if (AsksToLeave(form.focus, nullptr) && !Leave(*form.focus)) return false;
+    if (AsksToLeave(form.focus, &to) && !Leave(*form.focus)) return false;
     form.focus = &to;
     form.focusRequest = false;
     return true;
@@ -139,7 +159,9 @@ bool UserHands::ReleaseKey(Control& focus, EventKey key) {
 }
 
 bool UserHands::PressKey(Form& form, EventKey key) {
-    return Deliver(form, EventKind::KeyUp, key);
+    if (form.frameless) return Deliver(form, EventKind::KeyUp, key);
+    Button* button = ButtonOfKey(form, key, form.focus);
+    return button != nullptr && Press(*button);
 }
 
 bool UserHands::AskForHelp(Form& form) {

@@ -24,7 +24,7 @@ bool AsksToLeave(const Control* focus, const Control* to);
 bool EnterEndsLine(const Control* focus);
 // The button that Enter or Escape presses while that control has the focus; null where there is none, or
 // where it is disabled or hidden.
-Button* ButtonOfKey(const Form& form, EventKey key, Control* focus);
+Button* ButtonOfKey(Form& form, EventKey key, Control* focus);
 
 // Each act writes the control and delivers the event, at once. An act is false where the event was dropped,
 // which leaves the control as it was, or refused.
@@ -52,7 +52,7 @@ class UserHands {
     bool ClickColumn(ListView& list, std::int32_t column);
     bool PressKey(Control& focus, EventKey key);  // Enter and Escape press their buttons
     bool ReleaseKey(Control& focus, EventKey key);
-    bool PressKey(Form& form, EventKey key);  // on one that gives no control the focus
+    bool PressKey(Form& form, EventKey key);  // wherever its focus stands, if it has one
     bool AskForHelp(Form& form);
     bool DropFile(Form& form, std::string_view path);
     bool Hover(Control& control, std::int32_t node);  // -1: on none; the tool tip is written then

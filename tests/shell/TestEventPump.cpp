@@ -44,10 +44,12 @@ TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {
 TEST(FormFacts, EveryActingControlOfEveryFormIsWiredOnceAndEachTabHasItsPane) {
     test::FakeProgram fake;
     Forms& forms = fake.program.forms;
+    EventIndex index;
+    std::set<const Form*> listed;
     for (const FormFacts& facts : AllForms()) {
         Form& form = facts.form(forms);
         SCOPED_TRACE(form.name);
-        EventIndex index;
+        EXPECT_TRUE(listed.insert(&form).second) << "listed twice";
         for (const EventTable table : facts.events()) EXPECT_TRUE(index.Add(form, table)) << "wired twice";
         for (Control* control : form.Controls()) {
             const bool acts = control->kind == ControlKind::Button || control->kind == ControlKind::MenuEntry;
