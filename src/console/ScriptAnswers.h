@@ -31,8 +31,8 @@ std::string_view AnswerWord(MessageAnswer answer);
 // Nothing for any other word; case counts.
 std::optional<MessageAnswer> AnswerOfWord(std::string_view word);
 
-// The lines that print what was said to the user, each with its LF. The answer stands behind an arrow; of a
-// cancel nothing does.
+// The lines that print what was said to the user, each with its LF. The answer stands behind an arrow;
+// nothing does without a path or text, which is a cancel.
 std::string MessageLine(std::string_view mark, std::string_view text, MessageAnswer answer);
 std::string DialogLine(std::string_view what, std::string_view title, const std::optional<std::string>& path);
 std::string InputLine(std::string_view title, std::string_view prompt,
