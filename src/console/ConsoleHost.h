@@ -15,16 +15,17 @@ namespace orlo {
 
 struct Program;
 
-// The services of the console: everything said to the user is a line of output, every question is answered
-// from the queues.
+// The front end of the console: prints everything that is said to the user as a line, and answers questions,
+// dialogs and input boxes from the queues.
 class ConsoleHost : public FrontEnd {
   public:
     ConsoleHost(FileSystem& files, std::ostream& out, bool strict, bool trace)
         : files_(files), out_(out), strict_(strict), trace_(trace) {}
 
-    // The program whose forms are drawn; and what runs script lines until a modal form has closed.
+    // The program must outlive this. `runModal` runs lines of the script until the form's close request.
+    // Before the call no form is shown.
     void Attach(Program& program, std::function<void(Form&)> runModal);
-    // Draws the progress bar on a terminal; null: nowhere.
+    // Where the progress bar is drawn, a terminal; null for nowhere.
     void DrawBarOn(std::ostream* bar) { bar_ = bar; }
 
     QueuedAnswers answers;

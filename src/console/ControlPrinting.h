@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// What the commands that read a control print. docs/console.md tells the forms.
+// What the commands that read a control print; docs/console.md tells how.
 void PrintControl(std::ostream& out, const Control& control);
 void PrintRows(std::ostream& out, const ListView& list);
 void PrintEntries(std::ostream& out, const ComboBox& combo);

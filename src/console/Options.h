@@ -21,6 +21,7 @@ struct ConsoleOptions {
     std::string fault;                  // what is wrong with the command line; empty when nothing is
 };
 
+// Without the program's own name. Of several faults the last one is told.
 ConsoleOptions ParseConsoleOptions(const std::vector<std::string>& arguments);
 
 // What --help prints.

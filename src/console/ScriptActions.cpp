@@ -1,4 +1,4 @@
-// What the console does for the commands of a script: the acts of a user's hands, without a screen.
+// What the console does for the commands of a script.
 
 #include "console/ControlPrinting.h"
 #include "console/ScriptRunner.h"

@@ -13,30 +13,32 @@
 
 namespace orlo {
 
-// Ends a script from anywhere; passes every handler of failures.
+// Thrown to end a script. It is no std::exception, so that no handler of a procedure's failures catches it.
 struct ScriptEnd {
     std::string reason;
 };
 
-// How a front end does what a script tells it to. The controls are enabled, not hidden but for a pane behind
-// another tab, and under no modal form; entries, rows and nodes are there. Texts are bytes as the forms hold
-// them; rows are counted as displayed. An act that the front end can't do throws ScriptEnd.
+// How a front end does what a script tells it to. Texts are bytes as the forms hold them; rows are counted
+// from 0 as displayed; entries, rows and nodes that are named exist. A control that is used is enabled and
+// under no modal form, and it is shown, or hidden only because its pane is behind another tab. A control that
+// is only read, by Rest, Show or ShowsEnabled, can be in any state. An act that the front end can't do throws
+// ScriptEnd.
 class ScriptActs {
   public:
     virtual ~ScriptActs() = default;
 
-    // Before a control is used: leaves the field that has the focus. False, with a line that says so, where
-    // that field keeps it.
+    // Before a control is used: leaves the field that has the focus. False where that field refuses; then
+    // "kept FIELD" is printed and the focus stays.
     virtual bool Reach(Control& control) = 0;
 
     virtual void Click(Control& control) = 0;
     virtual void Focus(Control& control) = 0;
     virtual void Type(TextBox& field, const std::string& text) = 0;
-    virtual void LeaveField(TextBox& field) = 0;  // says so where it keeps the focus
+    virtual void LeaveField(TextBox& field) = 0;  // prints "kept FIELD" where the field refuses
     virtual void Type(ComboBox& combo, const std::string& text) = 0;
     virtual void ChooseEntry(ComboBox& combo, std::int32_t index) = 0;
     virtual void SelectTab(TabStrip& tabs, const TabPage& page) = 0;
-    virtual void CheckNode(TreeView& tree, std::int32_t node, bool on) = 0;  // it is otherwise now
+    virtual void CheckNode(TreeView& tree, std::int32_t node, bool on) = 0;  // only where that is a change
     virtual void SelectRows(ListView& list, const std::vector<std::int32_t>& rows) = 0;
     virtual void SelectAllRows(ListView& list, bool selected) = 0;
     virtual void ClickRow(ListView& list, std::int32_t row) = 0;
@@ -47,17 +49,18 @@ class ScriptActs {
     virtual void AskForHelp(Form& form) = 0;
     virtual void DropFile(Form& form, const std::string& path) = 0;
     virtual void PressCloseBox(Form& form) = 0;
-    virtual void FireTimer(const std::string& name) = 0;  // it is armed
+    virtual void FireTimer(const std::string& name) = 0;  // an armed one
     virtual void Quit() = 0;
 
-    // Lets the pointer rest on the control, or on that node of a tree where it isn't -1, for its tool tip.
+    // Lets the pointer rest on the control, and of a tree on that node, -1 for none, so that the control's
+    // tool tip is up to date.
     virtual void Rest(Control& control, std::int32_t node) = 0;
     virtual const MenuEntry* OpenPopup(Control& control) = 0;  // null for none
-    // What stands in the control.
+    // Prints what stands in the control, as PrintControl does.
     virtual void Show(std::ostream& out, Control& control) = 0;
     virtual bool ShowsEnabled(Control& control) = 0;
 
-    // A command that this front end alone knows; false for any other.
+    // Runs a command of this front end alone. False where it has none of that name.
     virtual bool RunOther(const std::vector<std::string>&) { return false; }
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kAnyWords = 1000;
 
-// A word that may be left away.
+// The word behind the command, where there is one.
 std::optional<std::string> Optional(const std::vector<std::string>& words) {
     return words.size() > 1 ? std::optional(words[1]) : std::nullopt;
 }
@@ -40,7 +40,7 @@ std::string ScriptCommands::Fault(const ScriptEnd& end) const {
     return Concat("line ", lineNumber_, ": ", ToScreen(end.reason));
 }
 
-// Up to a CR LF, LF or CR.
+// A line ends with CR LF, LF or CR. False at the end of the script.
 bool ScriptCommands::ReadLine(std::string& line) {
     for (int byte = script_.get(); byte != std::istream::traits_type::eof(); byte = script_.get()) {
         if (byte == '\r' && script_.peek() == '\n') script_.get();

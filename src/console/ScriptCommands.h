@@ -13,18 +13,18 @@
 
 namespace orlo {
 
-// The commands of a script: reads its lines, finds what they name in the open forms, and prints what they ask
-// for. What they do is up to the acts of the front end.
+// Reads the lines of a script, finds the controls that they name in the open forms, and prints what they ask
+// for. What they do to the controls is up to the front end (ScriptActs).
 class ScriptCommands {
   public:
-    // Outlived by all that it is given.
+    // All that is given must outlive this.
     ScriptCommands(Program& program, ScriptActs& acts, QueuedAnswers& answers, std::istream& script,
                    std::ostream& out);
 
-    // Does the next line, which may be a blank or a comment. False at the end of the script. Throws ScriptEnd
-    // where the line can't be done.
+    // Runs the next line; a blank line and a comment do nothing. False at the end of the script. Throws
+    // ScriptEnd where the line can't be run.
     bool RunNextLine();
-    // "line N: " and the reason, for the screen.
+    // "line N: " with the reason, where N is the line read last, counted from 1; UTF-8.
     std::string Fault(const ScriptEnd& end) const;
 
   private:
@@ -67,12 +67,14 @@ class ScriptCommands {
     void Enabled(const Words& words);
     void Echo(const Words& words);
 
-    // Looks a control up in the open forms, topmost first; "FORM.CONTROL" names one exactly.
+    // Looks a control up in the open forms, topmost first, case aside; "FORM.CONTROL" names one exactly.
+    // Throws ScriptEnd where there is none, or none of that kind.
     Control& FindControl(std::string_view name) const;
-    Form* FindForm(std::string_view name) const;
+    Form* FindForm(std::string_view name) const;  // of the open ones; null for none
     template <typename Type>
     Type& FindAs(std::string_view name, ControlKind kind) const;
-    // The same for a control that is to be used: it must be enabled and in reach.
+    // The same for a control that is to be used. Throws ScriptEnd also where it is disabled, hidden or under
+    // a modal form.
     Control& Usable(std::string_view name) const;
     template <typename Type>
     Type& UsableAs(std::string_view name, ControlKind kind) const;

@@ -33,8 +33,8 @@ int ScriptRunner::Run() {
     return 0;
 }
 
-// Runs script lines on a modal form until it closes. A quit and the end of the script press its close box;
-// where the form refuses, the quit is over, and the end of the script ends it all the same.
+// Runs script lines until the modal form closes. A quit and the end of the script press its close box. Where
+// the form refuses, the quit is given up; at the end of the script the form closes all the same.
 void ScriptRunner::RunUntilClosed(Form& form) {
     while (!form.closeRequest) {
         if (!quitting_ && RunNextLine()) continue;
@@ -52,8 +52,9 @@ bool ScriptRunner::RunNextLine() {
     return true;
 }
 
-// Closes the main window, after the close box of each form above it. Modal forms unwind from the top: the
-// loops that run them see `quitting_`, close their form and return to the operation that showed it.
+// Closes the main window, after the close box of each modal form above it. The topmost form closes first:
+// each RunUntilClosed sees `quitting_`, closes its form and returns to the operation that showed the form.
+// The last one is Run, which calls this again.
 void ScriptRunner::Quit() {
     quitting_ = program_.pump.Windows().TopModal() != nullptr;
     if (quitting_) return;

@@ -13,21 +13,21 @@
 
 namespace orlo {
 
-// Runs a script on a program, command by command; a modal form takes the commands until it closes.
+// Runs a script on a program. While a modal form is open, the lines run within the ShowModal that opened it.
 class ScriptRunner : private ScriptActs {
   public:
+    // All that is given must outlive this. `strict`: answers left over at the end are a failure.
     ScriptRunner(Program& program, ConsoleHost& host, std::istream& script, std::ostream& out,
                  std::ostream& errors, bool strict);
 
-    // Runs to the end of the script, which closes the program as the user would. The result is the exit
-    // status: 0, or 2 with the reason on `errors` when the script could not go on; then no settings are
-    // written.
+    // Runs the script; its end closes the main window as the user would. Gives the exit status: 0, or 2 with
+    // the reason on `errors` where the script could not go on.
     int Run();
 
   private:
     void RunUntilClosed(Form& form);
     bool RunNextLine();
-    bool Kept(const Control& field);
+    bool Kept(const Control& field);  // prints that the field refused; always false
 
     bool Reach(Control& control) override;
     void Click(Control& control) override;
@@ -62,7 +62,7 @@ class ScriptRunner : private ScriptActs {
     std::ostream& out_;
     std::ostream& errors_;
     bool strict_;
-    bool quitting_ = false;  // the forms above the main window close one by one
+    bool quitting_ = false;  // the modal forms close one by one
     bool scriptEnded_ = false;
     bool quitCancelled_ = false;
     bool closed_ = false;

@@ -9,7 +9,6 @@ bool IsBlank(char character) {
     return character == ' ' || character == '\t';
 }
 
-// Line breaks, CR LF as one, and tabs as escapes.
 std::string WithEscapes(std::string_view text) {
     std::string out = ReplaceAll(ReplaceAll(text, "\r\n", "\\n"), "\n", "\\n");
     return ReplaceAll(ReplaceAll(out, "\r", "\\n"), "\t", "\\t");

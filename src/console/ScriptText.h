@@ -7,14 +7,14 @@
 
 namespace orlo {
 
-// The words of a script line: separated by blanks and tabs; a word in double quotes may hold them, with ""
-// for a quote inside. Nothing when a quote isn't closed.
+// The words of a script line, which blanks and tabs separate. A word that begins with a double quote ends at
+// the next one; it can hold blanks and tabs, and "" is a quote in it. Nothing where a quote isn't closed.
 std::optional<std::vector<std::string>> SplitScriptLine(std::string_view line);
 
-// A text as one printed piece: UTF-8, TAB and line breaks as \t and \n.
+// A text for the output, without a line end: UTF-8, with \t for a TAB and \n for each CR LF, CR or LF.
 std::string Printed(std::string_view text);
 
-// The same for the text of a message or input box, where a backslash is doubled.
+// The same with each backslash doubled, for the text of a message, a title or a prompt.
 std::string PrintedMessage(std::string_view text);
 
 }  // namespace orlo

@@ -12,12 +12,12 @@
 namespace orlo {
 namespace {
 
-// Whether a text is the one that a script names: as typed, or as its code page 1252 form; case aside.
+// Whether the script's word names the text, case aside. Words are UTF-8; a text can be in code page 1252.
 bool IsNamed(std::string_view text, std::string_view word) {
     return EqualNoCase(text, word) || EqualNoCase(text, FromScreen(word));
 }
 
-// Panes behind other tabs can be used; what is hidden otherwise can't.
+// A pane behind another tab, which is a Picture, doesn't count as hidden.
 bool IsHidden(const Control& control) {
     for (const Control* at = &control; at != nullptr; at = at->parent) {
         if (!at->visible && at->kind != ControlKind::Picture) return true;

@@ -1,4 +1,4 @@
-// The console program: makes the services of this system and runs a script on the program.
+// The console program: makes the system's services and runs a script on the planner.
 
 #include <exception>
 #include <filesystem>
@@ -21,12 +21,13 @@ namespace {
 constexpr int kStartUpFailed = 1;
 constexpr int kScriptFailed = 2;
 
-// Words of the command line are UTF-8 on Windows, and the system's bytes elsewhere.
+// Words of the command line are UTF-8 on Windows, and the system's bytes elsewhere. A path made of char8_t
+// takes both as they are.
 std::filesystem::path ScriptPath(const std::string& word) {
     return std::u8string(word.begin(), word.end());
 }
 
-// Writes nothing before the script has run to its end: one that could not go on leaves no settings.
+// Holds the settings back until the script has run to its end, so that one that could not go on writes none.
 class HeldSettings : public SettingsStore {
   public:
     explicit HeldSettings(std::unique_ptr<SettingsStore> store) : store_(std::move(store)) {}
@@ -58,7 +59,7 @@ int RunScript(const ConsoleOptions& options, std::istream& script, SystemService
         std::cout << std::flush;
         return kStartUpFailed;
     }
-    // The option answers before all settings.
+    // The option counts before the user's own setting, which the start has read.
     if (options.simulator) program.session.SimulatorFolder.clear();
     const int status = runner.Run();
     if (status == 0 && !userSettings.WriteHeld())

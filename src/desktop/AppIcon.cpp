@@ -7,7 +7,7 @@
 namespace orlo {
 namespace {
 
-// In units of the emblem's side.
+// In parts of the emblem's side.
 constexpr double kCorner = 0.18;
 constexpr double kRouteWidth = 0.07;
 constexpr double kAirportRadius = 0.10;

@@ -30,7 +30,7 @@ void Binder::Draw() {
 }
 
 void Binder::DrawCommon() {
-    // The toolkit passes both on to the children of a container, as the form does.
+    // The control's own states: the toolkit applies those of a container to its children, as the form does.
     if (drawnVisible_ != control_.visible) widget_.setVisible(control_.visible);
     drawnVisible_ = control_.visible;
     const bool ownEnabled = !widget_.testAttribute(Qt::WA_ForceDisabled);

@@ -11,9 +11,9 @@
 
 namespace orlo {
 
-// Ties one control of a form to its widget: draws the control by comparing it with what was drawn last,
-// writes it when the user acts, and posts the event. The widget belongs to its window and outlives the
-// binder.
+// Ties one control of a form to its widget. It draws what has changed in the control since the last drawing;
+// when the user acts, it writes the control and posts the event. The widget is owned by its window; it, the
+// control and the sink must outlive the binder.
 class Binder {
   public:
     Binder(Control& control, QWidget& widget, EventSink& sink);
@@ -24,20 +24,20 @@ class Binder {
     Control& Of() const { return control_; }
     QWidget& Widget() const { return widget_; }
 
-    // Brings the widget to what the control says. The contents of a hidden control wait until it is shown.
+    // Shows in the widget what the control says. The contents of a hidden control wait until it is shown.
     void Draw();
-    // Shows the pointer of the form where the widget has one of its own.
+    // Shows the form's pointer in a widget that has a pointer of its own.
     virtual void DrawPointer(PointerShape) {}
-    // Does what the control asks for once, and clears the requests.
+    // Carries out the control's requests and clears them.
     virtual void TakeRequests() {}
-    // What a Hover at this place of `on`, the widget or one inside it, tells as its value.
+    // The value of a Hover at this place of the widget's content: a tree's node, or -1 for none.
     virtual std::int32_t HoverValue(const QPoint&) const { return -1; }
 
   protected:
     virtual void DrawContent() = 0;
 
-    // Lets `write` write the form and posts the event; where it would be dropped the widget goes back to what
-    // the form says.
+    // Runs `write`, which writes the form, and posts the event. Where the event would be dropped, the form
+    // stays as it is and the widget goes back to it.
     template <typename Write>
     void UserActs(EventKind kind, Write write, std::int32_t value = 0) {
         const Event event{&control_.form, &control_, kind, value};
@@ -48,14 +48,14 @@ class Binder {
             GoBack();
         }
     }
-    // Brings the widget back to the form after the user changed it alone.
+    // Shows again what the form says, after the user changed the widget alone.
     virtual void GoBack() {}
     bool Takes(EventKind kind) const { return sink_.Accepts({&control_.form, &control_, kind}); }
     void Post(EventKind kind, std::int32_t value = 0) {
         sink_.Post({&control_.form, &control_, kind, value});
     }
 
-    // The receiver of connections, so that they end with the binder.
+    // The receiver of the signals' connections, which end with it.
     QObject life;
 
   private:
@@ -70,10 +70,10 @@ class Binder {
     Colour drawnColour_ = Colour::WindowText;
 };
 
-// A text that was drawn last; empty before the first drawing.
+// The text that was drawn last; none before the first drawing.
 class DrawnText {
   public:
-    // Whether the text is another one; it counts as drawn from now on.
+    // Whether the text differs from it. The text counts as drawn from now on.
     bool Changes(const std::string& text) {
         if (drawn_ == text) return false;
         drawn_ = text;
@@ -84,7 +84,7 @@ class DrawnText {
     std::optional<std::string> drawn_;
 };
 
-// A form keeps its texts with the mnemonic's "&". Where the toolkit draws it as it stands, it is left out.
+// The caption without the "&" of its mnemonic, for widgets that would draw it; "&&" becomes "&".
 QString WithoutMnemonic(const std::string& caption);
 
 }  // namespace orlo

@@ -36,7 +36,7 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink
       combo_(combo),
       shown_(static_cast<QComboBox&>(Widget())),
       model_(combo) {
-    // Measuring all entries takes long where they are many. The wheel alone moves no focus.
+    // The width isn't fitted to the entries: it takes long to measure many. The wheel gives no focus.
     shown_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     shown_.setMinimumContentsLength(kLeastCharacters);
     shown_.setFocusPolicy(Qt::StrongFocus);
@@ -49,7 +49,7 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink
                      [this](int index) { UserActs(EventKind::Change, [&] { combo_.index = index; }); });
 }
 
-// What is typed stands for itself: nothing completes it, and no entry is made of it.
+// What is typed is neither completed nor made an entry.
 void ComboBoxBinder::MakeEditable() {
     shown_.setEditable(true);
     shown_.setInsertPolicy(QComboBox::NoInsert);
@@ -72,7 +72,7 @@ void ComboBoxBinder::DrawContent() {
         model_.Reset();
         text_ = DrawnText();
     }
-    // What the user typed stands in the field already; a drawing touches what code has changed.
+    // What the user typed is in the field already; a drawing writes only what code has changed.
     if (!shown_.isEditable() || text_.Changes(combo_.Text())) GoBack();
 }
 

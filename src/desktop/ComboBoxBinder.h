@@ -7,8 +7,8 @@
 
 namespace orlo {
 
-// Reads the entries when they are asked for. Its count is the one of the last drawing, so that entries may
-// come and go in between.
+// Reads the entries when the toolkit asks for them. Their number is that of the last Reset, so that code may
+// add and remove entries between two drawings.
 class ComboModel : public QAbstractListModel {
   public:
     explicit ComboModel(const ComboBox& combo) : combo_(combo) {}

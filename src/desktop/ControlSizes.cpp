@@ -20,7 +20,7 @@
 namespace orlo {
 namespace {
 
-constexpr int kHintCharacters = 17;  // for which the toolkit makes the room in a field
+constexpr int kHintCharacters = 17;  // that a line edit's size hint has room for
 constexpr int kLeastListWidth = 200;
 constexpr int kRowRoom = 4;
 constexpr int kStatusRoom = 4;
@@ -99,7 +99,7 @@ QMargins FrameMargins() {
     frame.ensurePolished();
     frame.resize(frame.sizeHint() + QSize(100, 100));
     const LayoutSpace space = SpaceOfStyle();
-    // The edges of the frame, with its title, and the style's space within them.
+    // The frame's edges and title, and the style's space inside them.
     return frame.contentsMargins() + QMargins(space.across, space.down / 2, space.across, space.down);
 }
 

@@ -6,8 +6,8 @@
 
 namespace orlo {
 
-// The application object. The toolkit lets no exception pass through its loops, so that one that strays from
-// a widget, a model or a timer ends here and the loop goes on.
+// The application object. The toolkit's event loops can't pass an exception on. One that a widget, a model or
+// a timer throws ends here, and the loop goes on.
 class DesktopApplication : public QApplication {
   public:
     // `count` must outlive the object.
@@ -15,7 +15,7 @@ class DesktopApplication : public QApplication {
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    // Told what strayed; may be empty.
+    // Called with the exception's text. Empty: the exception is dropped.
     std::function<void(const std::string& reason)> onFailure;
 };
 

@@ -1,4 +1,5 @@
-// The dialogs of the desktop front end. While one is open it is the topmost modal window for the pump too.
+// The dialogs of the desktop front end. While one is open, `dialogForm_` is the pump's topmost modal form, so
+// that the user can use no other form.
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -61,13 +62,13 @@ QMessageBox::StandardButtons ButtonsOf(int flags) {
     }
 }
 
-// The first one, wherever the desktop's habits put it.
+// The toolkit would take its own first button, and each system has them in another order.
 QMessageBox::StandardButton DefaultOf(int flags) {
     if ((flags & 0x0F) != kButtonsYesNoCancel && (flags & 0x0F) != kButtonsYesNo) return QMessageBox::Ok;
     return (flags & kDefaultSecondButton) != 0 ? QMessageBox::No : QMessageBox::Yes;
 }
 
-// What fits on a screen with the buttons below.
+// The text or its beginning, so that the buttons stay on the screen.
 QString ShortMessage(std::string_view text) {
     constexpr std::ptrdiff_t kMostLines = 20;
     const QString whole = ToQString(text);
@@ -105,13 +106,13 @@ MessageAnswer AnswerOf(int button) {
     }
 }
 
-// "Name|Pattern;Pattern|..." as the toolkit writes it.
+// "Name|Pattern;Pattern|..." in the toolkit's form, "Name (Pattern Pattern)" each.
 QStringList FiltersOf(const std::string& filter) {
     QStringList filters;
     const std::vector<std::string_view> parts = SplitText(filter, '|');
     for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
         const std::string name(BeforeFirst(parts[i], " ("));
-        // A name without a dot is one of "all files" too.
+        // "*.*" stands for all files, those without a dot too.
         const std::string patterns = ReplaceAll(ReplaceAll(parts[i + 1], ";", " "), "*.*", "*");
         filters << ToQString(Concat(name, " (", patterns, ")"));
     }
@@ -126,7 +127,8 @@ QString FolderOf(const std::string& path) {
     return QFileInfo(folder).isAbsolute() && QFileInfo(folder).isDir() ? folder : QString();
 }
 
-// A dialog that is asked with no folder opens in the one where the last of its kind ended.
+// Opens the dialog in the folder of its start file, else in its start folder, else where the last dialog of
+// its kind ended.
 void SetUp(QFileDialog& shown, const FileDialog& dialog, const QString& lastFolder) {
     const QStringList filters = FiltersOf(dialog.filter);
     if (!filters.isEmpty()) {
@@ -149,7 +151,8 @@ std::string ChosenPath(QFileDialog& shown, QString& lastFolder) {
     return PathFromQString(shown.selectedFiles().front());
 }
 
-// A file is found without regard to case; the dialog asks only about one of exactly that name.
+// Whether the file may be written. Files are found without regard to case, but the toolkit's dialog has asked
+// only about one of exactly that name; this asks about one in another case.
 bool MayReplace(QFileDialog& dialog, const std::string& path) {
     const QFileInfo chosen(PathToQString(path));
     if (chosen.exists()) return true;
@@ -228,8 +231,8 @@ std::optional<std::string> DesktopHost::InputBox(std::string_view prompt, std::s
     return FromQString(shown.textValue());
 }
 
-// Of the toolkit's dialogs only some have a row of buttons; where the system shows its own, that has a
-// preview itself or none.
+// Adds a button "Preview" where the dialog is the toolkit's own. Where the system shows its dialog, that one
+// has a preview or none.
 bool DesktopHost::ShowPrintDialog(std::string_view title) {
     const DialogRound round(*this);
     if (printer_ == nullptr) printer_ = MakeTextPrinter();
@@ -251,7 +254,7 @@ bool DesktopHost::ShowPrintDialog(std::string_view title) {
 
 PrintOutcome DesktopHost::Print(std::string_view text) {
     if (printer_ == nullptr) return PrintOutcome::Failed;
-    // Nothing else may use the printer meanwhile.
+    // Events run between the lines; none may use the printer.
     const DialogRound round(*this);
     if (!previewWanted_) {
         const bool printed = PrintText(text, *printer_, [this] { ProcessEvents(); });
@@ -259,7 +262,7 @@ PrintOutcome DesktopHost::Print(std::string_view text) {
     }
     QPrintPreviewDialog shown(printer_.get(), OwnerWindow(nullptr));
     shown.setWindowTitle(printer_->docName());
-    // Asked for the pages that are looked at, and once more for those that are printed.
+    // The pages are asked for to show them, and once more to print them.
     bool printed = true;
     QObject::connect(&shown, &QPrintPreviewDialog::paintRequested, &shown,
                      [text, &printed](QPrinter* printer) { printed = PrintText(text, *printer, [] {}); });

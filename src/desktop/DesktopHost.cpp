@@ -14,7 +14,7 @@ namespace orlo {
 namespace {
 
 constexpr qint64 kDrawMilliseconds = 40;  // 25 times a second
-constexpr int kAboveCentre = 32;          // pixels between the centres of progress and owner
+constexpr int kAboveCentre = 32;          // pixels from the owner's centre up to that of the progress window
 
 const QEvent::Type kRunQueued = static_cast<QEvent::Type>(QEvent::registerEventType());
 
@@ -29,7 +29,7 @@ void PlaceOverOwner(FormWindow& window) {
 
 }  // namespace
 
-// A modal form and its round of events, which end together in whatever way the loop ends.
+// Opens a modal form in the pump, and closes it there and on the screen in whatever way its loop ends.
 class DesktopHost::ModalRound {
   public:
     ModalRound(DesktopHost& host, Form& form, Form* owner)
@@ -68,7 +68,7 @@ void DesktopHost::Attach(EventPump& pump, ProgressForm& progress) {
 void DesktopHost::Detach() {
     drawTimer_.stop();
     timers_.clear();
-    // From the last one, so that children go before their parents.
+    // The last one first: a parent deletes its children.
     while (!windows_.empty()) {
         FormWindow* window = windows_.back();
         windows_.pop_back();
@@ -219,7 +219,7 @@ void DesktopHost::ShowModal(Form& form, Form* owner) {
     RunUntilClosed(form);
 }
 
-// A modal form ends its loop first, and is unloaded where it was shown.
+// A modal form gets a close request; its ShowModal then closes the window.
 void DesktopHost::UnloadForm(Form& form) {
     if (pump_ == nullptr) return;
     const std::vector<Form*>& modal = pump_->Windows().modal;
@@ -231,7 +231,8 @@ void DesktopHost::UnloadForm(Form& form) {
     }
 }
 
-// A widget of the window may be handling an event up the stack. What stands in the window goes with it.
+// Hides the window and deletes it later, since one of its widgets may be handling an event up the stack. The
+// windows whose parent it is close with it.
 void DesktopHost::Shut(Form& form) {
     pump_->Windows().Unload(form);
     FormWindow* window = Find(form);
@@ -241,10 +242,10 @@ void DesktopHost::Shut(Form& form) {
     for (const FormWindow* other : others) {
         if (other->parentWidget() == window && other->Shown() != nullptr) Shut(*other->Shown());
     }
-    // After a modal window even where the system has not said yet that it was the active one.
+    // A modal window counts as active: the system may not have said so yet.
     const bool active = window->isActiveWindow() || window->windowModality() != Qt::NonModal;
     QWidget* owner = active ? window->parentWidget() : nullptr;
-    // One that belongs to another stands over it each time.
+    // The next time the window is placed over its owner again.
     if (window->parentWidget() != nullptr) form.box = WindowBox();
     window->Release();
     window->hide();
@@ -265,7 +266,8 @@ void DesktopHost::SetValue(int value) {
     if (progress_ != nullptr) progress_->pbProgress.value = value;
 }
 
-// A part of the owner's window, which so keeps the focus, and without a close box.
+// The progress display is a child of the owner's window: so it has no close box, and the owner keeps the
+// focus.
 void DesktopHost::Show(Form* owner) {
     if (pump_ == nullptr) return;
     QWidget* parent = OwnerWindow(owner);

@@ -22,26 +22,25 @@ namespace orlo {
 class EventPump;
 
 // The desktop front end over an event pump: windows for the forms, dialogs, timers, and the loops that run
-// events. One lives beside the application object; the pump and the forms come after it and go before it,
-// except for what stays in RunUntilClosed.
+// events. The application object must outlive it. The pump and the forms must live from Attach to Detach.
 class DesktopHost : public QObject, public InputSink, public FrontEnd {
   public:
     DesktopHost();
     ~DesktopHost() override;
 
-    // Until it is called nothing is shown.
+    // Until it is called no form is shown.
     void Attach(EventPump& pump, ProgressForm& progress);
-    // Closes all windows and lets go of the pump.
+    // Deletes all windows, stops the timers and forgets the pump and the forms.
     void Detach();
 
-    // Says in the status bar that a part of the screen failed.
+    // Says in the status bar that a drawing failed, and why.
     void TellFailure(const std::string& reason);
 
     // Runs events until the form's close request.
     void RunUntilClosed(Form& form);
 
-    // Lets the form close with its questions, as its close box does. False while something runs or another
-    // window has to be answered first, and where the user wants to stay.
+    // Runs the form's close box with its questions at once. True where the form is to close. False where the
+    // user cancels, and, without a question, while an operation runs or a modal window is open.
     bool AskToClose(Form& form);
 
     // InputSink
@@ -100,14 +99,14 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     static void Present(FormWindow& window);
     void Shut(Form& form);
     void PlaceProgress(FormWindow& window);
-    QWidget* OwnerWindow(const Form* owner) const;  // else the topmost modal one, else the first
+    QWidget* OwnerWindow(const Form* owner) const;  // of null: the topmost modal one, else the first
     void ScheduleDraw();
     void DrawWhenDue();
     void DrawAll();
 
     EventPump* pump_ = nullptr;
     ProgressForm* progress_ = nullptr;
-    std::vector<FormWindow*> windows_;  // in the order of opening; their toolkit parents own none of them
+    std::vector<FormWindow*> windows_;  // owned; in the order of opening: a parent before its children
     std::vector<Loop> loops_;           // the innermost last
     std::unordered_map<std::string, std::unique_ptr<QTimer>, NoCaseHash, NoCaseEqual> timers_;
     InputFilter filter_{*this};
@@ -115,11 +114,11 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     QTimer drawTimer_;
     QElapsedTimer lastDrawn_;
     bool drawing_ = false;
-    // Stands for a dialog of the toolkit among the modal forms.
+    // Stands for the toolkit's dialogs among the pump's modal forms.
     Form dialogForm_{"", ""};
     int dialogsShown_ = 0;
-    QString openFolder_;  // where the last file of a dialog of that kind was
-    QString saveFolder_;
+    QString openFolder_;                 // where the last open dialog ended; empty at first
+    QString saveFolder_;                 // the same of save dialogs
     std::unique_ptr<QPrinter> printer_;  // as chosen last; null before the first print
     bool previewWanted_ = false;
 };

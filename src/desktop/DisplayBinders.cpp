@@ -69,7 +69,7 @@ void FrameBinder::DrawContent() {
 
 void ProgressBarBinder::DrawContent() {
     const auto& bar = static_cast<const ProgressBar&>(Of());
-    // A maximum of 0 would be drawn as a bar without an end.
+    // With a maximum of 0 the toolkit draws a bar that runs to and fro.
     const int maximum = std::max(bar.maximum, 1);
     if (shown_.maximum() != maximum) shown_.setMaximum(maximum);
     const int value = std::clamp(bar.value, 0, maximum);
@@ -79,7 +79,7 @@ void ProgressBarBinder::DrawContent() {
 StatusBarBinder::StatusBarBinder(StatusBar& bar, QWidget& parent, EventSink& sink)
     : Binder(bar, *new ElidedLabel(parent, Qt::ElideRight), sink), shown_(static_cast<QLabel&>(Widget())) {
     shown_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    // Below the texts of the panes.
+    // The text begins where those of the panes do.
     shown_.setIndent(SpaceOfStyle().edges.left() - shown_.frameWidth());
     // A long text must not widen the window.
     shown_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -8,7 +8,7 @@
 
 namespace orlo {
 
-// Controls that the user only looks at.
+// Binders of controls that only show something. A picture also takes clicks.
 
 class FrameBinder : public Binder {
   public:
@@ -23,7 +23,7 @@ class FrameBinder : public Binder {
     DrawnText caption_;
 };
 
-// A pane; one with a name of its own is the emblem of the program.
+// A pane, or the program's emblem where Picture::emblem says so; the emblem takes clicks.
 class PictureBinder : public Binder {
   public:
     PictureBinder(Picture& picture, QWidget& parent, EventSink& sink);

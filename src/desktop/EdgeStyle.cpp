@@ -38,7 +38,7 @@ class EdgeStyle : public QProxyStyle {
                        const QWidget* widget) const override {
         if (!IsDark(*option) || !HasEdge(element))
             return QProxyStyle::drawPrimitive(element, option, painter, widget);
-        // In place, since a copy would cut off what the kind of option holds besides.
+        // Changed in place: a copy as QStyleOption would lose the members of its real type.
         const QScopedValueRollback<QPalette> palette(const_cast<QStyleOption*>(option)->palette);
         const_cast<QStyleOption*>(option)->palette.setColor(QPalette::Window, kEdgeGround);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -60,8 +60,8 @@ class EdgeStyle : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override {
         switch (hint) {
-            case SH_ComboBox_Popup:    // as high as the screen, without a scroll bar
-            case SH_EtchDisabledText:  // a light shadow, which blurs on dark
+            case SH_ComboBox_Popup:    // otherwise as high as the screen, without a scroll bar
+            case SH_EtchDisabledText:  // otherwise with a light shadow, which blurs on dark
                 return 0;
             default:
                 return QProxyStyle::styleHint(hint, option, widget, result);

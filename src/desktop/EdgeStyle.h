@@ -2,10 +2,10 @@
 
 namespace orlo {
 
-// The style that is the toolkit's own draws the edges of fields and check boxes darker than the window, which
-// nobody sees in dark colours; from now on they are drawn lighter there, and lines between the entries of
-// menus too. The lists of its combo boxes get a scroll bar, and its disabled texts lose their shadow. Other
-// styles stay as they are. To be called once, before the first window.
+// Changes the toolkit's own style, "Fusion", where it is in use; other styles stay as they are. Fusion draws
+// the edges of fields and check boxes darker than the window, so that they can't be seen in a dark palette.
+// There they, and the lines between menu entries, become lighter. In every palette the lists of combo boxes
+// get a scroll bar, and disabled texts lose their shadow. To be called once, before the first window.
 void UseVisibleEdges();
 
 }  // namespace orlo

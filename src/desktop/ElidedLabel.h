@@ -4,11 +4,11 @@
 
 namespace orlo {
 
-// A line of text that is shortened where it does not fit. "&" is a character of it. It keeps its indent from
-// both sides.
+// A label of one line that shortens its text with an ellipsis where it doesn't fit. "&" is an ordinary
+// character. The indent counts on both sides.
 class ElidedLabel : public QLabel {
   public:
-    // `cut` says which end, or the middle, is left out.
+    // `cut`: the part that is left out, an end or the middle.
     ElidedLabel(QWidget& parent, Qt::TextElideMode cut);
 
     QSize sizeHint() const override;

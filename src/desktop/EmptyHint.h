@@ -5,13 +5,13 @@
 
 namespace orlo {
 
-// What an empty list or tree says in place of its rows: one faint line in the middle, shortened where it
-// doesn't fit, which a reader of the screen tells too.
+// What an empty list or tree shows in place of its rows: one faint line in the middle, shortened where it
+// doesn't fit. It is the view's accessible description too.
 class EmptyHint {
   public:
-    // `shown` is empty where the view has rows.
+    // Takes the text, empty where the view has rows, and asks for a repaint where it changed.
     void Draw(QAbstractItemView& view, const std::string& shown);
-    // Over what the view has painted.
+    // To be called within the view's paint event, after its own painting.
     void Paint(QAbstractItemView& view) const;
 
   private:

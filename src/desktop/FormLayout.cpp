@@ -61,7 +61,7 @@ class GridRows {
         }
     }
 
-    // What follows a frame in the row stands on the line of its content.
+    // What follows a frame in the row is lowered by the height of the frame's title.
     void AddFields(const LayoutRow& row) {
         int lowered = 0;
         int column = 0;
@@ -115,7 +115,7 @@ class GridRows {
         }
     }
 
-    // With its button behind it, and this many pixels of room above.
+    // Puts the control, with its button behind it, below `lowered` pixels of room.
     void Put(const LayoutItem& item, int column, int columns, int lowered) {
         QWidget& widget = widgetOf_(*item.control);
         if (item.button == nullptr && lowered == 0)

@@ -7,8 +7,8 @@
 
 namespace orlo {
 
-// Lays the widgets of a form out as its layout says, with the toolkit's own means. `widgetOf` gives the
-// widget of a control, which the layout names once; `menuBar` may be null.
+// Gives the window a toolkit layout as the form's layout says. `widgetOf` gives the widget of any control but
+// a menu entry; it is not kept. `menuBar` may be null.
 void LayOut(const Form& form, QWidget& window, QWidget* menuBar,
             const std::function<QWidget&(const Control&)>& widgetOf);
 

@@ -75,7 +75,7 @@ QMenu* FormMenus::MenuOfKey(const QKeySequence& key) const {
 QString FormMenus::CaptionOf(const MenuEntry& entry) {
     const QString caption = ToQString(entry.caption);
     if (!entry.plainCaption) return caption;
-    // Of a long path the ends tell most.
+    // A long path keeps its beginning and its end.
     const bool fits = caption.size() <= kMostCharacters;
     const QString shown =
         fits ? caption
@@ -83,7 +83,7 @@ QString FormMenus::CaptionOf(const MenuEntry& entry) {
     return QString(shown).replace("&", "&&");
 }
 
-// The check marks follow what the procedure makes of the choice.
+// The toolkit has inverted the check mark; the drawing undoes it, and the procedure decides.
 void FormMenus::Choose(MenuEntry& entry) {
     Draw();
     sink_.Post({&entry.form, &entry, EventKind::Click});

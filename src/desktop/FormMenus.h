@@ -13,7 +13,7 @@ class QActionGroup;
 
 namespace orlo {
 
-// The menu bar of a form and its pop-up menus.
+// The menu bar and the pop-up menus of a form, owned by its window.
 class FormMenus {
   public:
     FormMenus(Form& form, QWidget& window, EventSink& sink);
@@ -23,9 +23,10 @@ class FormMenus {
     // Null where the form has no menu but pop-ups.
     QMenuBar* Bar() const { return bar_; }
     void Draw();
-    // The enabled menu of the bar that such a key opens, for example Alt+F; null for none.
+    // The menu of the bar that this key opens, for example Alt+F; null where there is none, or it is disabled
+    // or hidden.
     QMenu* MenuOfKey(const QKeySequence& key) const;
-    // Opens a pop-up menu at a place of the screen; does not wait for a choice.
+    // Opens a pop-up menu at a place of the screen and returns at once.
     void Open(const MenuEntry& root, const QPoint& place);
 
   private:

@@ -67,7 +67,7 @@ void FormWindow::Build() {
            [this](const Control& control) -> QWidget& { return byControl_.at(&control)->Widget(); });
 }
 
-// The boxes of such a form say where its controls stand; any other is laid out by the toolkit.
+// Whether the boxes of the form's controls say where they stand. Any other form is laid out by the toolkit.
 bool FormWindow::PlacedByForm() const {
     return form_->leastWidth > 0;
 }
@@ -76,13 +76,13 @@ void FormWindow::PlaceControls() {
     for (const auto& binder : binders_) {
         const Control& control = binder->Of();
         QRect place(control.box.left, control.box.top, control.box.width, control.box.height);
-        // An option counts from the container of its frame.
+        // The box of an option counts from the container of its frame; the widget's parent is the frame.
         if (control.kind == ControlKind::OptionButton && control.parent != nullptr)
             place.translate(-control.parent->box.left, -control.parent->box.top);
-        // The panes stand on the rest of the strip.
+        // The rest of the strip's box is behind the panes.
         if (control.kind == ControlKind::TabStrip)
             place.setHeight(std::min(place.height(), binder->Widget().sizeHint().height()));
-        // A label takes what its text needs, so that one that grows with the window covers no field.
+        // A label is no wider than its text, so that it covers no field.
         if (control.kind == ControlKind::Label)
             place.setWidth(std::min(place.width(), binder->Widget().sizeHint().width()));
         if (binder->Widget().geometry() != place) binder->Widget().setGeometry(place);
@@ -172,7 +172,7 @@ QSize FormWindow::LeastSize() const {
     return QSize(form_->leastWidth, form_->leastHeight);
 }
 
-// The place that the window has when it is neither minimised nor maximised.
+// Writes the window's state and, while it is neither minimised nor maximised, its place into the form.
 void FormWindow::NotePlace() {
     if (form_ == nullptr || placing_ || !isWindow() || !isVisible()) return;
     form_->windowState = isMinimized()   ? WindowState::Minimised
@@ -241,7 +241,7 @@ void FormWindow::resizeEvent(QResizeEvent*) {
     sink_.Post({form_, nullptr, EventKind::Resize});
 }
 
-// A form that stands in another's window has an edge of its own.
+// A form that is shown within another window, as the progress display is, gets an edge.
 void FormWindow::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
     if (isWindow()) return;

@@ -10,24 +10,26 @@
 
 namespace orlo {
 
-// The window of any form: builds a widget for each control and draws what has changed. It can outlive the
-// form, hidden, until the toolkit deletes it.
+// The window of a form: makes a widget for each control and draws what has changed. After Release it can
+// outlive the form, hidden, until the toolkit deletes it.
 class FormWindow : public QWidget {
   public:
     FormWindow(Form& form, EventSink& sink, QWidget* parent, Qt::WindowFlags flags);
     ~FormWindow() override;
 
-    Form* Shown() const { return form_; }  // null once released
+    Form* Shown() const { return form_; }  // null after Release
     FormMenus& Menus() { return *menus_; }
 
-    // Brings the window to what the form says; nothing while the form is frozen. Dispatches nothing.
+    // Shows what the form says; nothing while the form is frozen. Runs no procedure.
     void Draw();
-    // Moves the focus where a request asks for it, and does what controls ask for once.
+    // Carries out the requests of the form and its controls and clears them. They wait while the form is
+    // frozen or the window is hidden; those of a hidden control wait until it is shown, but a focus that it
+    // can't take is given up.
     void TakeRequests();
-    // Lets go of the form.
+    // Forgets the form, and deletes the binders and menus.
     void Release();
 
-    // The binder of the control that the widget is or is part of; null where there is none.
+    // The binder whose widget this is, or is inside of; null where there is none.
     Binder* BinderOf(const QWidget* widget) const;
     // The control that has the focus within this window; null for none.
     Control* FocusControl() const;

@@ -22,7 +22,7 @@
 namespace orlo {
 namespace {
 
-// What is dropped where the form takes no input. Releases pass: they only end what a press began, and the
+// What is dropped where the form takes no input. Releases are not: they only end what a press began, and the
 // binders ask again before they write.
 bool IsInput(QEvent::Type type) {
     switch (type) {
@@ -57,7 +57,7 @@ const Control* FocusTaker(const FormWindow& window, const QPoint& place) {
     return nullptr;
 }
 
-// How many tabs further such keys go, back where negative; 0 for any other.
+// How many tabs the key goes forward, or back where negative; 0 for a key that turns no tab.
 int TabSteps(const QKeyEvent& event) {
     if (!event.modifiers().testFlag(Qt::ControlModifier) || event.modifiers().testFlag(Qt::AltModifier))
         return 0;
@@ -153,7 +153,7 @@ bool InputFilter::Leaves(FormWindow& window, const Control* to) {
     return !event.refused;
 }
 
-// The window sees a press before the toolkit moves the focus, a widget only after it.
+// The system's window gets a press before the toolkit moves the focus, a widget only after that.
 bool InputFilter::Press(FormWindow& window, QObject* object, QMouseEvent& event) {
     if (!object->isWindowType()) return false;
     swallowedButton_ = 0;
@@ -161,7 +161,7 @@ bool InputFilter::Press(FormWindow& window, QObject* object, QMouseEvent& event)
     if (to == nullptr) return false;
     const int shown = sink_.DialogsShown();
     if (Leaves(window, to)) {
-        // A dialog that the procedure showed has taken the release.
+        // A dialog of the procedure can have taken the release; then the press is dropped too.
         const bool lost =
             shown != sink_.DialogsShown() && !QGuiApplication::mouseButtons().testFlag(event.button());
         if (!lost) return false;
@@ -182,7 +182,7 @@ bool InputFilter::Key(FormWindow& window, QObject* object, QKeyEvent& event) {
     if (!isTarget || window.Shown() == nullptr) return false;
     Form& form = *window.Shown();
     Control* control = window.FocusControl();
-    // A picture on the screen hears of every key.
+    // A form without a frame, the splash, gets every key.
     if (form.frameless && !event.isAutoRepeat()) {
         sink_.Post({&form, nullptr, EventKind::KeyUp, KeyOf(event)});
         return true;
@@ -231,8 +231,8 @@ void InputFilter::KeyReleased(FormWindow& window, QObject* object, QKeyEvent& ev
     if (control != nullptr && pressedHere) sink_.Post({&control->form, control, EventKind::KeyUp, key});
 }
 
-// A file is the window's, wherever it is dropped; its source keeps it. What else is dragged goes to the
-// fields.
+// A file goes to the form, wherever on the window it is dropped, and its source keeps it. Anything else that
+// is dragged goes to the widgets.
 bool InputFilter::DragFile(FormWindow& window, QDropEvent& event) {
     Event dropped{window.Shown(), nullptr, EventKind::DropFile};
     dropped.path = DraggedFile(event);
@@ -243,7 +243,7 @@ bool InputFilter::DragFile(FormWindow& window, QDropEvent& event) {
     return true;
 }
 
-// A mnemonic moves the focus too; those of menus go to their actions, which are no widgets.
+// A mnemonic moves the focus, so the field is asked first. Those of menus reach actions, not widgets.
 bool InputFilter::Shortcut(FormWindow& window, QObject* object, const QShortcutEvent& event) {
     auto* widget = qobject_cast<QWidget*>(object);
     const Binder* binder = window.BinderOf(widget);
@@ -267,7 +267,7 @@ bool InputFilter::Shortcut(FormWindow& window, QObject* object, const QShortcutE
     return false;
 }
 
-// A wheel that passes over a field changes nothing.
+// A wheel turns no tab, and changes no combo box that lacks the focus.
 bool InputFilter::Wheel(FormWindow& window, QObject* object) {
     const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));
     if (binder == nullptr) return false;
@@ -329,7 +329,7 @@ bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) 
     const Binder* binder = window.BinderOf(widget);
     if (binder == nullptr) return false;
     Control& control = binder->Of();
-    // The scroll bars and headers of a view have no row under the pointer.
+    // Over the scroll bars and headers of a view there is no node.
     const auto* area = qobject_cast<QAbstractScrollArea*>(&binder->Widget());
     const bool onContent = area == nullptr || area->viewport() == widget;
     Event hover{&control.form, &control, EventKind::Hover, onContent ? binder->HoverValue(event.pos()) : -1};
@@ -341,7 +341,7 @@ bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) 
     return true;
 }
 
-// A focus that was asked for and isn't given yet is not overwritten by one that the toolkit moves meanwhile.
+// While a focus request waits, the focus that the toolkit moves by itself isn't written.
 void InputFilter::FocusIn(FormWindow& window, QObject* object) {
     Form* form = window.Shown();
     const Binder* binder = window.BinderOf(qobject_cast<QWidget*>(object));

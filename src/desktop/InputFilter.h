@@ -19,10 +19,10 @@ class FormWindow;
 class InputSink;
 struct Control;
 
-// Sees what the user does before any widget does: drops it where no form takes it, asks the field that is
-// about to lose the focus, and turns keys, right clicks and a resting pointer into events. These are the only
-// events that run at once instead of from the queue, since the toolkit has to know the outcome; no widget is
-// in the middle of anything then.
+// Sees what the user does before any widget does. It drops what the form takes no input for, asks the field
+// that is about to lose the focus, and makes events of keys, right clicks and a resting pointer. Leave, Popup
+// and Hover run at once instead of from the queue, since the toolkit has to know the outcome; no widget is
+// handling anything then.
 class InputFilter : public QObject {
   public:
     explicit InputFilter(InputSink& sink) : sink_(sink) {}
@@ -39,18 +39,20 @@ class InputFilter : public QObject {
     bool Popup(FormWindow& window, const QWidget* widget, const QPoint& place);
     bool DragFile(FormWindow& window, QDropEvent& event);
     bool Hover(FormWindow& window, QObject* object, QHelpEvent& event);
-    // The pop-up and the tip of a list's or tree's current row, for the keyboard.
+    // The pop-up menu and the tip of the current row, where a list or tree has the focus. False where none
+    // has.
     bool PopupOfCurrent(FormWindow& window);
     bool TipOfCurrent(FormWindow& window);
-    // Shows the tab `steps` behind the current one, round and round. False where the form has no tabs.
+    // Selects the tab `steps` after the current one; the first follows the last. False where no tab strip is
+    // shown.
     bool TurnTab(FormWindow& window, int steps);
     void FocusIn(FormWindow& window, QObject* object);
-    // False when the field that has the focus refuses to lose it to `to`, which is null for the next control.
+    // Asks the field that has the focus before `to` gets it, null for the next control. False on a refusal.
     bool Leaves(FormWindow& window, const Control* to);
 
     InputSink& sink_;
-    int swallowedButton_ = 0;  // whose release follows a press that was dropped
-    // Delete or Insert, pressed alone and not released yet, and where.
+    int swallowedButton_ = 0;  // its press was dropped and its release is to be; 0 for none
+    // Delete or Insert, pressed without Shift, Ctrl or Alt and not released yet, and where.
     EventKey pressedKey_ = kKeyOther;
     const Control* pressedOn_ = nullptr;
 };

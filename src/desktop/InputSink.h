@@ -8,16 +8,16 @@ namespace orlo {
 
 class FormWindow;
 
-// What the input filter asks of the front end that it watches.
+// What the input filter needs of the front end.
 class InputSink : public EventSink {
   public:
-    // Whether the user may use the window at all now.
+    // Whether the user may use the window now. False after its Release.
     virtual bool TakesInput(const FormWindow& window) const = 0;
-    // Runs the event at once, after what is queued.
+    // Runs what is queued, then the event, at once.
     virtual void DeliverNow(Event& event) = 0;
     // Runs what is queued and draws what it changed in the window.
     virtual void CatchUp(FormWindow& window) = 0;
-    // The window of a widget or of the system's window; null for another's.
+    // The form's window that holds the widget, or that the system's window belongs to; null where none does.
     virtual FormWindow* WindowOf(QObject* object) = 0;
     // How many dialogs of the toolkit have been shown so far.
     virtual int DialogsShown() const = 0;

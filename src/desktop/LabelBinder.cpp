@@ -23,7 +23,7 @@ LabelBinder::LabelBinder(Label& label, QWidget& parent, EventSink& sink)
 void LabelBinder::SetBuddy(QWidget& widget) {
     const bool takesFocus = widget.focusPolicy() != Qt::NoFocus;
     if (takesFocus) shown_.setBuddy(&widget);
-    // A field takes its name from its label.
+    // The toolkit takes the accessible name of a buddy from its label, but not that of a list or tree.
     if (!takesFocus || qobject_cast<QAbstractItemView*>(&widget) != nullptr) named_ = &widget;
 }
 

@@ -10,7 +10,7 @@ class LabelBinder : public Binder {
   public:
     LabelBinder(Label& label, QWidget& parent, EventSink& sink);
 
-    // The widget that the label names. Its mnemonic goes there, where the widget takes the focus.
+    // The widget that the label names. The mnemonic gives it the focus, if it takes one.
     void SetBuddy(QWidget& widget);
 
   protected:
@@ -19,7 +19,7 @@ class LabelBinder : public Binder {
   private:
     Label& label_;
     QLabel& shown_;
-    QWidget* named_ = nullptr;  // what doesn't take its name from its label by itself
+    QWidget* named_ = nullptr;  // whose accessible name is written here; null for none
     DrawnText caption_;
 };
 

@@ -6,15 +6,16 @@
 
 namespace orlo {
 
-// Reads a list's packed rows when they are asked for. Its size is the one of the last drawing, so that rows
-// may come and go in between.
+// Reads a list's packed rows when the toolkit asks for them. The number of rows and columns is that of the
+// last Reset, so that code may add and remove rows between two drawings.
 class ListModel : public QAbstractTableModel {
   public:
     explicit ListModel(const ListView& list) : list_(list) {}
 
     void Reset();
-    // The same size, other texts or colours.
+    // Texts or colours changed, and the size did not.
     void ContentChanged();
+    // Whether the list still has the rows and columns of the last Reset.
     bool SameSize() const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

@@ -19,7 +19,7 @@
 namespace orlo {
 namespace {
 
-// The toolkit walks all ranges for each cell that it paints.
+// For each cell that it paints the toolkit walks all ranges that are selected.
 constexpr std::size_t kMostRanges = 1000;
 constexpr int kHeaderRoom = 24;
 constexpr int kLeastWidth = 70;
@@ -27,7 +27,7 @@ constexpr int kRowRoom = 4;
 constexpr int kCellRoom = 12;
 constexpr int kMostCharacters = 36;
 constexpr std::int32_t kRowsMeasured = 200;
-constexpr int kSortKey = Qt::Key_F3;  // as a click on the header of the current cell's column
+constexpr int kSortKey = Qt::Key_F3;  // sorts by the current cell's column
 
 // Paints a row as selected where the form says so.
 class RowDelegate : public QStyledItemDelegate {
@@ -59,21 +59,21 @@ class RowDelegate : public QStyledItemDelegate {
     const ListView& list_;
 };
 
-// Remembers what the user's last act does to the selection.
+// Keeps what the user's last act does to the selection.
 class ListTable : public QTableView {
   public:
     ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
     void DrawHint() { hint_.Draw(*this, list_.Count() == 0 ? list_.emptyHint : std::string()); }
 
-    // A row is shown without a move sideways, unless it is the column that is wanted.
+    // Scrolls sideways only for a key that moves from column to column.
     void scrollTo(const QModelIndex& index, ScrollHint hint) override {
         const int left = horizontalScrollBar()->value();
         QTableView::scrollTo(index, hint);
         if (!alongColumns_) horizontalScrollBar()->setValue(left);
     }
 
-    // The toolkit's own toggles with the key held that calls it.
+    // The toolkit's own would toggle the rows, since Ctrl is held with the key that calls it.
     void selectAll() override {
         if (model() == nullptr || model()->rowCount() == 0 || model()->columnCount() == 0) return;
         command_ = QItemSelectionModel::ClearAndSelect;
@@ -88,7 +88,7 @@ class ListTable : public QTableView {
         hint_.Paint(*this);
     }
 
-    // Keys move by whole rows.
+    // Home and End go to the first and last row, and stay in the column.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
         const int rows = model() == nullptr ? 0 : model()->rowCount();
         if (rows == 0 || (action != MoveHome && action != MoveEnd))
@@ -101,7 +101,7 @@ class ListTable : public QTableView {
         if (event->button() == Qt::LeftButton) QTableView::mouseDoubleClickEvent(event);
     }
 
-    // The toolkit's own copy takes one cell.
+    // The toolkit's own copy takes the current cell alone.
     void keyPressEvent(QKeyEvent* event) override {
         const bool plain = event->modifiers() == Qt::NoModifier;
         if (plain && event->key() == kSortKey && currentIndex().isValid()) {
@@ -198,7 +198,7 @@ void ListViewBinder::Connect() {
     QObject::connect(shown_.horizontalHeader(), &QHeaderView::sectionResized, &life,
                      [this](int column, int, int width) {
                          const auto place = static_cast<std::size_t>(column);
-                         // The last one follows the width of the list.
+                         // The last column follows the list's width and isn't kept.
                          if (!drawing_ && place + 1 < drawnKeys_.size())
                              list_.columnWidths[drawnKeys_[place]] = width;
                      });
@@ -244,7 +244,7 @@ void ListViewBinder::FitColumns(Fit fit) {
         int needed = std::max(
             kLeastWidth, headerMetrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom);
         for (std::int32_t row = 0; row < rows; ++row) {
-            // Spread over the list: sorting puts empty texts in front.
+            // Spread over the list, since sorting can put empty texts first.
             const auto position = static_cast<std::int32_t>(std::int64_t{row} * list_.Count() / rows);
             const int text =
                 metrics.horizontalAdvance(ShownText(list_.Text(list_.PlaceAt(position), column)));
@@ -311,7 +311,7 @@ void ListViewBinder::UserSelects(const QItemSelection& selected, const QItemSele
         list_.SelectOnly(RangesOf(shown_.selectionModel()->selection()));
         inPieces_ = false;
     } else if (command.testFlag(QItemSelectionModel::Toggle)) {
-        // The toolkit doesn't know whether the rows were selected.
+        // The toolkit doesn't know which of the rows were selected; the form does.
         Toggle(RangesOf(selected));
         Toggle(RangesOf(deselected));
     } else {
@@ -352,7 +352,7 @@ void ListViewBinder::PostSelection() {
     Post(EventKind::SelectRow);
 }
 
-// The toolkit is in the middle of a change of its own.
+// Draws later, since the toolkit is still changing its selection.
 void ListViewBinder::GoBack() {
     drawnSelection_ = -1;
     drawnCurrent_ = -2;

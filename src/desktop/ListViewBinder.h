@@ -11,9 +11,9 @@ class QItemSelection;
 
 namespace orlo {
 
-// Draws a list with its selection, and writes both from what the user does. A selection is passed in ranges
-// of rows, never row by row; one in so many pieces that the toolkit would choke on them is drawn from the
-// form alone.
+// Draws a list with its current row and selection, and writes both when the user changes them. A selection is
+// passed in ranges of rows, not row by row. The toolkit is too slow with thousands of ranges; a selection of
+// so many stays in the form alone and is painted from it.
 class ListViewBinder : public Binder {
   public:
     ListViewBinder(ListView& list, QWidget& parent, EventSink& sink);
@@ -35,7 +35,8 @@ class ListViewBinder : public Binder {
     void UserSelects(const QItemSelection& selected, const QItemSelection& deselected);
     void Toggle(const std::vector<PositionRange>& ranges);
     void UserMoves(const QModelIndex& index);
-    // Both come from one act of the user, which is one event.
+    // One act can change both the selection and the current row; both announce it, and one SelectRow is
+    // posted.
     void AnnounceSelection();
     void PostSelection();
 
@@ -48,9 +49,9 @@ class ListViewBinder : public Binder {
     std::int64_t drawnOrder_ = -1;
     std::int64_t drawnSelection_ = -1;
     std::int32_t drawnCurrent_ = -1;
-    int currentColumn_ = 0;  // before the rows were drawn anew
+    int currentColumn_ = 0;  // of the toolkit's current cell before the last Reset
     bool drawing_ = false;
-    bool inPieces_ = false;  // the toolkit doesn't hold the whole selection
+    bool inPieces_ = false;  // the selection is in the form alone
     bool announced_ = false;
 };
 

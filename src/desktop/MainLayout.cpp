@@ -12,7 +12,7 @@ namespace orlo {
 namespace {
 
 constexpr int kLeastListRows = 4;
-constexpr int kOpeningCharacters = 140;  // of mean width
+constexpr int kOpeningCharacters = 140;  // of average width
 constexpr int kOpeningLines = 42;
 constexpr int kTitleBarLines = 3;  // left free on a small screen
 
@@ -33,13 +33,12 @@ std::vector<RowItem> Buttons(std::initializer_list<Button*> buttons) {
 
 std::vector<RowItem> Centred(std::initializer_list<Button*> buttons) {
     std::vector<RowItem> row = Buttons(buttons);
-    for (RowItem& item : row) ++item.width;  // the middle of the window may round one away
+    for (RowItem& item : row) ++item.width;  // kBottomMiddle may round a pixel away
     row.insert(row.begin(), Space());
     row.push_back(Space());
     return row;
 }
 
-// The first ones at the left edge, the others at the right one.
 std::vector<RowItem> AtBothEdges(std::initializer_list<Button*> left, std::initializer_list<Button*> right) {
     std::vector<RowItem> row = Buttons(left);
     row.push_back(Space(3 * SpaceOfStyle().across));
@@ -47,10 +46,9 @@ std::vector<RowItem> AtBothEdges(std::initializer_list<Button*> left, std::initi
     return row;
 }
 
-// A pane is laid out for its size; `leastWidth` is the least one that it will have.
 struct PaneSize {
-    QSize now;
-    int leastWidth = 0;
+    QSize now;           // that the pane is laid out for
+    int leastWidth = 0;  // that it will have
 };
 
 PaneDesign DesignOf(const PaneSize& pane) {
@@ -88,7 +86,7 @@ QSize DesignMove(MainForm& form, const PaneSize& size) {
     return pane.Least();
 }
 
-// Two controls over one another; the size that the frame then has.
+// Places two controls of a frame below each other. Gives the size of the frame with that caption.
 QSize DesignPair(Control& upper, Control& lower, const std::string& caption) {
     PaneDesign inside(QSize(0, 0), FrameMargins());
     inside.FromTop({Fixed(upper)});
@@ -128,7 +126,7 @@ QSize DesignExport(MainForm& form, const PaneSize& size) {
     fields(form.lblExContinent, form.txtExContinent, form.lblExCountry, form.txtExCountry);
     fields(form.lblExAirline, form.txtExAirline, form.lblExportAircraft, form.cmExportAircraft);
     pane.FromTop({Fixed(form.lblExClass, first), Wide(form.cmExClass, field)}, inset);
-    // Its right edge follows the window, and even in the smallest one the text is whole.
+    // The right edge follows the window; at the least width the box is still as wide as the text.
     form.lblExClass.box.width += std::max(0, size.now.width() - size.leastWidth);
     const int below = pane.Top();
 
@@ -183,7 +181,7 @@ QSize DesignTimetable(MainForm& form, const PaneSize& size) {
     return pane.Least() + QSize(apart, 0);
 }
 
-// The fields of an entry in their frame, for the frame's width.
+// Places the fields of a project's entry in a frame of this width. Gives the least size of the frame.
 QSize DesignEntry(MainForm& form, int width) {
     PaneDesign frame(QSize(width, 0), FrameMargins());
     const int labels = WidestOf({&form.lblProjectDescription, &form.lblProjectFile, &form.lblProjectAC});
@@ -210,7 +208,7 @@ QSize DesignProject(MainForm& form, const PaneSize& size) {
     return pane.Least();
 }
 
-// Everything for one inner size; the least inner size.
+// Places all controls for one inner size. Gives the least inner size.
 QSize DesignAll(MainForm& form, QSize inner, int leastWidth) {
     const int menu = MenuBarHeight();
     const QSize tabs = NaturalSize(form.tabMain);
@@ -231,7 +229,6 @@ QSize DesignAll(MainForm& form, QSize inner, int leastWidth) {
     return least + QSize(0, paneTop + status);
 }
 
-// Roomy, but within the screen.
 QSize OpeningSize(QSize least) {
     const QFontMetrics metrics(QApplication::font());
     QSize size(kOpeningCharacters * metrics.averageCharWidth(), kOpeningLines * metrics.lineSpacing());

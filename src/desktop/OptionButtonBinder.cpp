@@ -17,14 +17,14 @@ void OptionButtonBinder::DrawContent() {
     if (shown_.isChecked() != option_.checked) ShowChecked(option_.checked);
 }
 
-// An exclusive button can't be cleared by code.
+// The toolkit lets nobody clear a button while it is exclusive.
 void OptionButtonBinder::ShowChecked(bool on) {
     shown_.setAutoExclusive(false);
     shown_.setChecked(on);
     shown_.setAutoExclusive(true);
 }
 
-// The toolkit has cleared its siblings, and their own drawing would not see it before the next one.
+// The user's click has cleared the siblings too, and they are drawn again only with the next drawing.
 void OptionButtonBinder::GoBack() {
     for (QRadioButton* sibling :
          shown_.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kLeastGrip = 100;  // pixels of a title bar
 
-// A window has its frame only once it is shown; until then it is taken to be that of the style.
+// A window gets its frame when it is shown; before that the style tells the height.
 int TitleHeight(const QWidget& window) {
     const int shown = window.geometry().top() - window.frameGeometry().top();
     return shown > 0 ? shown : window.style()->pixelMetric(QStyle::PM_TitleBarHeight);

@@ -31,7 +31,7 @@ std::string FromQString(const QString& text) {
 QString ShownText(std::string_view text) {
     if (text.size() <= kMostShown) return ToQString(text);
     std::size_t end = kMostShown;
-    // Not within a character of several bytes, of which there are four at most.
+    // Not within a character of UTF-8, which has four bytes at most.
     while (end > kMostShown - 4 && GoesOn(text[end])) --end;
     return ToQString(text.substr(0, end)) + QChar(0x2026);
 }
@@ -59,7 +59,7 @@ std::string PathFromQString(const QString& path) {
 }
 
 std::optional<QColor> ScreenColour(Colour colour) {
-    // On a dark ground the pure colours can't be read.
+    // Pure colours can't be read on a dark ground.
     const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < kDarkBelow;
     switch (colour) {
         case Colour::Black:

@@ -16,7 +16,7 @@ TabStripBinder::TabStripBinder(TabStrip& tabs, QWidget& parent, EventSink& sink)
         UserActs(EventKind::SelectTab,
                  [&] { tabs_.selectedKey = tabs_.pages[static_cast<std::size_t>(index)].key; });
     });
-    // A click on the tab that is shown gives the focus again. Told before the strip changes tabs.
+    // A click on the selected tab selects it again. The toolkit sends this before it changes tabs.
     QObject::connect(&shown_, &QTabBar::tabBarClicked, &life, [this](int index) {
         const bool left = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
         if (left && index >= 0 && index == shown_.currentIndex()) UserActs(EventKind::SelectTab, [] {});

@@ -6,7 +6,7 @@
 
 namespace orlo {
 
-// The strip alone; the panes are controls of their own.
+// Draws the strip alone; the panes are other controls.
 class TabStripBinder : public Binder {
   public:
     TabStripBinder(TabStrip& tabs, QWidget& parent, EventSink& sink);

@@ -20,7 +20,7 @@ Qt::CursorShape FieldCursor(PointerShape shape) {
 
 LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
     : Binder(box, *new QLineEdit(&parent), sink), box_(box), shown_(static_cast<QLineEdit&>(Widget())) {
-    // Not `textEdited`, which leaves out what a screen reader writes.
+    // Not `textEdited`, which isn't sent for what a screen reader writes.
     QObject::connect(&shown_, &QLineEdit::textChanged, &life, [this](const QString& text) {
         if (drawing_) return;
         UserActs(EventKind::Change, [&] {
@@ -31,10 +31,10 @@ LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
 }
 
 void LineBinder::DrawContent() {
-    // A field that can't show the whole text would cut it.
+    // The widget would cut a longer text, and an edit would write it cut into the form.
     const bool readOnly = box_.readOnly || box_.text.size() > static_cast<std::size_t>(shown_.maxLength());
     if (shown_.isReadOnly() != readOnly) shown_.setReadOnly(readOnly);
-    // What the user typed stands in the widget already, so that a drawing never touches it.
+    // What the user typed is in the widget already.
     if (text_.Changes(box_.text)) ShowText();
 }
 
@@ -57,7 +57,7 @@ void LineBinder::ShowText() {
 void LineBinder::TakeRequests() {
     if (!box_.selectAllRequest) return;
     box_.selectAllRequest = false;
-    // A selection is seen where the focus is; the Tab key selects all by itself.
+    // Only where the selection is seen. The Tab key selects all by itself.
     if (shown_.window()->focusWidget() == &shown_) shown_.selectAll();
 }
 
@@ -91,7 +91,7 @@ void TextBinder::GoBack() {
     ShowText();
 }
 
-// There is no signal of the user's edits alone.
+// Signals are blocked: the toolkit has none for the user's edits alone.
 void TextBinder::ShowText() {
     const QSignalBlocker blocker(shown_);
     const int at = shown_.textCursor().position();

@@ -27,7 +27,7 @@ class LineBinder : public Binder {
     bool drawing_ = false;
 };
 
-// A text box of many lines, whose ends are CR LF in the form.
+// A text box of several lines. They end with CR LF in the form, with LF in the widget.
 class TextBinder : public Binder {
   public:
     TextBinder(TextBox& box, QWidget& parent, EventSink& sink);

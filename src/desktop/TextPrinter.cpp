@@ -30,7 +30,7 @@ QFont PrintFont() {
     return font;
 }
 
-// How far the first tab of a line really goes.
+// Where a text behind one tab begins, in the printer's units.
 double FirstTab(const QFont& font, QPrinter& printer, const QTextOption& option) {
     QTextLayout layout("\t.", font, &printer);
     layout.setTextOption(option);
@@ -40,7 +40,8 @@ double FirstTab(const QFont& font, QPrinter& printer, const QTextOption& option)
     return line.cursorToX(1);
 }
 
-// A layout may scale the distance of its tabs from a screen's to that of the paper, or not.
+// The toolkit scales the tab distance for a printer, or doesn't; so one tab is measured and the distance
+// corrected.
 QTextOption PrintOption(const QFont& font, QPrinter& printer, double columnWidth) {
     const double wanted = kTabColumns * columnWidth;
     QTextOption option;
@@ -81,7 +82,7 @@ class PageWriter {
             printer_.newPage();
             top_ = 0;
         }
-        // The lines of a layout stand one below the other in it.
+        // The line draws itself at its place within the layout.
         line.draw(&painter_, QPointF(0, top_ - line.y()));
         top_ += height;
     }
@@ -95,14 +96,14 @@ class PageWriter {
     double top_ = 0;
 };
 
-// The time to lay out a line grows with the square of its length.
+// In pieces, since the time to lay out a line grows with the square of its length.
 void WritePieces(PageWriter& pages, const QString& line) {
     pages.Write(line.left(kLongestPiece));
     for (qsizetype at = kLongestPiece; at < line.size(); at += kLongestPiece)
         pages.Write(line.mid(at, kLongestPiece));
 }
 
-// The toolkit doesn't tell that a disk was full.
+// Whether the file was written whole. The toolkit doesn't tell that the disk was full.
 bool EndsAsPdf(const QString& path) {
     constexpr qint64 kTail = 32;
     QFile file(path);

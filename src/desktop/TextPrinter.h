@@ -9,13 +9,13 @@ class QPrinter;
 
 namespace orlo {
 
-// A printer as the system offers it, with the margins of a form.
+// The system's default printer, with margins of 15 mm.
 std::unique_ptr<QPrinter> MakeTextPrinter();
 
-// Prints the text in a fixed-pitch font of size 10. Tabs stay, a line that is too long goes on in the next
-// one, and no line is cut by the end of a page. Calls `betweenLines` some times a second. False where the
-// printer can't be opened, with nothing printed, and where the file that it prints into could not be written
-// whole.
+// Prints the text in a fixed-pitch font of 10 points, with a tab stop at every 8 characters. A line that is
+// too long is wrapped, and no line is cut by the end of a page. Calls `betweenLines` between two lines, at
+// most 25 times a second. False where the printer can't be opened, and then nothing is printed, and where the
+// PDF file that it prints into was not written whole.
 bool PrintText(std::string_view text, QPrinter& printer, const std::function<void()>& betweenLines);
 
 }  // namespace orlo

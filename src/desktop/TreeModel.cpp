@@ -83,7 +83,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-// A check mark turns whatever the toolkit makes of a partly checked one.
+// The value is ignored: whatever the toolkit makes of a partly checked node, the form decides.
 bool TreeModel::setData(const QModelIndex& index, const QVariant&, int role) {
     if (role != Qt::CheckStateRole || NodeAt(index) == nullptr) return false;
     check_(PlaceOf(index));

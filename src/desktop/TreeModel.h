@@ -8,19 +8,20 @@
 
 namespace orlo {
 
-// Reads a tree's nodes when they are asked for. Its shape, a few numbers a node, is the one of the last
-// drawing, so that nodes may come and go in between.
+// Reads a tree's nodes when the toolkit asks for them. The shape of the tree, a few numbers a node, is that
+// of the last Reset, so that code may add and remove nodes between two drawings. A place is the node's in
+// TreeView.
 class TreeModel : public QAbstractItemModel {
   public:
-    // `check` is called when the user turns the check mark of a node.
+    // `check` is called with the node's place when the user clicks its check mark.
     TreeModel(const TreeView& tree, std::function<void(std::int32_t)> check)
         : tree_(tree), check_(std::move(check)) {}
 
     void Reset();
-    // The same shape, other checks or colours.
+    // Checks or colours changed, and the shape did not.
     void StateChanged();
-    QModelIndex IndexOf(std::int32_t place) const;  // invalid for -1
-    static std::int32_t PlaceOf(const QModelIndex& index);
+    QModelIndex IndexOf(std::int32_t place) const;          // invalid for -1
+    static std::int32_t PlaceOf(const QModelIndex& index);  // -1 for an invalid one
 
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex& index) const override;

@@ -25,7 +25,8 @@ class NodeDelegate : public QStyledItemDelegate {
     }
 };
 
-// A blank turns the check mark, but is a part of the name while one is being typed.
+// The space bar turns the check mark, but while a name is typed to find its node, a blank belongs to the
+// name.
 class NodeTree : public QTreeView {
   public:
     using QTreeView::QTreeView;

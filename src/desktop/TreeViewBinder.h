@@ -9,8 +9,8 @@
 
 namespace orlo {
 
-// Draws a tree with its check marks. Which nodes are open is the front end's own matter; they stay open by
-// key when the tree is filled anew.
+// Draws a tree with its check marks. Which nodes are expanded is kept here alone, by their keys, so that they
+// are expanded again when the tree is filled anew.
 class TreeViewBinder : public Binder {
   public:
     TreeViewBinder(TreeView& tree, QWidget& parent, EventSink& sink);

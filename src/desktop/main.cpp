@@ -1,4 +1,4 @@
-// The desktop program: makes the services of this system and shows the main window until it is closed.
+// The desktop program: makes the system's services and shows the main window until it is closed.
 
 #include <QMessageBox>
 #include <QSessionManager>
@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kStartUpFailed = 1;
 
-// The windows go before the forms that they show.
+// Detaches the host before the program ends, since its windows show the program's forms.
 class AttachedHost {
   public:
     AttachedHost(DesktopApplication& application, DesktopHost& host, Program& program)
@@ -59,7 +59,7 @@ int RunDesktop(DesktopApplication& application) {
     const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
-    // The end of the user's session waits for the questions about what isn't saved.
+    // When the user's session ends, the questions about unsaved work come first; a cancel stops the end.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &host, [&](QSessionManager& manager) {
         if (program.forms.frmMain.closeRequest || !manager.allowsInteraction()) return;
         if (!host.AskToClose(program.forms.frmMain)) manager.cancel();
@@ -74,7 +74,7 @@ int RunDesktop(DesktopApplication& application) {
 
 int main(int count, char** words) {
     std::pmr::set_default_resource(&orlo::ListMemory());
-    // Texts keep their size on screens that are scaled by a fraction.
+    // A scale such as 150 % is not rounded.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     orlo::DesktopApplication application(count, words);
     orlo::NameApplication();

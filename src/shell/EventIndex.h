@@ -8,14 +8,14 @@
 
 namespace orlo {
 
-// Finds what an event runs.
+// Finds the entry of the event tables that an event runs.
 class EventIndex {
   public:
-    // The form must outlive this. False where an entry names what another one names already, which then
-    // stays.
+    // Form and table must outlive this. False where an entry is for an event that has one already; then the
+    // older one stays, and all others are added.
     bool Add(Form& form, EventTable table);
 
-    // Null where nothing is to run.
+    // Null where no entry is for the event.
     const EventEntry* Find(const Event& event) const;
 
   private:

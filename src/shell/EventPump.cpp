@@ -58,10 +58,10 @@ bool EventPump::TakesInput(const Form& form) const {
 bool EventPump::Accepts(const Event& event) const {
     if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
     if (event.form == nullptr) return false;
-    // A window's size is a fact, whoever may type into it.
+    // A window has changed its size whether the user may use it or not.
     if (event.kind == EventKind::Resize) return windows_.IsOpen(*event.form);
     if (event.kind == EventKind::Close && running_ == 0) {
-        // Also of a disabled form, so that one that was left disabled can be closed.
+        // Also of a disabled form: one that was left disabled by mistake can still be closed.
         const Form* top = windows_.TopModal();
         return windows_.IsOpen(*event.form) && (top == nullptr || top == event.form);
     }
@@ -115,7 +115,8 @@ void EventPump::Run(Event& event) {
     }
 }
 
-// What an operation that broke off may have left behind.
+// Puts right what an operation that broke off may have left: the progress display, forms that are disabled,
+// frozen or under an hourglass, trees that are hidden.
 void EventPump::RecoverFromFailure(Form* shown, std::string_view reason) {
     MainForm& main = context_.forms.frmMain;
     context_.services.progress.Close();

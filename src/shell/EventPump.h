@@ -21,40 +21,45 @@ struct OpenForms {
     Form* TopModal() const { return modal.empty() ? nullptr : modal.front(); }
 };
 
-// Runs events one at a time. An event for a form under a modal one, for a control that is disabled by now,
-// or, while an operation lets events run, for any form but the topmost modal one, is dropped, both when it
-// arrives and when its turn comes. Timers always run.
+// Runs events one at a time. An event is dropped, when it arrives or when its turn comes, if
+// - its form isn't open, or stands under a modal one,
+// - its form or control is disabled, or
+// - an operation runs and no modal form is open.
+// Timers and Hover always run, Resize on any open form, and the close box of a disabled form where no
+// operation runs.
 class EventPump {
   public:
-    // Over all forms of the context.
+    // Takes the event tables of all forms of the context, which must outlive this.
     explicit EventPump(Context& context);
     EventPump(const EventPump&) = delete;
     EventPump& operator=(const EventPump&) = delete;
 
     OpenForms& Windows() { return windows_; }
 
-    // The events of a form that isn't one of the program's own; the form stays open no longer than the pump.
+    // Adds the events of a form that isn't one of the program's own, such as a test's. Form and table must
+    // outlive the pump.
     void AddTable(Form& form, EventTable table) { events_.Add(form, table); }
 
     // Whether the event would run now.
     bool Accepts(const Event& event) const;
-    // Whether the user may use the form at all now.
+    // Whether the user may use the form now: no modal form above it, no operation that keeps it waiting.
     bool TakesInput(const Form& form) const;
 
-    // Queues the event; one that isn't accepted is dropped.
+    // Queues the event if it is accepted.
     void Post(const Event& event);
-    // Runs what is queued, or drops it.
+    // Empties the queue: runs each event that is accepted when its turn comes.
     void RunQueued();
     // Runs one event at once. False when it was dropped or its procedure refused it.
     bool Deliver(Event& event);
 
-    // Puts into the status bar that something failed outside any procedure.
+    // Says in the status bar that a drawing failed, and why.
     void TellFailure(std::string_view reason);
 
     bool OperationRuns() const { return running_ > 0; }
 
-    // Opens the form as the topmost modal one, with a round of events of its own above the operation that
-    // shows it. The result goes to LeaveModal, which takes the form's close request and closes it.
+    // Opens the form as the topmost modal one. Until LeaveModal no operation counts as running, so that the
+    // form's events run. The result is `outer` for LeaveModal, which closes the form and clears its close
+    // request.
     int EnterModal(Form& form, Form* owner);
     void LeaveModal(Form& form, int outer);
 
@@ -66,7 +71,7 @@ class EventPump {
     OpenForms windows_;
     EventIndex events_;
     std::deque<Event> queue_;
-    int running_ = 0;
+    int running_ = 0;  // procedures on the stack since the topmost modal form opened
 };
 
 }  // namespace orlo

@@ -5,23 +5,23 @@
 
 namespace orlo {
 
-// The tables of the main window besides those of its panes (PaneFacts.h), and of the other forms.
-EventTable MainEvents();  // of the window itself and its tabs
+// The event tables of the forms. Those of the main window's panes are in PaneFacts.
+EventTable MainEvents();  // of the main window itself and its tab strip
 EventTable MenuEvents();
 EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
 
-// A procedure that needs nothing of its event, as an entry of a table.
+// Makes a table's procedure of one that doesn't need the event.
 template <auto Procedure>
 void Run(Context& context, Event&) {
     Procedure(context);
 }
 
-// The close box of the main window and its menu entry; refused where the user wants to stay.
+// For the close box of the main window and "Exit". Refuses the event where the user cancels.
 void CloseMainWindow(Context& context, Event& event);
 
-// A click on the head of a column of any list.
+// For a click on a column header of any list.
 void SortByColumn(Context& context, Event& event);
 
 }  // namespace orlo

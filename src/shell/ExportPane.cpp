@@ -16,7 +16,7 @@ using M = MainForm;
 using enum EventKind;
 using namespace edges;
 
-// The name is shared with the editor's entry.
+// EditFlight is overloaded, which Run can't take.
 void EditCurrentFlight(Context& context, Event&) {
     EditFlight(context);
 }

@@ -10,13 +10,13 @@ namespace orlo {
 
 void OnPreview(Context& context);
 
-// The tab comes to the front, so that the report is seen.
+// Runs the search of a report and brings the tab to the front.
 void ShowReport(Context& context, SearchMode mode);
 
-// The list shows its times in the zone that was chosen.
+// Shows the times of the list in the zone that was chosen.
 void OnExportZone(Context& context);
 
-// Delete and Insert on the list stand for its buttons.
+// Delete and Insert in the list press the buttons "Delete" and "Add".
 void OnExportKey(Context& context, Event& event);
 
 }  // namespace orlo

@@ -11,7 +11,7 @@
 namespace orlo {
 namespace {
 
-// Delete and Insert on the list stand for its buttons.
+// Delete and Insert in the list press its buttons.
 void OnLegKey(Context& context, Event& event) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     if (event.value == kKeyDelete) event.presses = &form.cmdDelete;

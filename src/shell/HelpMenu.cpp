@@ -12,7 +12,7 @@
 namespace orlo {
 namespace {
 
-// Where the system tells its information program: the program itself, or the folder that holds it.
+// The path of the system's information program as the registry gives it; empty where it gives none.
 std::string SystemInformationProgram(Context& context) {
     SettingsStore& machine = context.services.machineSettings;
     const auto program = machine.Get("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH");

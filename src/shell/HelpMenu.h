@@ -5,14 +5,14 @@
 
 namespace orlo {
 
-// Opens "Help/index.html" of the program folder with the system's default handler.
+// Opens "Help/index.html" of the program folder with the system's default handler. Where nothing opens it,
+// the status bar says so.
 void ShowHelp(Context& context);
 
-// The help page that belongs to the form and, of the main window, to its tab; "Help/index.html" where it is
+// The same with the help page of the event's form (HelpPageOf), or with "Help/index.html" where that file is
 // missing.
 void ShowHelpPage(Context& context, Event& event);
 
-// The window "About", modal.
 void ShowAbout(Context& context);
 
 }  // namespace orlo

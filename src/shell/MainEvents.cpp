@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kProjectExtension = ".orp";
 
-// A project has an extension of its own, a plan any name.
+// A plan can have any extension.
 void OpenDroppedFile(Context& context, Event& event) {
     if (EndsWithNoCase(event.path, kProjectExtension)) {
         context.services.windows.ShowNotBuilt(context.forms.frmMain.mnuFileOpenProject.name);

@@ -61,8 +61,8 @@ void EraseOldPlan(Context& context) {
     form.tvMoveAircrafts.Clear();
 }
 
-// Reads all that a plan stands on. Gives the first list that stays empty, whose reader has said why if it
-// knows; nothing where all is there.
+// Reads the plan, its side files and the installed aircraft. Stops at the first list that stays empty and
+// gives its name; empty where all were filled. A reader that knows why its list is empty has said so.
 std::string_view ReadPlan(Context& context, BusyForm& busy) {
     Session& session = context.session;
     busy.Stage("Reading Airport configuration...", 2);

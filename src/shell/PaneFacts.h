@@ -9,12 +9,12 @@
 
 namespace orlo {
 
-// A control of the main window, for the tables of its parts.
+// A control of the main window, for tables.
 template <auto Member>
 inline constexpr ControlGetter InMain = ControlOf<MainForm, Member>;
 
-// How a control follows the size of the window: its top, left, bottom and right edge. Where the bottom or
-// right edge stays, the height or width does.
+// How a control follows the size of the window: the modes of its top, left, bottom and right edge. A bottom
+// or right edge that "stays" keeps the control's height or width.
 namespace edges {
 using enum EdgeMode;
 inline constexpr EdgeModes kStays = {Stays, Stays, Stays, Stays};
@@ -44,27 +44,27 @@ struct PaneFacts {
     std::string_view key;  // of its tab
     Picture MainForm::*pane;
     Button MainForm::*defaultButton;
-    ControlGetter focus;  // gets it when the tab is chosen; null: the focus stays
-    std::string_view helpPage;
+    ControlGetter focus;        // what gets the focus when the tab is chosen; null: the focus stays
+    std::string_view helpPage;  // a file of the folder Help
     EventTable events;
     std::span<const ResizeRow> resize;
 };
 
-// Each in a file of its own.
 PaneFacts ShufflePaneFacts();
 PaneFacts MovePaneFacts();
 PaneFacts ExportPaneFacts();
 PaneFacts TimetablePaneFacts();
 PaneFacts ProjectPaneFacts();
 
-// All of them, in the order of the tabs.
+// In the order of the tabs.
 std::span<const PaneFacts> Panes();
-// Of the tab that is chosen.
+// The pane of the tab that is chosen; the first one where no tab is.
 const PaneFacts& ChosenPane(const MainForm& form);
 // Of the pane that the control stands in; null for none.
 const PaneFacts* PaneAround(const MainForm& form, const Control& control);
 
-// Registers the controls of the main window that follow its size, for its present inner size.
+// Registers the controls of the main window that follow its size, with their boxes in a window of this inner
+// size.
 void RegisterMainLayout(cResize& layout, MainForm& form, std::int32_t height, std::int32_t width);
 
 }  // namespace orlo

@@ -9,10 +9,10 @@
 
 namespace orlo {
 
-// The running program: what it holds, and the pump that runs it. One lives as long as the main window.
+// The running program: session, forms and undo, and the pump that runs its events.
 struct Program {
-    // The services outlive the program. `programFolder` holds the rule files and takes what the program
-    // writes.
+    // The services must outlive the program. `programFolder` holds the rule files, and the program writes its
+    // own files there.
     Program(Services& services, std::string programFolder);
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

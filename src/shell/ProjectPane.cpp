@@ -11,7 +11,7 @@ using M = MainForm;
 using enum EventKind;
 using namespace edges;
 
-// Delete and Insert on the list stand for its buttons.
+// Delete and Insert in the list press its buttons.
 void OnProjectKey(Context& context, Event& event) {
     MainForm& form = context.forms.frmMain;
     if (event.value == kKeyDelete) event.presses = &form.cmdProjectDelete;

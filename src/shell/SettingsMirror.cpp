@@ -94,7 +94,7 @@ void ReadSwitches(Context& context) {
     ForEachSetting<ShuffleOption>([&](const SettingRow& row, const ShuffleOption& mirror) {
         (form.*mirror.box).checked = ReadSwitch(context, row);
     });
-    // A value that doesn't read is one of those that mean off.
+    // A value that can't be read turns the limit off.
     ForEachSetting<LimitChoice>([&](const SettingRow& row, const LimitChoice& mirror) {
         const auto value = ParseWholeNumber(ReadText(context, row));
         SetLimit(context, mirror, value.value_or(kNoTurnAroundLimit));
@@ -145,7 +145,7 @@ void ReadWindowPlace(Context& context) {
     form.windowState = maximised ? WindowState::Maximised : WindowState::Normal;
     form.centreRequest = settings.Number("MainHeight", kNoPlaceStored) == kNoPlaceStored;
     if (form.centreRequest) return;
-    // A place that was stored in part is completed by the one that the window has.
+    // What is missing in a stored place is as the window has it now.
     form.box.left = settings.Number("MainLeft", form.box.left);
     form.box.top = settings.Number("MainTop", form.box.top);
     form.box.width = settings.Number("MainWidth", form.box.width);

@@ -23,7 +23,7 @@ void ReadOptions(Context& context) {
     session.shuffle.CheckFL = form.ckCheckFL.checked;
 }
 
-// Gives the closing message; empty where the shuffle has failed and said so.
+// Gives the closing message; empty where the shuffle failed, of which the user has been told.
 std::string Shuffle(Context& context, BusyForm& busy) {
     Session& session = context.session;
     ReadOptions(context);

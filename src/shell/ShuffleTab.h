@@ -5,13 +5,14 @@
 
 namespace orlo {
 
-// The main job: new aircraft for all flights.
+// Shuffles the plan: gives its flights aircraft anew, with the options of the tab.
 void OnShuffle(Context& context);
 
-// One more than the highest aircraft number in use becomes the start number; nothing without aircraft.
+// Sets the start number to the next free one (NextStartNumber). Nothing where the plan has no aircraft.
 void OnCalcStartNumber(Context& context);
 
-// Takes a whole number from 1 on as the start number; says what is wrong with any other text and refuses.
+// Takes a whole number from 1 on as the start number. Refuses any other text with a message that says why,
+// and leaves the start number as it was.
 void OnLeaveStartNumber(Context& context, Event& event);
 
 }  // namespace orlo

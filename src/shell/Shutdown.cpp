@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kCleaningStages = 2;
 
-// In this order: what was derived goes before what it was derived from.
+// What was derived goes before what it was derived from.
 void EraseMemory(Context& context) {
     Session& session = context.session;
     DiscardUndoSnapshot(context);

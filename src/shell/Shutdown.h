@@ -4,8 +4,9 @@
 
 namespace orlo {
 
-// Closing the main window: the questions about unsaved work, the settings, the erasing. False when the user
-// cancels, and then nothing has happened but a save that was asked for.
+// Ends the program's work: asks about unsaved work, writes the settings and erases what is in memory. The
+// main window is closed by the caller. False where the user cancels; then nothing was written but a save that
+// the user asked for, and memory is as it was.
 bool Shutdown(Context& context);
 
 }  // namespace orlo

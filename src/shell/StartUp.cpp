@@ -18,7 +18,7 @@ constexpr std::int32_t kSplashOpacity = 192;
 constexpr std::int32_t kFirstMoveView = 1;
 constexpr std::int32_t kFirstShufflerView = 2;
 
-// In this order; each reader says itself what is wrong.
+// In this order; each reader tells the user what is wrong. Stops at the first that fails.
 bool ReadRuleFiles(Context& context) {
     Session& session = context.session;
     FileSystem& files = context.services.files;

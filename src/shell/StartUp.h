@@ -4,11 +4,11 @@
 
 namespace orlo {
 
-// Reads settings and rule files and shows the main window. False when the program has to end: a message has
-// said why, and nothing is saved.
+// Reads settings and rule files, shows the main window and the splash. False where the program has to end: a
+// message has said why, the main window was not shown, and no settings are written.
 bool StartUp(Context& context);
 
-// The timer that closes the splash window.
+// The name of the timer that closes the splash window.
 inline constexpr std::string_view kSplashTimer = "tmrSplash";
 void CloseSplash(Context& context);
 

@@ -4,8 +4,8 @@
 
 namespace orlo {
 
-// Shows the pane of the selected tab, hides the others, and sets the default button and the focus as it
-// wants.
+// Shows the pane of the selected tab, hides the others, and sets the default button and the focus that the
+// pane tells.
 void ActivateTab(Context& context);
 
 }  // namespace orlo

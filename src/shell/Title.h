@@ -4,9 +4,8 @@
 
 namespace orlo {
 
-// Tells the main window which file its plan stands in and whether memory differs from it, for its title.
-// Without an open plan it has no file. Runs at the end of every event, so that no procedure has to remember
-// it.
+// Writes the main window's documentName and documentModified: the file name of the open plan, empty without
+// one, and whether the plan in memory differs from that file. The pump calls it at the end of every event.
 void RefreshTitle(Context& context);
 
 }  // namespace orlo

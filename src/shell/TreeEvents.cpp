@@ -7,7 +7,6 @@
 namespace orlo {
 namespace {
 
-// Runs the command on the list or tree that has the focus; without one of them nothing happens.
 void OnFocused(Context& context, void (*onList)(ListView&), void (*onTree)(MainForm&, TreeView&)) {
     MainForm& form = context.forms.frmMain;
     if (form.focus == &form.lvExPreview) onList(form.lvExPreview);
@@ -15,7 +14,7 @@ void OnFocused(Context& context, void (*onList)(ListView&), void (*onTree)(MainF
     if (form.focus == &form.tvMoveAircrafts) onTree(form, form.tvMoveAircrafts);
 }
 
-// Rebuilds a tree in the frame of a busy window, hidden while it is filled.
+// Where the choice changes the view, rebuilds the tree while the window is busy, and hides it meanwhile.
 void ChangeView(Context& context, ComboBox& view, TreeView& tree, void (*change)(MainForm&, const Session&)) {
     MainForm& form = context.forms.frmMain;
     if (!ViewChanges(view, context.session)) return change(form, context.session);
