@@ -5,8 +5,6 @@
 namespace orlo {
 namespace {
 
-#ifndef _WIN32
-
 TEST(Path, PathsComeApartAtTheirLastSeparator) {
     struct Case {
         std::string_view path, folder, name;
@@ -31,8 +29,6 @@ TEST(Path, JoiningPutsOneSeparatorBetween) {
     EXPECT_EQ(WithoutTrailingSeparator("//"), "/");
     EXPECT_EQ(WithoutTrailingSeparator(""), "");
 }
-
-#endif
 
 }  // namespace
 }  // namespace orlo
