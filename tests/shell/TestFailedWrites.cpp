@@ -6,6 +6,7 @@
 
 #include "config/AircraftClasses.h"
 #include "platform/common/TextSettingsStore.h"
+#include "simulator/AfdCache.h"
 #include "support/FakeProgram.h"
 
 namespace orlo {
@@ -48,6 +49,10 @@ const std::vector<Writer> kWriters = {
      }},
     {"the aircraft classes", "/program/ORLO_AC.CFG", false,
      [](test::FakeProgram& fake) { EXPECT_FALSE(WriteAircraftClasses(fake.session, fake.world.files)); }},
+    {"the airports read before", "/program/AFDCache.dat", false,
+     [](test::FakeProgram& fake) {
+         EXPECT_FALSE(WriteAFDCache(fake.world.files, "/program/AFDCache.dat", {AirportRecord()}, {}));
+     }},
     {"the settings", "/home/settings.txt", false,
      [](test::FakeProgram& fake) {
          TextSettingsStore store(fake.world.files, "/home/settings.txt");
