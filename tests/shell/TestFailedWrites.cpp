@@ -62,17 +62,16 @@ const std::vector<Writer> kWriters = {
 };
 
 TEST(FailedWrites, LeaveTheOldFileWholeAndTheProgramRunning) {
-    struct Failure {
+    const struct {
         const char* name;
         void (*cause)(test::MemoryFileSystem& files);
-    };
-    const std::vector<Failure> failures = {
+    } failures[] = {
         {"no second file and none in place", [](test::MemoryFileSystem& files) { files.failCreate = true; }},
         {"a full disk", [](test::MemoryFileSystem& files) { files.failAfterBytes = 3; }},
         {"a failed rename", [](test::MemoryFileSystem& files) { files.failCommit = true; }},
     };
     for (const Writer& writer : kWriters) {
-        for (const Failure& failure : failures) {
+        for (const auto& failure : failures) {
             SCOPED_TRACE(testing::Message() << writer.name << ": " << failure.name);
             test::FakeProgram fake;
             AddPlan(fake);

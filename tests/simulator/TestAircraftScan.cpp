@@ -125,15 +125,14 @@ TEST(AircraftScan, AScanReplacesTheListAndFailsWithoutAFolder) {
     ScanWorld world;
     world.files.files[NativePath("\\fs\\Aircraft\\a320\\AIRCRAFT.CFG")] = "[fltsim.0]\ntitle=First\n";
     world.files.files[NativePath("\\fs\\Aircraft\\readme.txt")] = "[fltsim.0]\ntitle=None\n";
-    world.Scan("[fltsim.0]\ntitle=Second\n");
     ASSERT_EQ(world.Scan("[fltsim.0]\ntitle=Second\n").size(), 2u);
     EXPECT_EQ(world.session.fleet.FSAircrafts[0].Title, "First");
     EXPECT_TRUE(world.session.fleet.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files,
-                              NativePath("\\nowhere"), true));
-    EXPECT_TRUE(world.session.fleet.FSAircrafts.empty());
-    EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files, "", true));
+    for (const std::string& simulator : {NativePath("\\nowhere"), std::string()}) {
+        EXPECT_FALSE(ScanAircraft(world.session.fleet, {}, world.files, simulator, true));
+        EXPECT_TRUE(world.session.fleet.FSAircrafts.empty());
+        EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
+    }
 }
 
 FSAircraft ScanOne(const std::string& config) {
