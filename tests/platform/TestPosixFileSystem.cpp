@@ -48,10 +48,7 @@ TEST(PosixFileSystem, FoldersListLinksAndNamesThatDifferInCaseAndOnlyRegularFile
     fs::create_directory_symlink("Sub", folder.Place("linked"));
     fs::create_symlink("nowhere", folder.Place("dangling"));
     PosixFileSystem files;
-    std::string listed;
-    for (const FolderEntry& entry : files.ListFolder(folder.Path()))
-        listed.append(entry.name).append(entry.isFolder ? "/ " : " ");
-    EXPECT_EQ(listed, "A.txt a.txt dangling fifo link linked/ Sub/ ");
+    EXPECT_EQ(test::Listed(files, folder.Path()), "A.txt a.txt dangling fifo link linked/ Sub/ ");
     for (const std::string& path :
          {folder.Path("fifo"), folder.Path("link"), folder.Path("dangling"), std::string("/dev/zero")})
         EXPECT_FALSE(files.OpenForReading(path)) << path;

@@ -47,9 +47,8 @@ class PlainShuffle {
         bool over;
     };
 
-    static std::int32_t Round(double value) { return static_cast<std::int32_t>(RoundHalfEven(value)); }
     std::size_t Draw(std::size_t last) {
-        return static_cast<std::size_t>(Round(static_cast<double>(last) * random_.Next()));
+        return static_cast<std::size_t>(RoundHalfEven(static_cast<double>(last) * random_.Next()));
     }
     FSAircraft& FSAt(std::int32_t index) {
         return session.fleet.FSAircrafts[static_cast<std::size_t>(index)];

@@ -73,16 +73,13 @@ TEST(AircraftScan, EachTitledFltsimSectionIsAVariantWithItsFields) {
     const auto& variants = world.Scan(config);
     ASSERT_EQ(variants.size(), 4u);
     const FSAircraft& one = variants[0];
-    const auto joined = [](std::initializer_list<std::string> texts) {
-        std::string all;
-        for (const std::string& text : texts) all += text + " ";
-        return all;
-    };
-    EXPECT_EQ(joined({one.Title, one.Section, one.Sim, one.Model, one.Panel, one.Sound, one.Texture,
-                      one.KbChecklists, one.KbReference, one.ATCID, one.ATCFlightNumber, one.Airline,
-                      one.UIManufacturer, one.UIType, one.UIVariation, one.Description, one.Performance,
-                      one.ATCType, one.ATCModel}),
-              "One FltSim.0 b737 x p s 1 c r N1 12 WORLD Boeing 737 v d fast BOEING 737 ");
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ((Texts{one.Title, one.Section, one.Sim, one.Model, one.Panel, one.Sound, one.Texture,
+                     one.KbChecklists, one.KbReference, one.ATCID, one.ATCFlightNumber, one.Airline,
+                     one.UIManufacturer, one.UIType, one.UIVariation, one.Description, one.Performance,
+                     one.ATCType, one.ATCModel}),
+              (Texts{"One", "FltSim.0", "b737", "x", "p", "s", "1", "c", "r", "N1", "12", "WORLD", "Boeing",
+                     "737", "v", "d", "fast", "BOEING", "737"}));
     EXPECT_EQ(one.ConfigFile, NativePath("\\fs\\Aircraft\\b737\\aircraft.cfg"));
     EXPECT_TRUE(one.ATCHeavy && !one.VisualDamage);
     EXPECT_EQ(one.FileCruiseSpeed, 250);
@@ -220,11 +217,10 @@ TEST(AircraftScan, TheModelsRadiusIsReadFromThreeLayouts) {
         EXPECT_EQ(model.Format, one.format) << one.layout;
         EXPECT_EQ(model.Radius, one.radius) << one.layout;
     }
-    ScanWorld world;
-    world.Put("model\\model.cfg", "[models]\nnormal=main\n");
-    world.Put("model\\main.mdl", "");
-    EXPECT_EQ(ReadModelRadius(world.files, world.folder, "").Path, "");
-    EXPECT_EQ(ReadModelRadius(world.files, world.folder, "y").Path, "");
+    ScanWorld empty;
+    empty.Put("model\\model.cfg", "[models]\nnormal=main\n");
+    empty.Put("model\\main.mdl", "");
+    for (const char* name : {"", "y"}) EXPECT_EQ(ReadModelRadius(empty.files, empty.folder, name).Path, "");
 }
 
 TEST(AircraftScan, ProblemsNameAllThatIsMissing) {

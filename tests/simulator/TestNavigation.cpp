@@ -21,14 +21,7 @@ Session PlanOf(std::initializer_list<PlanAirport> airports) {
     return session;
 }
 
-struct Route {
-    std::int32_t distance;
-    std::int32_t course;
-    bool operator==(const Route&) const = default;
-};
-void PrintTo(const Route& route, std::ostream* out) {
-    *out << route.distance << "nm " << route.course;
-}
+using Route = std::pair<std::int32_t, std::int32_t>;  // distance and course
 
 // By single questions; the prepared positions must tell the same to the bit.
 Route RouteBetween(const Session& session, std::string_view from, std::string_view to) {

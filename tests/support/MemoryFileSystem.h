@@ -21,8 +21,8 @@ class MemoryFileSystem : public FileSystem {
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
-    int commitsBeforeKill =
-        -1;  // the process dies after this many files are complete: nothing later reaches the disk
+    // The process dies after this many files are complete: nothing later reaches the disk.
+    int commitsBeforeKill = -1;
 
     std::string Resolve(const std::string& path) override {
         for (const auto& [name, content] : files) {
@@ -62,8 +62,7 @@ class MemoryFileSystem : public FileSystem {
     }
     bool CopyFile(const std::string& from, const std::string& to) override {
         if (!FileExists(from) || failCreate) return false;
-        const std::string content = files[Resolve(from)];
-        files[Resolve(to)] = content;
+        files[Resolve(to)] = std::string(files[Resolve(from)]);
         return true;
     }
     bool DeleteFile(const std::string& path) override {
