@@ -13,16 +13,16 @@ using Messages = std::vector<std::pair<int, std::string>>;
 
 // A program folder "/orlo" in memory, and the rules that are read from it.
 struct RuleWorld : FakeWorld {
+    using Reader = bool(Session&, FileSystem&, MessageHost&);
+
     Session session;
 
     RuleWorld() { session.ProgramFolder = "/orlo"; }
-    template <typename Reader>
-    bool Read(Reader read, const std::string& path, std::string text) {
+    bool Read(Reader* read, const std::string& path, std::string text) {
         files.files[path] = std::move(text);
         return read(session, files, messages);
     }
-    template <typename Reader>
-    bool ReadMissing(Reader read) {
+    bool ReadMissing(Reader* read) {
         files.files.clear();
         return read(session, files, messages);
     }

@@ -51,32 +51,31 @@ TEST(AirlineSetsFile, AHeadThatOpensNoSetDropsItsLines) {
 }
 
 TEST(AirlineSetsFile, BodyLinesAreAirlinesPatternsOrSkipped) {
-    const std::pair<std::string_view, std::string_view> cases[] = {{"", "|"},
-                                                                   {"   ", "|"},
-                                                                   {";KLM,5", "|"},
-                                                                   {"KLM", "||KLM=-1"},
-                                                                   {"KLM,", "||KLM=-1"},
-                                                                   {"KLM,many", "||KLM=-1"},
-                                                                   {"KLM,5%", "||KLM=-1"},
-                                                                   {"KLM, 40 ,x", "||KLM=40"},
-                                                                   {"KLM,0", "||KLM=0"},
-                                                                   {"KLM,100", "||KLM=100"},
-                                                                   {"KLM,150", "||KLM=100"},
-                                                                   {"KLM,-5", "||KLM=-5"},
-                                                                   {"KLM,12.5", "||KLM=12"},
-                                                                   {"KLM,13.5", "||KLM=14"},
-                                                                   {"KLM,99999999999", "||KLM=-1"},
-                                                                   {"  KLM (Royal), 5", "||KLM =5"},
-                                                                   {"KLM ; Royal,5", "||KLM =5"},
-                                                                   {"KLM;(Royal);,5", "||KLM=5"},
-                                                                   {"KLM(Royal;,5", "||KLM=5"},
-                                                                   {"(KLM),5", "||=5"},
-                                                                   {"#n!!-.\xE9", "|N!!-.\xC9"},
-                                                                   {"#N!!\n#d-..", "|N!!,D-.."},
-                                                                   {"# n ", "| N "},
-                                                                   {" #N", "||#N=-1"}};
-    for (const auto& [line, told] : cases)
-        EXPECT_EQ(Told(ParseAirlines(Concat("[Global]\n", line)).Global), told) << line;
+    const auto told = [](std::string_view line) {
+        return Told(ParseAirlines(Concat("[Global]\n", line)).Global);
+    };
+    const std::pair<std::string_view, std::string_view> lines[] = {
+        {"", "|"},
+        {"   ", "|"},
+        {";KLM,5", "|"},
+        {"KLM", "||KLM=-1"},
+        {"  KLM (Royal), 5", "||KLM =5"},
+        {"KLM ; Royal,5", "||KLM =5"},
+        {"KLM;(Royal);,5", "||KLM=5"},
+        {"KLM(Royal;,5", "||KLM=5"},
+        {"(KLM),5", "||=5"},
+        {"#n!!-.\xE9", "|N!!-.\xC9"},
+        {"#N!!\n#d-..", "|N!!,D-.."},
+        {"# n ", "| N "},
+        {" #N", "||#N=-1"},
+    };
+    for (const auto& [line, expected] : lines) EXPECT_EQ(told(line), expected) << line;
+    using Share = std::pair<std::string_view, int>;
+    const Share shares[] = {{"", -1},     {"many", -1}, {"5%", -1},         {" 40 ,x", 40},
+                            {"0", 0},     {"100", 100}, {"150", 100},       {"-5", -5},
+                            {"12.5", 12}, {"13.5", 14}, {"99999999999", -1}};
+    for (const auto& [share, percent] : shares)
+        EXPECT_EQ(told(Concat("KLM,", share)), Concat("||KLM=", percent)) << share;
 }
 
 TEST(AirlineSetsFile, AReadReplacesTheSetsAndAMissingFileLeavesThem) {

@@ -31,7 +31,7 @@ TEST(NameLists, NamesAreTrimmedInFileOrderAndFoundWithoutRegardToCase) {
 TEST(NameLists, EachReaderFillsItsListAndAMissingFileEmptiesIt) {
     const struct {
         const char* name;
-        bool (*read)(Session&, FileSystem&, MessageHost&);
+        RuleWorld::Reader* read;
         NameList Rules::*list;
     } cases[] = {{"ORLO_NAL.CFG", ReadAirlineNames, &Rules::AirlineNames},
                  {"ORLO_NMD.CFG", ReadModelNames, &Rules::ModelNames},

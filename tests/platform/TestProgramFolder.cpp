@@ -33,7 +33,6 @@ class ProgramFolder : public testing::Test {
             return found == expected ? 0 : 1;
         });
     }
-    void OpenBin() const { fs::permissions(folder.Path("bin"), fs::perms(0777)); }
     void Install() const {
         folder.Put("share/orlo/ORLO_AC.CFG", "installed classes");
         folder.Put("share/orlo/Help/index.html", "installed help");
@@ -43,10 +42,15 @@ class ProgramFolder : public testing::Test {
     TemporaryFolder folder;
 };
 
-TEST_F(ProgramFolder, IsTheExecutablesOwnWhereThatCanBeWritten) {
-    OpenBin();
+TEST_F(ProgramFolder, IsTheExecutablesOwnWhereThatCanBeWrittenUnlessTheProgramIsInstalled) {
+    fs::permissions(folder.Path("bin"), fs::perms(0777));
     EXPECT_EQ(FindAsPlainUser(folder.Path("bin")), 0);
     EXPECT_FALSE(fs::exists(folder.Path("home/data")));
+    // Root can write where all programs are, and got that folder, in which there are no rule files.
+    Install();
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "installed classes");
+    EXPECT_EQ(folder.Content("home/data/orlo/Help/pictures/about.png"), "picture");
 }
 
 TEST_F(ProgramFolder, IsElseTheUsersOwnFilledOnce) {
@@ -61,15 +65,6 @@ TEST_F(ProgramFolder, IsElseTheUsersOwnFilledOnce) {
     EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "mine");
     EXPECT_FALSE(fs::exists(folder.Path("home/data/orlo/ORLO_FL.CFG")));
-}
-
-// Root can write where all programs are, and got that folder, in which there are no rule files.
-TEST_F(ProgramFolder, OfAnInstalledProgramIsTheUsersOwnEvenWhereItsFolderCanBeWritten) {
-    OpenBin();
-    Install();
-    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
-    EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "installed classes");
-    EXPECT_EQ(folder.Content("home/data/orlo/Help/pictures/about.png"), "picture");
 }
 
 // The manual was copied once, and an update of the program left the old one.

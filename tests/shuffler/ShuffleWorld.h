@@ -39,10 +39,9 @@ inline AirlineSet MakeSet(std::string_view name, const std::vector<Share>& share
     set.Name = name;
     set.TailPatterns = patterns;
     for (const Share& share : shares) {
-        AirlineEntry entry;
+        AirlineEntry& entry = set.Airlines.emplace_back();
         entry.Name = share.airline;
         entry.Percent = share.percent;
-        set.Airlines.push_back(std::move(entry));
     }
     return set;
 }
@@ -92,9 +91,8 @@ struct ShuffleWorld {
         aircraft.UIManufacturer = "Maker";
         aircraft.UIType = "Type";
         aircraft.CruiseSpeed = 120;
-        aircraft.MinFL = 0;
+        aircraft.MinFL = aircraft.MinRange = 0;
         aircraft.MaxFL = 500;
-        aircraft.MinRange = 0;
         aircraft.MaxRange = 9999;
         aircraft.RunwayLength = 1000;
         aircraft.RunwayTypes = "Hard/Soft";

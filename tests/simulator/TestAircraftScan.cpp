@@ -30,12 +30,6 @@ struct ScanWorld {
     }
 };
 
-ClassEntry EntryOf(const std::string& id) {
-    ClassEntry entry;
-    entry.ID = id;
-    return entry;
-}
-
 ClassLists SampleClasses() {
     ClassLists lists;
     for (std::int32_t code = kClassMicroProp; code <= kClassHugeJet; ++code) {
@@ -43,14 +37,17 @@ ClassLists SampleClasses() {
         lists.Profiles[static_cast<std::size_t>(code)] = {base + 1, base + 2, base + 3, base + 4, base + 5,
                                                           base + 6, "HARD",   base + 7, "GATE",   base + 8};
     }
-    lists.Entries[kClassNotUsed] = {EntryOf("OLD")};
-    lists.Entries[kClassMicroProp] = {EntryOf("172")};
-    lists.Entries[kClassSmallJet] = {EntryOf(""), EntryOf("737"), EntryOf("OLDER")};
-    ClassEntry own = EntryOf("747");
+    const auto add = [&](AircraftClass code, std::string_view id) {
+        lists.Entries[code].emplace_back().ID = id;
+    };
+    add(kClassNotUsed, "OLD");
+    add(kClassMicroProp, "172");
+    for (std::string_view id : {"", "737", "OLDER"}) add(kClassSmallJet, id);
+    for (std::string_view id : {"747", "7"}) add(kClassHugeJet, id);
+    ClassEntry& own = lists.Entries[kClassHugeJet].front();
     own.CruiseSpeed = 490;
     own.MaxRange = 7000;
     own.RunwayTypes = "SOFT";
-    lists.Entries[kClassHugeJet] = {own, EntryOf("7")};
     return lists;
 }
 
@@ -264,7 +261,7 @@ TEST(AircraftScan, TheWorldOfRealAircraftIsReadWhole) {
     const auto fleet = ReadWholeFile(disk, world + "facts/fleet.csv");
     if (!fleet) GTEST_SKIP() << "no aircraft of a real world lie beside the checkout";
     Session session;
-    session.rules.Classes.Entries[kClassSmallJet] = {EntryOf("A319")};
+    session.rules.Classes.Entries[kClassSmallJet].emplace_back().ID = "A319";
     ASSERT_TRUE(ScanAircraft(session.fleet, session.rules.Classes, disk, world + "simulator", true));
     std::multiset<std::string> read, listed;
     for (const FSAircraft& aircraft : session.fleet.FSAircrafts) {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <utility>
+#include <vector>
 
-#include "core/Session.h"
+#include "core/Plan.h"
 #include "simulator/Navigation.h"
 #include "simulator/PlanPositions.h"
 #include "support/CaseTable.h"
@@ -11,22 +11,20 @@
 namespace orlo::test {
 namespace {
 
-Session PlanOf(std::initializer_list<PlanAirport> airports) {
-    Session session;
-    session.plan.PlanLoaded = true;
-    for (const PlanAirport& airport : airports) {
-        session.plan.PlanAirportIndex.Add(airport.ICAO, session.plan.PlanAirportCount());
-        session.plan.PlanAirports.push_back(airport);
-    }
-    return session;
+Plan PlanOf(const std::vector<PlanAirport>& airports) {
+    Plan plan;
+    plan.PlanAirports = airports;
+    for (std::int32_t i = 0; i < plan.PlanAirportCount(); ++i)
+        plan.PlanAirportIndex.Add(airports[static_cast<std::size_t>(i)].ICAO, i);
+    return plan;
 }
 
 using Route = std::pair<std::int32_t, std::int32_t>;  // distance and course
 
 // By single questions; the prepared positions must tell the same to the bit.
-Route RouteBetween(const Session& session, std::string_view from, std::string_view to) {
-    const Route route{GetDistance(session.plan, from, to), GetCourse(session.plan, from, to)};
-    const PlanPositions positions(session.plan);
+Route RouteBetween(const Plan& plan, std::string_view from, std::string_view to) {
+    const Route route{GetDistance(plan, from, to), GetCourse(plan, from, to)};
+    const PlanPositions positions(plan);
     EXPECT_EQ(route, (Route{positions.Distance(from, to), positions.Course(from, to)})) << from << " " << to;
     return route;
 }
@@ -35,15 +33,15 @@ TEST(Navigation, DistancesAndCoursesAgreeWithTheTableOfCases) {
     const auto rows = ReadCaseTable("distances.csv");
     if (!rows) GTEST_SKIP() << "no table of distances beside the checkout";
     for (const CaseRow& row : *rows) {
-        const Session session = PlanOf({{row[0], row[1], row[2], "0"}, {row[3], row[4], row[5], "0"}});
+        const Plan plan = PlanOf({{row[0], row[1], row[2], "0"}, {row[3], row[4], row[5], "0"}});
         const Route expected{std::stoi(row[6]), std::stoi(row[7])};
-        EXPECT_EQ(RouteBetween(session, row[0], row[3]), expected) << row[0] << " " << row[3];
+        EXPECT_EQ(RouteBetween(plan, row[0], row[3]), expected) << row[0] << " " << row[3];
     }
     EXPECT_GE(rows->size(), 100u);
 }
 
 TEST(Navigation, RoutesOfSpecialPlaces) {
-    const Session session = PlanOf({
+    const Plan plan = PlanOf({
         {"ZERO", "N0* 00.00'", "W0* 00.00'", "0"},
         {"NEAR", "N0* 30.00'", "W0* 00.99'", "0"},
         {"NRTH", "N1* 00.00'", "W0* 00.00'", "0"},
@@ -72,8 +70,8 @@ TEST(Navigation, RoutesOfSpecialPlaces) {
         {"ZERO", "NONE", {-1, -1}},
     };
     for (const auto& [from, to, route] : cases)
-        EXPECT_EQ(RouteBetween(session, from, to), route) << from << " " << to;
-    const PlanPositions positions(session.plan);
+        EXPECT_EQ(RouteBetween(plan, from, to), route) << from << " " << to;
+    const PlanPositions positions(plan);
     EXPECT_EQ(positions.Distance(0, 0), -1);
     EXPECT_EQ(positions.Distance(0, -1), -1);
     EXPECT_EQ(positions.Course(1000, 0), -1);

@@ -41,8 +41,7 @@ class FakeMessages : public MessageHost {
 
 class FakeWindows : public WindowHost {
   public:
-    std::deque<std::string> paths;   // answers of file dialogs; without one they are cancelled
-    std::deque<std::string> inputs;  // answers of input boxes
+    std::deque<std::string> paths;  // answers of file dialogs; without one they are cancelled
     std::vector<std::string> printed;
     std::vector<std::string> timers;
     bool keepsWindowPlace = false;
@@ -65,8 +64,7 @@ class FakeWindows : public WindowHost {
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
     std::optional<std::string> InputBox(std::string_view, std::string_view, std::string_view) override {
-        if (inputs.empty()) return std::nullopt;
-        return Take(inputs);
+        return std::nullopt;
     }
     bool ShowPrintDialog(std::string_view) override { return true; }
     PrintOutcome Print(std::string_view text) override {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
@@ -33,14 +34,10 @@ class MemoryFileSystem : public FileSystem {
     std::string FullPath(const std::string& path) override { return path; }
     bool FileExists(const std::string& path) override { return files.contains(Resolve(path)); }
     bool FolderExists(const std::string& path) override {
-        const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");
-        for (const std::string& name : folders) {
-            if (StartsWithNoCase(JoinPath(name, ""), folder)) return true;
-        }
-        for (const auto& [name, content] : files) {
-            if (StartsWithNoCase(name, folder)) return true;
-        }
-        return false;
+        const auto isIt = [&](std::string_view name) {
+            return EqualNoCase(WithoutTrailingSeparator(name), WithoutTrailingSeparator(path));
+        };
+        return std::any_of(folders.begin(), folders.end(), isIt) || !ListFolder(path).empty();
     }
     std::optional<std::uint64_t> FileSize(const std::string& path) override {
         const auto found = files.find(Resolve(path));
