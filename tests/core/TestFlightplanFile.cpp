@@ -8,7 +8,6 @@ namespace orlo {
 namespace {
 
 const std::string kPlanPath = "/plan/FlightPlans.txt";
-const std::string kBackupPath = "/plan/FlightPlans.txt.orlo.bak";
 const std::string kRemovedPath = "/plan/Removed Flights.txt";
 
 Plan ReadText(test::FakeWorld& world, std::string text) {
@@ -121,7 +120,7 @@ TEST(FlightplanFile, RemovedFlightsGoToTheirOwnFileWhichASaveWithoutThemDeletes)
     plan.Flights.SetRemoved(0, false);
     WriteFlightplan(world.files, kPlanPath, plan.Flights, true);
     EXPECT_FALSE(files.contains(kRemovedPath));
-    EXPECT_EQ(files[kBackupPath], line + line) << "the first backup stays";
+    EXPECT_EQ(files[kPlanPath + ".orlo.bak"], line + line) << "the first backup stays";
 }
 
 }  // namespace

@@ -19,7 +19,6 @@ TEST(Number, HalvesRoundToTheEvenNumber) {
 }
 
 TEST(Number, WholeNumbersAreReadAsPeopleTypeThem) {
-    constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
     using Case = std::pair<std::string_view, std::int32_t>;
     const Case cases[] = {{"0", 0},     {"  42  ", 42}, {"+7", 7},    {"-7", -7}, {"007", 7},
                           {"1.", 1},    {".5", 0},      {"1.5", 2},   {"2.5", 2}, {"-2.5", -2},
@@ -28,7 +27,8 @@ TEST(Number, WholeNumbersAreReadAsPeopleTypeThem) {
     EXPECT_EQ(ParseWholeNumber("2.5000000000000000000001"), 3);
     EXPECT_EQ(ParseWholeNumber("00000000000000000000000000012"), 12);
     EXPECT_EQ(ParseWholeNumber("2147483647.4"), 2147483647);
-    for (std::string_view text : {"-2147483648", "-2147483648.5"}) EXPECT_EQ(ParseWholeNumber(text), kLeast);
+    for (std::string_view text : {"-2147483648", "-2147483648.5"})
+        EXPECT_EQ(ParseWholeNumber(text), std::numeric_limits<std::int32_t>::min());
     for (std::string_view text :
          {"2147483647.5", "2147483648", "-2147483649", "4294967296", "99999999999999999999999999", "", "   ",
           "-", ".", "- 7", "--7", "1 2", "1,5", "1e3", "0x10", "\t7", "1.2.3"}) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -43,7 +42,6 @@ class FakeWindows : public WindowHost {
   public:
     std::deque<std::string> paths;  // answers of file dialogs; without one they are cancelled
     std::vector<std::string> printed;
-    std::vector<std::string> timers;
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
     std::function<void(Form&)> onModal;  // what happens while a modal form is shown
@@ -55,11 +53,9 @@ class FakeWindows : public WindowHost {
     void UnloadForm(Form&) override {}
     bool KeepsWindowPlace() const override { return keepsWindowPlace; }
     void ShowNotBuilt(std::string_view) override {}
-    void StartTimer(std::string_view name, int) override { timers.emplace_back(name); }
-    void StopTimer(std::string_view name) override { std::erase(timers, std::string(name)); }
-    bool TimerArmed(std::string_view name) const override {
-        return std::find(timers.begin(), timers.end(), name) != timers.end();
-    }
+    void StartTimer(std::string_view, int) override {}
+    void StopTimer(std::string_view) override {}
+    bool TimerArmed(std::string_view) const override { return false; }
     std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
