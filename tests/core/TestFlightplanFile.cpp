@@ -85,13 +85,13 @@ TEST(FlightplanFile, ProgressMovesEvery202LinesAndAnUnreachableFileLeavesNoFligh
     std::string text;
     for (int i = 0; i < 404; ++i) text += kTwoLegs + "\r\n";
     Plan plan = ReadText(world, text);
-    const std::vector<std::string> expected = {"max 100", "value 0", "value 48", "value 97"};
-    EXPECT_EQ(world.progress.lines, expected);
+    EXPECT_EQ(world.progress.lines, (std::vector<std::string>{"max 100", "value 0", "value 48", "value 97"}));
 
     world.files.files.clear();
     ReadFlightplan(plan, world.services);
     EXPECT_EQ(plan.FlightCount(), 0);
-    EXPECT_EQ(world.messages.shown.at(0).second, "Flightplan file not found or access denied.");
+    EXPECT_EQ(world.messages.shown.at(0),
+              std::pair(int{kMarkCritical}, std::string("Flightplan file not found or access denied.")));
 }
 
 TEST(FlightplanFile, AllLegsOfAVeryLongLineAreKept) {
