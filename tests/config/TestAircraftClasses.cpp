@@ -1,25 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "config/AircraftClasses.h"
+#include "config/RuleWorld.h"
 #include "core/Text.h"
-#include "support/FakeHosts.h"
 
 namespace orlo::test {
 namespace {
 
-using Messages = std::vector<std::pair<int, std::string>>;
-
 constexpr const char* kPath = "/orlo/ORLO_AC.CFG";
-
-struct ClassesWorld : FakeWorld {
-    Session session;
-
-    ClassesWorld() { session.ProgramFolder = "/orlo"; }
-    bool Read(std::string text) {
-        files.files[kPath] = std::move(text);
-        return ReadAircraftClasses(session, files, messages);
-    }
-};
 
 std::vector<std::string> IDs(const ClassLists& lists, AircraftClass classCode) {
     std::vector<std::string> ids;
@@ -75,24 +65,16 @@ TEST(AircraftClasses, SectionsReadTheSameInAnyOrderCaseAndLineEnd) {
 }
 
 TEST(AircraftClasses, WrongCountsOfPartsAreRefusedWithTheirLine) {
-    struct Case {
-        std::string name;
-        int parts;
-        bool accepted;
-    };
-    std::vector<Case> cases = {{"Not Used", 1, true}, {"Not Used", 5, true}, {"Balloon", 3, true}};
-    for (const char* name :
-         {"Micro Prop", "Mid Prop", "Large Prop", "Micro Jet", "Small Jet", "Large Jet", "Huge Jet"}) {
+    for (const std::string_view name : {"Not Used", "Balloon", "Micro Prop", "Mid Prop", "Large Prop",
+                                        "Micro Jet", "Small Jet", "Large Jet", "Huge Jet"}) {
+        const bool any = name == "Not Used" || name == "Balloon";
         for (int parts : {1, 5, 6, 10, 11, 12, 20}) {
-            const bool more = parts > 11 && std::string_view(name) == "Huge Jet";
-            cases.push_back({name, parts, parts == 11 || more});
+            const bool accepted = any || parts == 11 || (parts > 11 && name == "Huge Jet");
+            const std::string line = Concat('[', LineOf(name, parts), ']');
+            const auto parsed = ParseAircraftClasses(Concat("\r\n", line, "\r\nA320\r\n"));
+            EXPECT_EQ(parsed.lists.has_value(), accepted) << line;
+            EXPECT_EQ(parsed.offendingLine, accepted ? "" : line);
         }
-    }
-    for (const Case& c : cases) {
-        const std::string line = Concat('[', LineOf(c.name, c.parts), ']');
-        const auto parsed = ParseAircraftClasses(Concat("\r\n", line, "\r\nA320\r\n"));
-        EXPECT_EQ(parsed.lists.has_value(), c.accepted) << line;
-        EXPECT_EQ(parsed.offendingLine, c.accepted ? "" : line);
     }
     for (const char* name : {"Micro Prop", "Huge Jet"}) {
         for (int parts : {1, 2, 10, 11, 12}) {
@@ -104,13 +86,12 @@ TEST(AircraftClasses, WrongCountsOfPartsAreRefusedWithTheirLine) {
 }
 
 TEST(AircraftClasses, FailuresAreToldAndLeaveTheLists) {
-    ClassesWorld world;
-    EXPECT_TRUE(world.Read("[Not Used]\r\nUFO\r\n"));
+    RuleWorld world;
+    EXPECT_TRUE(world.Read(ReadAircraftClasses, kPath, "[Not Used]\r\nUFO\r\n"));
     const ClassLists before = world.session.rules.Classes;
-    EXPECT_FALSE(world.Read("[Not Used]\r\nX\r\n[Huge Jet,1,2,3,4,5,6]\r\n"));
+    EXPECT_FALSE(world.Read(ReadAircraftClasses, kPath, "[Not Used]\r\nX\r\n[Huge Jet,1,2,3,4,5,6]\r\n"));
     EXPECT_EQ(world.session.rules.Classes, before);
-    world.files.files.clear();
-    EXPECT_FALSE(ReadAircraftClasses(world.session, world.files, world.messages));
+    EXPECT_FALSE(world.ReadMissing(ReadAircraftClasses));
     EXPECT_EQ(world.session.rules.Classes, before);
     const Messages expected = {
         {kMarkCritical, "Error in file 'ORLO_AC.CFG' in line:\n[Huge Jet,1,2,3,4,5,6]"},
@@ -119,22 +100,13 @@ TEST(AircraftClasses, FailuresAreToldAndLeaveTheLists) {
 }
 
 TEST(AircraftClasses, WritingKeepsOrderAndLeavesUnsetEntriesAsTheirID) {
-    ClassesWorld world;
-    ASSERT_TRUE(
-        world.Read("[Not Used]\nUFO\n[Micro Prop,140,0,100,0,600,2000,SOFT,5,GATE,10]\n"
-                   "C310\nC172,120,0,100,-1,600,1,HARD,2,GATE,3\nB,1,2,3,4,5,-1,,-1,,-1\n"
-                   ",1,2,3,4,5,6,HARD,7,GATE,8\n"));
+    RuleWorld world;
+    ASSERT_TRUE(world.Read(ReadAircraftClasses, kPath,
+                           "[Not Used]\nUFO\n[Micro Prop,140,0,100,0,600,2000,SOFT,5,GATE,10]\n"
+                           "C310\nC172,120,0,100,-1,600,1,HARD,2,GATE,3\nB,1,2,3,4,5,-1,,-1,,-1\n"
+                           ",1,2,3,4,5,6,HARD,7,GATE,8\n"));
     ASSERT_TRUE(WriteAircraftClasses(world.session, world.files));
-    const std::string rule = ";" + std::string(81, '-') + "\r\n";
     const std::string expected =
-        rule + ";------------------------------- A I C R A F T S ---------------------------------\r\n" +
-        rule +
-        ";Format:\r\n"
-        ";  ID , Cruise speed , Min. Flight Level , Max. Flight Level ,\r\n"
-        ";     Min. Range , Max. Range , Runway Length , Runway Types ,\r\n"
-        ";     Min. Parking Radius ,Parking Types , IFR%\r\n"
-        ";\r\n" +
-        rule +
         "\r\n[Micro Prop,140,0,100,0,600,2000,SOFT,5,GATE,10]\r\nC310\r\nC172\r\nB,1,2,3,4,5,-1,,-1,,-1\r\n"
         "\r\n[Mid Prop,200,0,150,0,1100,0,,0,,0]\r\n"
         "\r\n[Large Prop,250,80,150,100,1000,0,,0,,0]\r\n"
@@ -143,17 +115,12 @@ TEST(AircraftClasses, WritingKeepsOrderAndLeavesUnsetEntriesAsTheirID) {
         "\r\n[Large Jet,480,250,420,1000,5500,0,,0,,0]\r\n"
         "\r\n[Huge Jet,490,250,420,2000,7000,0,,0,,0]\r\n"
         "\r\n[Not Used]\r\nUFO\r\n";
-    EXPECT_EQ(world.files.files[kPath], expected);
+    const std::string written = world.files.files[kPath];
+    EXPECT_EQ(std::count(written.begin(), written.end(), ';'), 9);  // the lines of comment in front
+    EXPECT_EQ(written.substr(written.find("\n\r\n") + 1), expected);
 
     ASSERT_TRUE(ReadAircraftClasses(world.session, world.files, world.messages));
-    EXPECT_EQ(FormatAircraftClasses(world.session.rules.Classes), expected);
-
-    world.session.rules.Classes = ClassLists();
-    world.files.failAfterBytes = 10;
-    EXPECT_FALSE(WriteAircraftClasses(world.session, world.files));
-    world.files.failCreate = true;
-    EXPECT_FALSE(WriteAircraftClasses(world.session, world.files));
-    EXPECT_EQ(world.files.files[kPath], expected);
+    EXPECT_EQ(FormatAircraftClasses(world.session.rules.Classes), written);
 }
 
 }  // namespace

@@ -1,15 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-
 #include "config/AirlineSetsFile.h"
+#include "config/RuleWorld.h"
 #include "core/Text.h"
-#include "support/FakeHosts.h"
 
 namespace orlo::test {
 namespace {
-
-using Messages = std::vector<std::pair<int, std::string>>;
 
 // The set as a line: name, patterns, airlines with their shares.
 std::string Told(const AirlineSet& set) {
@@ -55,50 +51,41 @@ TEST(AirlineSetsFile, AHeadThatOpensNoSetDropsItsLines) {
 }
 
 TEST(AirlineSetsFile, BodyLinesAreAirlinesPatternsOrSkipped) {
-    struct Case {
-        std::string_view line, expected;
+    const auto told = [](std::string_view line) {
+        return Told(ParseAirlines(Concat("[Global]\n", line)).Global);
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {"", "|"},
-             {"   ", "|"},
-             {";KLM,5", "|"},
-             {"KLM", "||KLM=-1"},
-             {"KLM,", "||KLM=-1"},
-             {"KLM,many", "||KLM=-1"},
-             {"KLM,5%", "||KLM=-1"},
-             {"KLM, 40 ,x", "||KLM=40"},
-             {"KLM,0", "||KLM=0"},
-             {"KLM,100", "||KLM=100"},
-             {"KLM,150", "||KLM=100"},
-             {"KLM,-5", "||KLM=-5"},
-             {"KLM,12.5", "||KLM=12"},
-             {"KLM,13.5", "||KLM=14"},
-             {"KLM,99999999999", "||KLM=-1"},
-             {"  KLM (Royal), 5", "||KLM =5"},
-             {"KLM ; Royal,5", "||KLM =5"},
-             {"KLM;(Royal);,5", "||KLM=5"},
-             {"KLM(Royal;,5", "||KLM=5"},
-             {"(KLM),5", "||=5"},
-             {"#n!!-.\xE9", "|N!!-.\xC9"},
-             {"#N!!\n#d-..", "|N!!,D-.."},
-             {"# n ", "| N "},
-             {" #N", "||#N=-1"},
-         }) {
-        EXPECT_EQ(Told(ParseAirlines(Concat("[Global]\n", c.line)).Global), c.expected) << c.line;
-    }
+    const std::pair<std::string_view, std::string_view> lines[] = {
+        {"", "|"},
+        {"   ", "|"},
+        {";KLM,5", "|"},
+        {"KLM", "||KLM=-1"},
+        {"  KLM (Royal), 5", "||KLM =5"},
+        {"KLM ; Royal,5", "||KLM =5"},
+        {"KLM;(Royal);,5", "||KLM=5"},
+        {"KLM(Royal;,5", "||KLM=5"},
+        {"(KLM),5", "||=5"},
+        {"#n!!-.\xE9", "|N!!-.\xC9"},
+        {"#N!!\n#d-..", "|N!!,D-.."},
+        {"# n ", "| N "},
+        {" #N", "||#N=-1"},
+    };
+    for (const auto& [line, expected] : lines) EXPECT_EQ(told(line), expected) << line;
+    using Share = std::pair<std::string_view, int>;
+    const Share shares[] = {{"", -1},     {"many", -1}, {"5%", -1},         {" 40 ,x", 40},
+                            {"0", 0},     {"100", 100}, {"150", 100},       {"-5", -5},
+                            {"12.5", 12}, {"13.5", 14}, {"99999999999", -1}};
+    for (const auto& [share, percent] : shares)
+        EXPECT_EQ(told(Concat("KLM,", share)), Concat("||KLM=", percent)) << share;
 }
 
 TEST(AirlineSetsFile, AReadReplacesTheSetsAndAMissingFileLeavesThem) {
-    FakeWorld world;
-    Session session;
-    session.ProgramFolder = "/orlo";
-    session.rules.Airlines = ParseAirlines("[Global]\nOLD\n[Region:Old]\n");
-    world.files.files["/orlo/Orlo_al.cfg"] = "[Region:New]\r\nNEW,7\r\n";
-    EXPECT_TRUE(ReadAirlines(session, world.files, world.messages));
-    world.files.files.clear();
-    EXPECT_FALSE(ReadAirlines(session, world.files, world.messages));
-    EXPECT_EQ(Told(session.rules.Airlines.Global), "|");
-    EXPECT_EQ(Told(session.rules.Airlines.Regions), std::vector<std::string>{"New||NEW=7"});
+    RuleWorld world;
+    const AirlineSets& sets = world.session.rules.Airlines;
+    world.session.rules.Airlines = ParseAirlines("[Global]\nOLD\n[Region:Old]\n");
+    EXPECT_TRUE(world.Read(ReadAirlines, "/orlo/Orlo_al.cfg", "[Region:New]\r\nNEW,7\r\n"));
+    EXPECT_FALSE(world.ReadMissing(ReadAirlines));
+    EXPECT_EQ(Told(sets.Global), "|");
+    EXPECT_EQ(Told(sets.Regions), std::vector<std::string>{"New||NEW=7"});
     EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, "File 'ORLO_AL.CFG' not found."}}));
 }
 

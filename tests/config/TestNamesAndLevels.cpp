@@ -1,19 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <initializer_list>
-#include <iterator>
-
 #include "config/AircraftClasses.h"
 #include "config/AirlineSetsFile.h"
 #include "config/FlightLevels.h"
 #include "config/NameLists.h"
-#include "support/FakeHosts.h"
+#include "config/RuleWorld.h"
+#include "platform/posix/PosixFileSystem.h"
 
 namespace orlo::test {
 namespace {
 
-using Messages = std::vector<std::pair<int, std::string>>;
 using Names = std::vector<std::string>;
 
 TEST(NameLists, NamesAreTrimmedInFileOrderAndFoundWithoutRegardToCase) {
@@ -33,28 +29,21 @@ TEST(NameLists, NamesAreTrimmedInFileOrderAndFoundWithoutRegardToCase) {
 }
 
 TEST(NameLists, EachReaderFillsItsListAndAMissingFileEmptiesIt) {
-    struct Case {
-        const char* path;
-        const char* message;
-        bool (*read)(Session&, FileSystem&, MessageHost&);
+    const struct {
+        const char* name;
+        RuleWorld::Reader* read;
         NameList Rules::*list;
-    };
-    for (const Case& c : std::initializer_list<Case>{
-             {"/orlo/ORLO_NAL.CFG", "File 'ORLO_NAL.CFG' not found.", ReadAirlineNames, &Rules::AirlineNames},
-             {"/orlo/ORLO_NMD.CFG", "File 'ORLO_NMD.CFG' not found.", ReadModelNames, &Rules::ModelNames},
-             {"/orlo/ORLO_NTP.CFG", "File 'ORLO_NTP.CFG' not found.", ReadTypeNames, &Rules::TypeNames}}) {
-        FakeWorld world;
-        Session session;
-        session.ProgramFolder = "/orlo";
-        for (const char* content : {"OLD\nB\n", "A\nB\n"}) {
-            world.files.files[c.path] = content;
-            EXPECT_TRUE(c.read(session, world.files, world.messages)) << c.path;
-        }
-        EXPECT_EQ((session.rules.*c.list).Names, (Names{"A", "B"})) << c.path;
-        world.files.files.clear();
-        EXPECT_FALSE(c.read(session, world.files, world.messages)) << c.path;
-        EXPECT_EQ(session.rules.*c.list, NameList()) << c.path;
-        EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, c.message}}));
+    } cases[] = {{"ORLO_NAL.CFG", ReadAirlineNames, &Rules::AirlineNames},
+                 {"ORLO_NMD.CFG", ReadModelNames, &Rules::ModelNames},
+                 {"ORLO_NTP.CFG", ReadTypeNames, &Rules::TypeNames}};
+    for (const auto& [name, read, list] : cases) {
+        RuleWorld world;
+        for (const char* content : {"OLD\nB\n", "A\nB\n"})
+            EXPECT_TRUE(world.Read(read, Concat("/orlo/", name), content)) << name;
+        EXPECT_EQ((world.session.rules.*list).Names, (Names{"A", "B"})) << name;
+        EXPECT_FALSE(world.ReadMissing(read)) << name;
+        EXPECT_EQ(world.session.rules.*list, NameList()) << name;
+        EXPECT_EQ(world.messages.shown, (Messages{{kMarkCritical, Concat("File '", name, "' not found.")}}));
     }
 }
 
@@ -69,16 +58,14 @@ TEST(FlightLevelRules, LinesOfSevenNumbersAreRulesInFileOrder) {
 
 TEST(FlightLevelRules, AWrongCountOfFieldsKeepsTheRulesReadSoFar) {
     for (const std::string line : {"1,2,3,4,5,6", "1,2,3,4,5,6,7,8", "x", "1,2,3,4,5,6,7,"}) {
-        FakeWorld world;
-        Session session;
-        session.ProgramFolder = "/orlo";
-        session.rules.FlightLevelRules.resize(5);
-        world.files.files["/orlo/ORLO_FL.CFG"] = "1,2,3,4,5,6,7\r\n" + line + " \r\n8,8,8,8,8,8,8\r\n";
-        EXPECT_FALSE(ReadFlightLevels(session, world.files, world.messages));
-        EXPECT_EQ(session.rules.FlightLevelRules, (std::vector<FlightLevelRule>{{1, 2, 3, 4, 5, 6, 7}}));
-        world.files.files.clear();
-        EXPECT_FALSE(ReadFlightLevels(session, world.files, world.messages));
-        EXPECT_TRUE(session.rules.FlightLevelRules.empty());
+        RuleWorld world;
+        const auto& rules = world.session.rules.FlightLevelRules;
+        world.session.rules.FlightLevelRules.resize(5);
+        EXPECT_FALSE(world.Read(ReadFlightLevels, "/orlo/ORLO_FL.CFG",
+                                "1,2,3,4,5,6,7\r\n" + line + " \r\n8,8,8,8,8,8,8\r\n"));
+        EXPECT_EQ(rules, (std::vector<FlightLevelRule>{{1, 2, 3, 4, 5, 6, 7}}));
+        EXPECT_FALSE(world.ReadMissing(ReadFlightLevels));
+        EXPECT_TRUE(rules.empty());
         EXPECT_EQ(world.messages.shown,
                   (Messages{{kMarkCritical, "Error in file 'ORLO_FL.CFG' in line:\n" + line},
                             {kMarkCritical, "File 'ORLO_FL.CFG' not found."}}));
@@ -86,19 +73,15 @@ TEST(FlightLevelRules, AWrongCountOfFieldsKeepsTheRulesReadSoFar) {
 }
 
 TEST(RuleFiles, TheInstalledFilesReadWithoutAMessage) {
-    FakeWorld world;
+    PosixFileSystem disk;
+    FakeMessages messages;
     Session session;
-    session.ProgramFolder = "/orlo";
-    for (const std::string name :
-         {"ORLO_AC.CFG", "ORLO_AL.CFG", "ORLO_NAL.CFG", "ORLO_NMD.CFG", "ORLO_NTP.CFG", "ORLO_FL.CFG"}) {
-        std::ifstream file(ORLO_SOURCE_DIR "/share/" + name, std::ios::binary);
-        world.files.files["/orlo/" + name] = {std::istreambuf_iterator<char>(file), {}};
-    }
+    session.ProgramFolder = ORLO_SOURCE_DIR "/share";
     for (const auto read : {ReadAircraftClasses, ReadAirlines, ReadAirlineNames, ReadModelNames,
                             ReadTypeNames, ReadFlightLevels}) {
-        EXPECT_TRUE(read(session, world.files, world.messages));
+        EXPECT_TRUE(read(session, disk, messages));
     }
-    EXPECT_TRUE(world.messages.shown.empty());
+    EXPECT_TRUE(messages.shown.empty());
     for (std::size_t code = kClassNotUsed; code <= kClassHugeJet; ++code) {
         EXPECT_FALSE(session.rules.Classes.Entries[code].empty()) << code;
     }

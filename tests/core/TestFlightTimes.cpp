@@ -25,29 +25,29 @@ Flight MakeFlight(std::string period, const std::vector<std::string>& times) {
 }
 
 TEST(FlightTimes, DailyTimesWrapAtMidnightAndWeekTimesRunThroughTheTurnOfTheWeek) {
-    struct Case {
+    const struct {
         std::string period;
         std::vector<std::string> times;
         Seconds turnAround;  // in front of the second leg
         Seconds firstFlightTime, secondFlightTime;
+    } cases[] = {
+        {"24Hr", {"10:00:00", "11:30:00", "12:00:00", "12:45:30"}, 1800, 5400, 2730},
+        {"24Hr", {"23:00:00", "00:30:00", "00:15:00", "00:15:00"}, 85500, 5400, 0},
+        {"24Hr", {"9:00", "10:00", "10:00", "11:00"}, 0, 3600, 3600},
+        {"WEEK", {"6/22:00:00", "0/01:00:00", "0/02:00:00", "0/03:00:00"}, 3600, 10800, 3600},
+        {"week", {"1/10:00:00", "1/11:00:00", "1/10:30:00", "1/12:00:00"}, -1800, 3600, 5400},
+        {"WEEK", {"5/10:00:00", "5/12:00:00", "1/12:00:00", "1/13:00:00"}, 3 * 86400, 7200, 3600},
+        // Same day, arrival before departure: the time between them.
+        {"WEEK", {"2/10:00:00", "2/08:00:00", "2/09:00:00", "2/10:00:00"}, 3600, 7200, 3600},
+        // What can't be read, and nothing else, is not measured.
+        {"24Hr", {"10:00:00", "later", "12:00:00", "13:00:00"}, {}, {}, 3600},
+        {"24Hr", {"10:00:00", "24:00:00", "12:00:00", ""}, {}, {}, {}},
+        {"24Hr", {"1/10:00:00", "11:00:00", "12:00:00", "1/13:00:00"}, 3600, {}, {}},
+        {"WEEK", {"10:00:00", "1/11:00:00", "1/12:00:00", "1/13:00:00"}, {}, {}, 3600},
+        {"WEEK", {"1/10:00:00", "1/11:00:00", "7/12:00:00", "1/13:00:00"}, {}, 3600, {}},
+        {"WEEK", {"1/1x:00:00", "1/11:00:00", "1/12:00:00", "1/13:00:00"}, 3600, {}, 3600},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {"24Hr", {"10:00:00", "11:30:00", "12:00:00", "12:45:30"}, 1800, 5400, 2730},
-             {"24Hr", {"23:00:00", "00:30:00", "00:15:00", "00:15:00"}, 85500, 5400, 0},
-             {"24Hr", {"9:00", "10:00", "10:00", "11:00"}, 0, 3600, 3600},
-             {"WEEK", {"6/22:00:00", "0/01:00:00", "0/02:00:00", "0/03:00:00"}, 3600, 10800, 3600},
-             {"week", {"1/10:00:00", "1/11:00:00", "1/10:30:00", "1/12:00:00"}, -1800, 3600, 5400},
-             {"WEEK", {"5/10:00:00", "5/12:00:00", "1/12:00:00", "1/13:00:00"}, 3 * 86400, 7200, 3600},
-             // Same day, arrival before departure: the time between them.
-             {"WEEK", {"2/10:00:00", "2/08:00:00", "2/09:00:00", "2/10:00:00"}, 3600, 7200, 3600},
-             // What can't be read, and nothing else, is not measured.
-             {"24Hr", {"10:00:00", "later", "12:00:00", "13:00:00"}, {}, {}, 3600},
-             {"24Hr", {"10:00:00", "24:00:00", "12:00:00", ""}, {}, {}, {}},
-             {"24Hr", {"1/10:00:00", "11:00:00", "12:00:00", "1/13:00:00"}, 3600, {}, {}},
-             {"WEEK", {"10:00:00", "1/11:00:00", "1/12:00:00", "1/13:00:00"}, {}, {}, 3600},
-             {"WEEK", {"1/10:00:00", "1/11:00:00", "7/12:00:00", "1/13:00:00"}, {}, 3600, {}},
-             {"WEEK", {"1/1x:00:00", "1/11:00:00", "1/12:00:00", "1/13:00:00"}, 3600, {}, 3600},
-         }) {
+    for (const auto& c : cases) {
         const FlightTimes times(MakeFlight(c.period, c.times));
         const std::string shown = c.period + " " + testing::PrintToString(c.times);
         EXPECT_EQ(times.Weekly(), EqualNoCase(c.period, "week")) << shown;
@@ -58,25 +58,23 @@ TEST(FlightTimes, DailyTimesWrapAtMidnightAndWeekTimesRunThroughTheTurnOfTheWeek
 }
 
 TEST(FlightTimes, TheClosingTurnAroundLeadsToTheNextRound) {
-    struct Case {
+    const struct {
         std::vector<std::string> times;
         std::int64_t hours;
         Seconds expected;
+    } cases[] = {
+        {{"08:00:00", "09:00:00", "10:00:00", "11:00:00"}, 24, 21 * 3600},
+        {{"20:00:00", "21:00:00", "01:00:00", "02:00:00"}, 24, 18 * 3600},
+        {{"08:00:00", "09:00:00", "10:00:00", "11:00:00"}, 4, 1 * 3600},
+        {{"01:00:00", "09:00:00", "10:00:00", "23:00:00"}, 1, 21 * 3600},
+        {{"08:00:00", "09:00:00", "10:00:00", ""}, 24, {}},
+        {{}, 24, {}},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {{"08:00:00", "09:00:00", "10:00:00", "11:00:00"}, 24, 21 * 3600},
-             {{"20:00:00", "21:00:00", "01:00:00", "02:00:00"}, 24, 18 * 3600},
-             {{"08:00:00", "09:00:00", "10:00:00", "11:00:00"}, 4, 1 * 3600},
-             {{"01:00:00", "09:00:00", "10:00:00", "23:00:00"}, 1, 21 * 3600},
-             {{"08:00:00", "09:00:00", "10:00:00", ""}, 24, {}},
-             {{}, 24, {}},
-         }) {
+    for (const auto& c : cases) {
         EXPECT_EQ(FlightTimes(MakeFlight("24Hr", c.times)).ClosingTurnAround(c.hours), c.expected)
             << testing::PrintToString(c.times);
     }
-}
-
-TEST(FlightTimes, APeriodWithoutANumberHasNoHours) {
+    // A period without a number has no hours.
     EXPECT_EQ(PeriodHours("24Hr"), 24);
     EXPECT_EQ(PeriodHours("1Hr"), 1);
     for (const char* period : {"", "H", "Hr", "WEEK", "xxHr", "24"}) EXPECT_EQ(PeriodHours(period), 0);

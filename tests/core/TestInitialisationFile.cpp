@@ -24,10 +24,9 @@ TEST(InitialisationFile, ValuesAreFoundBySectionAndKeyWithoutRegardToCase) {
         "[broken\r\n"
         "atc_id=N1\r\n"
         "[General]\rmodel=a\n[GENERAL]\nmodel=b");
-    struct Case {
+    const struct {
         std::string_view section, key, value;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"FLTSIM.0", "Title", "Boeing 747-400"},
         {"fltsim.0", "texture", "world, blue"},
         {"fltsim.0", "quoted", "a;b"},
@@ -39,7 +38,7 @@ TEST(InitialisationFile, ValuesAreFoundBySectionAndKeyWithoutRegardToCase) {
         {"fltsim.0", "atc_id", "N1"},  // a section line without its end is no line
         {"general", "model", "a"},
     };
-    for (const Case& c : cases) EXPECT_EQ(file.Get(c.section, c.key), c.value) << c.section << c.key;
+    for (const auto& c : cases) EXPECT_EQ(file.Get(c.section, c.key), c.value) << c.section << c.key;
     EXPECT_EQ(file.Get("fltsim.0", "stray"), std::nullopt);
     EXPECT_EQ(file.Get("fltsim.1", "title"), std::nullopt);
     EXPECT_EQ(file.SectionCount(), 3u);
@@ -59,11 +58,10 @@ TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
         "; nothing\n"
         "[Fltsim.0]\n"
         "sim=b";
-    struct Case {
+    const struct {
         std::string_view section, key, value;
         std::string_view before, after;  // what the change replaces
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"FLTSIM.0", "title", "Jet", "", ""},
         {"FLTSIM.0", "title", "Jumbo", "\tTitle = \"Jet\" \r", "Title=Jumbo\r"},
         {"fltsim.0", "title", " 'a", "\tTitle = \"Jet\" \r", "Title=\" 'a\"\r"},
@@ -72,7 +70,7 @@ TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
         {"general", "atc_model", "A;B", "; all\n", "; all\natc_model=A;B\n"},
         {"models", "normal", "", "sim=b", "sim=b\n[models]\nnormal=\n"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         InitialisationFile file((std::string(kText)));
         EXPECT_TRUE(file.Set(c.section, c.key, c.value));
         std::string expected(kText);
@@ -80,19 +78,13 @@ TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
         EXPECT_EQ(file.Text(), expected) << c.key << "=" << c.value;
         EXPECT_EQ(file.Get(c.section, c.key), c.value);
     }
-    const Case refused[] = {{"fltsim.0", "title", "a\nb", "", ""},
-                            {"fltsim.0", "a=b", "1", "", ""},
-                            {"fltsim.0", ";a", "1", "", ""},
-                            {"fltsim.0", "[a", "1", "", ""},
-                            {"fltsim.0", " a", "1", "", ""},
-                            {"a]b", "a", "1", "", ""},
-                            {" a", "a", "1", "", ""},
-                            {"a\r", "a", "1", "", ""}};
-    for (const Case& c : refused) {
-        InitialisationFile file((std::string(kText)));
-        EXPECT_FALSE(file.Set(c.section, c.key, c.value)) << c.section << c.key;
-        EXPECT_EQ(file.Text(), kText);
-    }
+    InitialisationFile file((std::string(kText)));
+    EXPECT_FALSE(file.Set("fltsim.0", "title", "a\nb"));
+    for (std::string_view key : {"a=b", ";a", "[a", " a"})
+        EXPECT_FALSE(file.Set("fltsim.0", key, "1")) << key;
+    for (std::string_view section : {"a]b", " a", "a\r"})
+        EXPECT_FALSE(file.Set(section, "a", "1")) << section;
+    EXPECT_EQ(file.Text(), kText);
 }
 
 TEST(InitialisationFile, ALineEndIsThatOfTheFileAndNeverJoinsTheOneBehind) {

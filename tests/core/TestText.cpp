@@ -7,11 +7,8 @@
 namespace orlo {
 namespace {
 
-TEST(Text, CaseIsFoldedByCodePage1252) {
-    struct Case {
-        std::string_view text, upper;
-    };
-    const Case cases[] = {
+TEST(Text, CaseIsFoldedByCodePage1252AndEveryByteSurvivesTheScreen) {
+    const std::pair<std::string_view, std::string_view> cases[] = {
         {"", ""},
         {"abcXYZ019_[`{", "ABCXYZ019_[`{"},
         {"\xE0\xE9\xF6\xFE", "\xC0\xC9\xD6\xDE"},
@@ -19,43 +16,42 @@ TEST(Text, CaseIsFoldedByCodePage1252) {
         {"\x9A\x9C\x9E\xFF", "\x8A\x8C\x8E\x9F"},  // letters outside of the two regular blocks
         {"\x83\xAA\xB5\xBA", "\x83\xAA\xB5\xBA"},  // no letters with an upper case in this code page
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(UpperText(c.text), c.upper);
-        EXPECT_TRUE(EqualNoCase(c.text, c.upper));
-        EXPECT_EQ(CompareNoCase(c.text, c.upper), 0);
-        EXPECT_EQ(HashNoCase(c.text), HashNoCase(c.upper));
+    for (const auto& [text, upper] : cases) {
+        EXPECT_EQ(UpperText(text), upper);
+        EXPECT_TRUE(EqualNoCase(text, upper));
+        EXPECT_EQ(CompareNoCase(text, upper), 0);
+        EXPECT_EQ(HashNoCase(text), HashNoCase(upper));
     }
     for (int i = 0; i < 256; ++i) {
         const char character = static_cast<char>(i);
         EXPECT_EQ(UpperChar(LowerChar(character)), UpperChar(character)) << i;
         EXPECT_EQ(LowerChar(UpperChar(character)), LowerChar(character)) << i;
+        const std::string one(1, character);
+        EXPECT_EQ(FromScreen(ToScreen(one)), one) << i;
     }
 }
 
 TEST(Text, ComparingOrdersByFoldedBytesAndThenByLength) {
-    struct Case {
-        std::string_view smaller, larger;
-    };
-    const Case cases[] = {{"", "a"}, {"AB", "abc"}, {"a_", "Z_z"}, {"Z", "_"}, {"z", "\xE9"}, {"abc", "ABD"}};
-    for (const Case& c : cases) {
-        EXPECT_LT(CompareNoCase(c.smaller, c.larger), 0) << c.smaller;
-        EXPECT_GT(CompareNoCase(c.larger, c.smaller), 0) << c.smaller;
-        EXPECT_FALSE(EqualNoCase(c.smaller, c.larger)) << c.smaller;
+    const std::pair<std::string_view, std::string_view> cases[] = {{"", "a"},  {"AB", "abc"}, {"a_", "Z_z"},
+                                                                   {"Z", "_"}, {"z", "\xE9"}, {"abc", "ABD"}};
+    for (const auto& [smaller, larger] : cases) {
+        EXPECT_LT(CompareNoCase(smaller, larger), 0) << smaller;
+        EXPECT_GT(CompareNoCase(larger, smaller), 0) << smaller;
+        EXPECT_FALSE(EqualNoCase(smaller, larger)) << smaller;
     }
 }
 
 TEST(Text, PartsAreFoundWithoutRegardToCase) {
-    struct Case {
+    const struct {
         std::string_view text, part;
         bool starts, ends, contains;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"Boeing 747", "", true, true, true},          {"Boeing 747", "BOEING", true, false, true},
         {"Boeing 747", "g 747", false, true, true},    {"Boeing 747", "ING 7", false, false, true},
         {"Boeing", "Boeing 747", false, false, false}, {"", "x", false, false, false},
         {"Zo\xEB", "O\xCB", false, true, true},        {"aab", "AB", false, true, true},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(StartsWithNoCase(c.text, c.part), c.starts) << c.text << "|" << c.part;
         EXPECT_EQ(EndsWithNoCase(c.text, c.part), c.ends) << c.text << "|" << c.part;
         EXPECT_EQ(ContainsNoCase(c.text, c.part), c.contains) << c.text << "|" << c.part;
@@ -72,21 +68,8 @@ TEST(Text, PiecesComeApartAndTogether) {
     EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
 }
 
-TEST(Text, EveryByteSurvivesTheScreen) {
-    std::string all;
-    for (int i = 0; i < 256; ++i) {
-        const std::string one(1, static_cast<char>(i));
-        EXPECT_EQ(FromScreen(ToScreen(one)), one) << i;
-        all += one;
-    }
-    EXPECT_EQ(FromScreen(ToScreen(all)), all);
-}
-
 TEST(Text, ScreensShowUtf8AsItIsAndOtherBytesAsCodePage1252) {
-    struct Case {
-        std::string_view bytes, screen;
-    };
-    const Case cases[] = {
+    const std::pair<std::string_view, std::string_view> cases[] = {
         {"plain", "plain"},
         {"Z\xFCrich \x80", "Z\xC3\xBCrich \xE2\x82\xAC"},                  // ue, euro
         {"Z\xC3\xBCrich", "Z\xC3\xBCrich"},                                // valid UTF-8 stays
@@ -96,10 +79,8 @@ TEST(Text, ScreensShowUtf8AsItIsAndOtherBytesAsCodePage1252) {
         {"\xE2\x82", "\xC3\xA2\xE2\x80\x9A"},                              // nor one that is cut
         {"\xF0\x9F\x9B\xA9", "\xF0\x9F\x9B\xA9"},
     };
-    for (const Case& c : cases) EXPECT_EQ(ToScreen(c.bytes), c.screen);
-}
-
-TEST(Text, TypedTextBecomesCodePage1252WhereItCan) {
+    for (const auto& [bytes, screen] : cases) EXPECT_EQ(ToScreen(bytes), screen);
+    // And what was typed becomes code page 1252 where it can.
     EXPECT_EQ(FromScreen("Z\xC3\xBCrich \xE2\x82\xAC \xC5\xB8"), "Z\xFCrich \x80 \x9F");
     EXPECT_EQ(FromScreen("\xC5\x81\xC3\xB3"
                          "d\xC5\xBA"),

@@ -4,7 +4,8 @@
 
 #include <chrono>
 
-#include "support/MemoryFileSystem.h"
+#include "core/Text.h"
+#include "services/FileSystem.h"
 
 namespace orlo {
 namespace {
@@ -38,11 +39,7 @@ Lines ReadLines(std::string_view text, std::size_t piece) {
 }
 
 TEST(TextLines, AllLineEndsAreAccepted) {
-    struct Case {
-        std::string_view text;
-        Lines lines;
-    };
-    const Case cases[] = {
+    const std::pair<std::string_view, Lines> cases[] = {
         {"", {}},
         {"a", {"a"}},
         {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
@@ -51,44 +48,34 @@ TEST(TextLines, AllLineEndsAreAccepted) {
         {"\r\r\n\n", {"", "", ""}},
         {"\n\r", {"", ""}},
         {"a\r", {"a"}},
-        {"\xEF\xBB\xBF"
-         "a\r\nb",
-         {"a", "b"}},
+        {"\xEF\xBB\xBFz\r\nb", {"z", "b"}},
         {"\xEF\xBB\xBF", {}},
         {"\xEF\xBB\xBF\r\n", {""}},
         {"\xEF\xBB", {"\xEF\xBB"}},
-        {"a\n\xEF\xBB\xBF"
-         "b",
-         {"a",
-          "\xEF\xBB\xBF"
-          "b"}},
+        {"a\n\xEF\xBB\xBFz", {"a", "\xEF\xBB\xBFz"}},
         {std::string_view("a\0b\nc", 5), {std::string("a\0b", 3), "c"}},
     };
-    for (const Case& c : cases) {
-        const auto split = SplitLines(c.text);
-        EXPECT_EQ(Lines(split.begin(), split.end()), c.lines) << c.text;
-        for (const std::size_t piece : {1u, 2u, 3u, 1000u}) EXPECT_EQ(ReadLines(c.text, piece), c.lines);
+    for (const auto& [text, lines] : cases) {
+        const auto split = SplitLines(text);
+        EXPECT_EQ(Lines(split.begin(), split.end()), lines) << text;
+        for (const std::size_t piece : {1u, 2u, 3u, 1000u}) EXPECT_EQ(ReadLines(text, piece), lines);
     }
 }
 
-TEST(TextLines, ALineEndAcrossTheBufferIsOneLineEnd) {
-    for (const std::string_view end : {"\r\n", "\r", "\n"}) {
-        for (std::size_t before = kBuffer - 3; before <= kBuffer + 1; ++before) {
-            const std::string first(before, 'x');
-            std::string text = first;
-            text.append(end).append("second").append(end);
-            EXPECT_EQ(ReadLines(text, text.size()), (Lines{first, "second"})) << before;
-        }
-    }
-}
-
-TEST(TextLines, LinesMayBeLongerThanTheBuffer) {
+TEST(TextLines, LinesMayBeLongerThanTheBufferAndEndAcrossIt) {
     const Lines lines = {"short", std::string(3 * kBuffer + 5, 'y'), "", std::string(kBuffer + 700, 'z')};
     std::string text;
     for (const std::string& line : lines) text.append(line).append("\r\n");
     EXPECT_EQ(ReadLines(text, 100000), lines);
     const auto split = SplitLines(text);
     EXPECT_EQ(Lines(split.begin(), split.end()), lines);
+    for (const std::string_view end : {"\r\n", "\r", "\n"}) {
+        for (std::size_t before = kBuffer - 3; before <= kBuffer + 1; ++before) {
+            const std::string first(before, 'x');
+            const std::string both = Concat(first, end, "second", end);
+            EXPECT_EQ(ReadLines(both, both.size()), (Lines{first, "second"})) << before;
+        }
+    }
 }
 
 // A file with CR alone was searched to its end for a LF once a line.

@@ -75,6 +75,14 @@ class TemporaryFolder {
     std::filesystem::path folder_;
 };
 
+// The entries of a folder, with "/" behind folders and a blank behind each.
+inline std::string Listed(FileSystem& files, const std::string& path) {
+    std::string listed;
+    for (const FolderEntry& entry : files.ListFolder(path))
+        listed.append(entry.name).append(entry.isFolder ? "/ " : " ");
+    return listed;
+}
+
 // Writes a file whole; 0 on success, else the step that failed.
 inline int Replace(const std::string& path, std::string_view content) {
     SystemFileSystem files;

@@ -34,7 +34,7 @@ TEST_F(SystemFiles, NamesAreFoundWithoutRegardToCaseInUtf8AndInTheSimulatorsCode
     EXPECT_FALSE(files.DeleteFile(folder.Path("caf\xE9/\xD0\x96.TXT")));
 }
 
-TEST_F(SystemFiles, AFileIsReadInPiecesToItsEnd) {
+TEST_F(SystemFiles, AFileIsReadInPiecesToItsEndAndCanBeReplacedMeanwhile) {
     folder.Put("data.bin", std::string("\0\r\n\xFF", 4));
     const auto file = files.OpenForReading(folder.Path("DATA.bin"));
     ASSERT_TRUE(file);
@@ -42,9 +42,11 @@ TEST_F(SystemFiles, AFileIsReadInPiecesToItsEnd) {
     std::array<char, 3> buffer{};
     EXPECT_EQ(file->Read(buffer), 3u);
     EXPECT_EQ(buffer[2], '\n');
+    EXPECT_EQ(Replace(folder.Path("data.bin"), "longer"), 0);
     EXPECT_EQ(file->Read(buffer), 1u);
     EXPECT_EQ(buffer[0], '\xFF');
     EXPECT_EQ(file->Read(buffer), 0u);
+    EXPECT_EQ(folder.Content("data.bin"), "longer");
 }
 
 TEST_F(SystemFiles, AReplacedFileIsSeenOnCommitAndNotBeforeAndKeepsItsSpelling) {
@@ -65,15 +67,6 @@ TEST_F(SystemFiles, AReplacedFileIsSeenOnCommitAndNotBeforeAndKeepsItsSpelling) 
     EXPECT_EQ(folder.Content("Plan.txt"), "new" + large + "end");
     EXPECT_EQ(files.ListFolder(folder.Path()).at(0).name, "Plan.txt");
     EXPECT_EQ(folder.Entries(), 1u);
-}
-
-TEST_F(SystemFiles, AFileThatIsBeingReadCanBeReplaced) {
-    const auto reader = files.OpenForReading(folder.Put("a.txt", "old"));
-    ASSERT_TRUE(reader);
-    EXPECT_EQ(Replace(folder.Path("a.txt"), "longer"), 0);
-    std::array<char, 16> buffer{};
-    EXPECT_EQ(reader->Read(buffer), 3u);
-    EXPECT_EQ(folder.Content("a.txt"), "longer");
 }
 
 TEST_F(SystemFiles, AFileInPlaceIsEmptiedAtOnceAndKeepsWhatItGot) {
@@ -138,11 +131,7 @@ TEST_F(SystemFiles, FoldersAndPathsBehindFilesAreNoFiles) {
 
 TEST_F(SystemFiles, FoldersListTheirEntriesByFoldedName) {
     for (const char* name : {"b.txt", "A.txt", "_x", "Zz", "\xC3\xA9", "Sub/below"}) folder.Put(name, "");
-    std::string listed;
-    for (const FolderEntry& entry : files.ListFolder(folder.Path())) {
-        listed.append(entry.name).append(entry.isFolder ? "/ " : " ");
-    }
-    EXPECT_EQ(listed, "A.txt b.txt Sub/ Zz _x \xC3\xA9 ");
+    EXPECT_EQ(test::Listed(files, folder.Path()), "A.txt b.txt Sub/ Zz _x \xC3\xA9 ");
     for (const std::string& path : {folder.Path("A.txt"), folder.Path("missing"), std::string()})
         EXPECT_TRUE(files.ListFolder(path).empty()) << path;
 }

@@ -46,12 +46,11 @@ constexpr std::string_view kRegistry = R"(WINE REGISTRY Version 2
 )";
 
 TEST(WineRegistry, TextValuesAreFoundAndDecoded) {
-    struct Case {
+    const std::string_view fs = "software\\wow6432node\\MICROSOFT\\Microsoft Games\\Flight Simulator\\8.0";
+    const struct {
         std::string_view key, name;
         std::optional<std::string> value;
-    };
-    const std::string_view fs = "software\\wow6432node\\MICROSOFT\\Microsoft Games\\Flight Simulator\\8.0";
-    const Case cases[] = {
+    } cases[] = {
         {fs, "exe PATH", "C:\\Program Files\\FS 2002"},
         {fs, "Quote \"x\"", "say \"hi\" \\ A\xC3\xA9\xF0\x9F\x98\x80\xEF\xBF\xBD!"},
         {fs, "Tab", "a\tb\ncA"},
@@ -59,28 +58,20 @@ TEST(WineRegistry, TextValuesAreFoundAndDecoded) {
         {fs, "Hex", "C:\\\xC3\xA9"},
         {fs, "Odd", "C"},
         {fs, "Last", "here"},
-        {fs, "Number", std::nullopt},
-        {fs, "Many", std::nullopt},
-        {fs, "Binary", std::nullopt},
-        {fs, "Cut", std::nullopt},
-        {fs, "NoValue", std::nullopt},
-        {fs, "Stray", std::nullopt},
-        {fs, "", std::nullopt},
         {"Software\\Br[ack]et", "a", "in brackets"},
         {"Software\\Broken", "Last", std::nullopt},
         {"Software", "Last", std::nullopt},
     };
-    for (const Case& c : cases) EXPECT_EQ(FindWineRegistryValue(kRegistry, c.key, c.name), c.value) << c.name;
+    for (const auto& c : cases) EXPECT_EQ(FindWineRegistryValue(kRegistry, c.key, c.name), c.value) << c.name;
+    for (std::string_view name : {"Number", "Many", "Binary", "Cut", "NoValue", "Stray", ""})
+        EXPECT_FALSE(FindWineRegistryValue(kRegistry, fs, name)) << name;
     EXPECT_EQ(FindWineRegistryValue(kRegistry, kSimulatorKeyPath, "EXE Path"), "C:\\Program Files\\FS 2002");
     EXPECT_EQ(FindWineRegistryValue(kRegistry, kSimulatorKeyPath, "Only64"), "yes");
 }
 
 TEST(WineRegistry, DrivePathsComeApart) {
-    EXPECT_FALSE(SplitDrivePath(""));
-    EXPECT_FALSE(SplitDrivePath("C"));
-    EXPECT_FALSE(SplitDrivePath("/usr"));
-    EXPECT_FALSE(SplitDrivePath("1:\\x"));
-    EXPECT_FALSE(SplitDrivePath("\\\\server\\share"));
+    for (std::string_view path : {"", "C", "/usr", "1:\\x", "\\\\server\\share"})
+        EXPECT_FALSE(SplitDrivePath(path)) << path;
     EXPECT_EQ(SplitDrivePath("D:\\FS 2002/Aircraft\\")->rest, "FS 2002/Aircraft/");
     EXPECT_EQ(SplitDrivePath("D:\\FS 2002")->drive, 'd');
     EXPECT_EQ(SplitDrivePath("z:")->rest, "");

@@ -20,11 +20,10 @@ TEST(PosixFileSystem, AnExactNameComesFirstAndThenTheFirstOfSeveral) {
     folder.Put("PLAN.TXT", "upper");
     folder.Put("\xC4\x9A.txt", "E caron");
     PosixFileSystem files;
-    struct Case {
+    const struct {
         std::string path, resolved;
         std::optional<std::string> content;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"aircraft//boeing 747/./AIRCRAFT.cfg", "Aircraft//Boeing 747/./Aircraft.cfg", "747"},
         {"AIRCRAFT/../aircraft/BOEING 747/aircraft.cfg", "Aircraft/../Aircraft/Boeing 747/Aircraft.cfg",
          "747"},
@@ -34,19 +33,22 @@ TEST(PosixFileSystem, AnExactNameComesFirstAndThenTheFirstOfSeveral) {
         {"\xC4\x8A.txt", "\xC4\x8A.txt", std::nullopt},  // another letter, though 9A folds to 8A
         {"aircraft/Airbus/New.cfg", "Aircraft/Airbus/New.cfg", std::nullopt},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(files.Resolve(folder.Path(c.path)), folder.Path(c.resolved));
         EXPECT_EQ(ReadWholeFile(files, folder.Path(c.path)), c.content) << c.path;
         EXPECT_EQ(files.FileExists(folder.Path(c.path)), c.content.has_value()) << c.path;
     }
 }
 
-TEST(PosixFileSystem, OnlyRegularFilesAreReadAndNothingIsWaitedFor) {
+TEST(PosixFileSystem, FoldersListLinksAndNamesThatDifferInCaseAndOnlyRegularFilesAreRead) {
     const TemporaryFolder folder;
+    for (const char* name : {"A.txt", "a.txt", "Sub/below"}) folder.Put(name, "");
     mkfifo(folder.Path("fifo").c_str(), 0666);
     fs::create_symlink("fifo", folder.Place("link"));
+    fs::create_directory_symlink("Sub", folder.Place("linked"));
     fs::create_symlink("nowhere", folder.Place("dangling"));
     PosixFileSystem files;
+    EXPECT_EQ(test::Listed(files, folder.Path()), "A.txt a.txt dangling fifo link linked/ Sub/ ");
     for (const std::string& path :
          {folder.Path("fifo"), folder.Path("link"), folder.Path("dangling"), std::string("/dev/zero")})
         EXPECT_FALSE(files.OpenForReading(path)) << path;
@@ -62,19 +64,6 @@ TEST(PosixFileSystem, AFileOfMoreThanFourGigabytesHasItsSize) {
     PosixFileSystem files;
     EXPECT_EQ(files.FileSize(folder.Path("large")), kSize);
     EXPECT_EQ(files.OpenForReading(folder.Path("large"))->Size(), kSize);
-}
-
-TEST(PosixFileSystem, FoldersListLinksAndNamesThatDifferInCase) {
-    const TemporaryFolder folder;
-    for (const char* name : {"A.txt", "a.txt", "Sub/below"}) folder.Put(name, "");
-    fs::create_directory_symlink("Sub", folder.Place("linked"));
-    fs::create_symlink("nowhere", folder.Place("dangling"));
-    PosixFileSystem files;
-    std::string listed;
-    for (const FolderEntry& entry : files.ListFolder(folder.Path())) {
-        listed.append(entry.name).append(entry.isFolder ? "/ " : " ");
-    }
-    EXPECT_EQ(listed, "A.txt a.txt dangling linked/ Sub/ ");
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ class ProgramFolder : public testing::Test {
         folder.Put("share/Help/index.html", "help");
         fs::create_directory(folder.Path("home"));
         fs::permissions(folder.Path("home"), fs::perms(0777));
+        fs::permissions(folder.Path("bin"), fs::perms(0555));
     }
 
     // 0 when a user other than root gets `expected`.
@@ -32,8 +33,6 @@ class ProgramFolder : public testing::Test {
             return found == expected ? 0 : 1;
         });
     }
-    void CloseBin() const { fs::permissions(folder.Path("bin"), fs::perms(0555)); }
-    void OpenBin() const { fs::permissions(folder.Path("bin"), fs::perms(0777)); }
     void Install() const {
         folder.Put("share/orlo/ORLO_AC.CFG", "installed classes");
         folder.Put("share/orlo/Help/index.html", "installed help");
@@ -43,14 +42,18 @@ class ProgramFolder : public testing::Test {
     TemporaryFolder folder;
 };
 
-TEST_F(ProgramFolder, IsTheExecutablesOwnWhereThatCanBeWritten) {
-    OpenBin();
+TEST_F(ProgramFolder, IsTheExecutablesOwnWhereThatCanBeWrittenUnlessTheProgramIsInstalled) {
+    fs::permissions(folder.Path("bin"), fs::perms(0777));
     EXPECT_EQ(FindAsPlainUser(folder.Path("bin")), 0);
     EXPECT_FALSE(fs::exists(folder.Path("home/data")));
+    // Root can write where all programs are, and got that folder, in which there are no rule files.
+    Install();
+    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
+    EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "installed classes");
+    EXPECT_EQ(folder.Content("home/data/orlo/Help/pictures/about.png"), "picture");
 }
 
 TEST_F(ProgramFolder, IsElseTheUsersOwnFilledOnce) {
-    CloseBin();
     EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "classes");
     EXPECT_EQ(folder.Content("home/data/orlo/Help/index.html"), "help");
@@ -62,15 +65,6 @@ TEST_F(ProgramFolder, IsElseTheUsersOwnFilledOnce) {
     EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "mine");
     EXPECT_FALSE(fs::exists(folder.Path("home/data/orlo/ORLO_FL.CFG")));
-}
-
-// Root can write where all programs are, and got that folder, in which there are no rule files.
-TEST_F(ProgramFolder, OfAnInstalledProgramIsTheUsersOwnEvenWhereItsFolderCanBeWritten) {
-    OpenBin();
-    Install();
-    EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
-    EXPECT_EQ(folder.Content("home/data/orlo/ORLO_AC.CFG"), "installed classes");
-    EXPECT_EQ(folder.Content("home/data/orlo/Help/pictures/about.png"), "picture");
 }
 
 // The manual was copied once, and an update of the program left the old one.
@@ -97,7 +91,10 @@ TEST_F(ProgramFolder, HasItsManualRenewedAndNothingElse) {
 }
 
 TEST_F(ProgramFolder, IsNotTakenBeforeItsCopyIsComplete) {
-    CloseBin();
+    fs::create_directory_symlink("..", folder.Path("share/Help/up"));  // a circle is given up
+    EXPECT_EQ(FindAsPlainUser(""), 0);
+    fs::remove_all(folder.Path("home/data"));
+    fs::remove(folder.Path("share/Help/up"));
     folder.Put("share/secret.cfg", "x");
     fs::permissions(folder.Path("share/secret.cfg"), fs::perms(0));
     EXPECT_EQ(FindAsPlainUser(""), 0);
@@ -106,12 +103,6 @@ TEST_F(ProgramFolder, IsNotTakenBeforeItsCopyIsComplete) {
     EXPECT_EQ(FindAsPlainUser(folder.Path("home/data/orlo")), 0);
     EXPECT_EQ(folder.Content("home/data/orlo/secret.cfg"), "x");
     EXPECT_EQ(folder.Entries("home/data"), 1u);
-}
-
-TEST_F(ProgramFolder, OfAShareInACircleIsGivenUp) {
-    CloseBin();
-    fs::create_directory_symlink("..", folder.Path("share/Help/up"));
-    EXPECT_EQ(FindAsPlainUser(""), 0);
 }
 
 TEST(ExecutablePath, NamesTheRunningProgram) {

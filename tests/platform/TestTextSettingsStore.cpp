@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kKey = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
 const std::string kPath = "/home/settings.txt";
 
-TEST(TextSettingsStore, EveryValueAndNameSurvivesWritingAndReading) {
+TEST(TextSettingsStore, EveryValueNameAndKeyPathSurvivesWritingAndReadingButForThoseWithALineEnd) {
     std::string all;
     for (int i = 0; i < 256; ++i) all.push_back(static_cast<char>(i));
     std::vector<std::string> texts = {all, std::string("\0", 1), std::string(100000, 'v'), "line\r\nend"};
@@ -31,41 +31,29 @@ TEST(TextSettingsStore, EveryValueAndNameSurvivesWritingAndReading) {
         EXPECT_TRUE(written.Set(kKey, "value of " + text, text));
         EXPECT_TRUE(written.Set("names", text, "name " + text));
     }
+    const std::string paths[] = {"a]b", "[a]", " a ", "", "\xE4\"", "a\\"};
+    for (const std::string& path : paths) EXPECT_TRUE(written.Set(path, "name", "in " + path));
+    for (const std::string& path : {std::string("a\nb"), std::string("a\r"), std::string("\0", 1)})
+        EXPECT_FALSE(written.Set(path, "name", "x"));
     ASSERT_TRUE(written.Flush());
     TextSettingsStore read(files, kPath);
+    for (const std::string& path : paths) EXPECT_EQ(read.Get(path, "name"), "in " + path);
     for (const std::string& text : texts) {
         EXPECT_EQ(read.Get(kKey, "value of " + text), text);
         EXPECT_EQ(read.Get("names", text), "name " + text);
     }
 }
 
-TEST(TextSettingsStore, KeyPathsWithOddBytesSurviveAndThoseWithALineEndAreRefused) {
-    test::MemoryFileSystem files;
-    TextSettingsStore store(files, kPath);
-    const std::string paths[] = {"a]b", "[a]", " a ", "", "\xE4\"", "a\\"};
-    for (const std::string& path : paths) EXPECT_TRUE(store.Set(path, "name", "in " + path));
-    for (const std::string& path : {std::string("a\nb"), std::string("a\r"), std::string("\0", 1)})
-        EXPECT_FALSE(store.Set(path, "name", "x"));
-    EXPECT_TRUE(store.Flush());
-    TextSettingsStore read(files, kPath);
-    for (const std::string& path : paths) EXPECT_EQ(read.Get(path, "name"), "in " + path);
-}
-
 TEST(TextSettingsStore, WhatTheProgramDoesNotKnowStaysWhereItStands) {
     test::MemoryFileSystem files;
-    files.files[kPath] =
-        "; my settings\n"
-        "lost=1\n"
-        "[Other\\Program]\n"
-        "b=2\n"
-        "[software\\BRANTEL data service\\orlo\\1.0\\settings]\n"
-        "TATime = 45 \n"
-        "Unknown=\"kept \n"
-        "# a remark\n"
-        "no value\n"
-        "\n"
-        "[Last]\n"
-        "TATime=1";
+    const std::string head = R"(; my settings
+lost=1
+[Other\Program]
+b=2
+[software\BRANTEL data service\orlo\1.0\settings]
+)";
+    const std::string tail = "# a remark\nno value\n\n[Last]\nTATime=1";
+    files.files[kPath] = head + "TATime = 45 \nUnknown=\"kept \n" + tail;
     TextSettingsStore store(files, kPath);
     EXPECT_EQ(store.Get(kKey, "tatime"), "45");
     EXPECT_EQ(store.Get(kKey, "Unknown"), "\"kept");
@@ -75,22 +63,9 @@ TEST(TextSettingsStore, WhatTheProgramDoesNotKnowStaysWhereItStands) {
     store.Set(kKey, "Undo", "-1");
     store.Set("New", "a", " 1");
     ASSERT_TRUE(store.Flush());
-    EXPECT_EQ(files.files[kPath],
-              "; my settings\r\n"
-              "lost=1\r\n"
-              "[Other\\Program]\r\n"
-              "b=2\r\n"
-              "[software\\BRANTEL data service\\orlo\\1.0\\settings]\r\n"
-              "TATime=60\r\n"
-              "Unknown=\"kept \r\n"
-              "Undo=-1\r\n"
-              "# a remark\r\n"
-              "no value\r\n"
-              "\r\n"
-              "[Last]\r\n"
-              "TATime=1\r\n"
-              "[New]\r\n"
-              "a=\" 1\"\r\n");
+    const std::string expected =
+        head + "TATime=60\nUnknown=\"kept \nUndo=-1\n" + tail + "\n[New]\na=\" 1\"\n";
+    EXPECT_EQ(files.files[kPath], ReplaceAll(expected, "\n", "\r\n"));
 }
 
 TEST(TextSettingsStore, NothingIsWrittenBeforeTheFlushNorWithoutAChange) {
@@ -135,17 +110,17 @@ TEST(TextSettingsStore, ItsFolderIsMadeAndAFileThatCannotBeReadIsNotReplaced) {
 
 TEST(UserFolders, VariablesWithFullPathsComeBeforeTheHomeFolder) {
     EXPECT_EQ(test::RunInChild([] {
+                  const auto all = [] {
+                      return Concat(UserSettingsPath(), " ", UserDataFolder(), " ", WinePrefixFolder());
+                  };
                   setenv("HOME", "/home/me", 1);
                   for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "WINEPREFIX"}) unsetenv(name);
-                  if (UserSettingsPath() != "/home/me/.config/orlo/settings.txt") return 1;
-                  if (UserDataFolder() != "/home/me/.local/share/orlo") return 2;
-                  if (WinePrefixFolder() != "/home/me/.wine") return 3;
+                  if (all() != "/home/me/.config/orlo/settings.txt /home/me/.local/share/orlo /home/me/.wine")
+                      return 1;
                   setenv("XDG_CONFIG_HOME", "/cfg", 1);
                   setenv("XDG_DATA_HOME", "relative", 1);
                   setenv("WINEPREFIX", "/games/wine", 1);
-                  if (UserSettingsPath() != "/cfg/orlo/settings.txt") return 4;
-                  if (UserDataFolder() != "/home/me/.local/share/orlo") return 5;
-                  return WinePrefixFolder() == "/games/wine" ? 0 : 6;
+                  return all() == "/cfg/orlo/settings.txt /home/me/.local/share/orlo /games/wine" ? 0 : 2;
               }),
               0);
 }

@@ -31,13 +31,11 @@ TEST(EventPump, EventsThatNoUserCouldCauseAreDropped) {
     pump.Windows().Unload(about);
     EXPECT_TRUE(fake.Press(fake.form.mnuToolsDebug));
     EXPECT_FALSE(fake.session.switches.DebugOn) << "two clicks arrived";
-}
 
-TEST(EventPump, TheCloseBoxOfADisabledMainWindowWorksWhereNoOperationRuns) {
-    test::FakeProgram fake;
+    // The close box of a disabled window works where no operation runs.
     fake.form.enabled = false;
     Event event{&fake.form, nullptr, EventKind::Close};
-    EXPECT_TRUE(fake.program.pump.Deliver(event));
+    EXPECT_TRUE(pump.Deliver(event));
     EXPECT_TRUE(fake.form.closeRequest);
 }
 

@@ -6,6 +6,7 @@
 
 #include "config/AircraftClasses.h"
 #include "platform/common/TextSettingsStore.h"
+#include "simulator/AfdCache.h"
 #include "support/FakeProgram.h"
 
 namespace orlo {
@@ -48,6 +49,10 @@ const std::vector<Writer> kWriters = {
      }},
     {"the aircraft classes", "/program/ORLO_AC.CFG", false,
      [](test::FakeProgram& fake) { EXPECT_FALSE(WriteAircraftClasses(fake.session, fake.world.files)); }},
+    {"the airports read before", "/program/AFDCache.dat", false,
+     [](test::FakeProgram& fake) {
+         EXPECT_FALSE(WriteAFDCache(fake.world.files, "/program/AFDCache.dat", {AirportRecord()}, {}));
+     }},
     {"the settings", "/home/settings.txt", false,
      [](test::FakeProgram& fake) {
          TextSettingsStore store(fake.world.files, "/home/settings.txt");
@@ -57,17 +62,16 @@ const std::vector<Writer> kWriters = {
 };
 
 TEST(FailedWrites, LeaveTheOldFileWholeAndTheProgramRunning) {
-    struct Failure {
+    const struct {
         const char* name;
         void (*cause)(test::MemoryFileSystem& files);
-    };
-    const std::vector<Failure> failures = {
+    } failures[] = {
         {"no second file and none in place", [](test::MemoryFileSystem& files) { files.failCreate = true; }},
         {"a full disk", [](test::MemoryFileSystem& files) { files.failAfterBytes = 3; }},
         {"a failed rename", [](test::MemoryFileSystem& files) { files.failCommit = true; }},
     };
     for (const Writer& writer : kWriters) {
-        for (const Failure& failure : failures) {
+        for (const auto& failure : failures) {
             SCOPED_TRACE(testing::Message() << writer.name << ": " << failure.name);
             test::FakeProgram fake;
             AddPlan(fake);
@@ -79,6 +83,12 @@ TEST(FailedWrites, LeaveTheOldFileWholeAndTheProgramRunning) {
             EXPECT_EQ(fake.form.pointer, PointerShape::Normal);
             if (writer.saysSo) {
                 EXPECT_TRUE(fake.form.sbMain.text.starts_with("Not written: [")) << fake.form.sbMain.text;
+                // A write that succeeds takes the warning away.
+                fake.world.files.failCreate = fake.world.files.failCommit = false;
+                fake.world.files.failAfterBytes = -1;
+                fake.form.mnuFileSave.enabled = true;
+                writer.write(fake);
+                EXPECT_EQ(fake.form.sbMain.text, "");
             }
         }
     }
@@ -103,18 +113,6 @@ TEST(FailedWrites, AKillBetweenTwoFilesOfASaveLosesNoFlight) {
         EXPECT_TRUE((plan + files["/plan/Removed Flights.txt"]).find("REMOVED") != std::string::npos);
         EXPECT_EQ(files["/plan/Aircraft.txt"] == "old aircraft", written < 3);
     }
-}
-
-TEST(FailedWrites, ASaveThatSucceedsTakesTheWarningAway) {
-    test::FakeProgram fake;
-    AddPlan(fake);
-    fake.world.files.failCommit = true;
-    fake.Press(fake.form.mnuFileSave);
-    fake.world.files.failCommit = false;
-    fake.form.mnuFileSave.enabled = true;
-    fake.Press(fake.form.mnuFileSave);
-    EXPECT_EQ(fake.form.sbMain.text, "");
-    EXPECT_EQ(fake.world.messages.shown.back().second, "Successfully saved modified Flightplan.");
 }
 
 }  // namespace

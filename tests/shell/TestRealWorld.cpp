@@ -12,6 +12,7 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
+#include "shell/UserHands.h"
 #include "shuffler/PlainShuffle.h"
 #include "shuffler/ShuffleEngine.h"
 #include "support/FakeHosts.h"
@@ -43,11 +44,6 @@ struct RealWorld {
         for (int i = 0; i < 997; ++i) fakes.random.draws.push_back(((i * 617) % 997) / 997.0);
     }
     ~RealWorld() { fs::remove_all(folder); }
-
-    void Press(Control& control) {
-        Event event{&control.form, &control, EventKind::Click};
-        ASSERT_TRUE(program.pump.Deliver(event)) << control.name;
-    }
 };
 
 TEST(RealWorld, IsOpenedShuffledAndSavedWholeAndByThePlainRules) {
@@ -58,13 +54,14 @@ TEST(RealWorld, IsOpenedShuffledAndSavedWholeAndByThePlainRules) {
     ASSERT_TRUE(StartUp(world.program.context));
     world.program.pump.Windows().Show(form);
     world.fakes.windows.paths.push_back((world.folder / "Plan" / "FlightPlans.txt").string());
-    world.Press(form.mnuFileLoad);
+    UserHands user(world.program.pump);
+    ASSERT_TRUE(user.Press(form.mnuFileLoad));
     const std::string lines = ReadWholeFile(world.files, session.plan.FlightplanPath).value_or("");
     ASSERT_EQ(session.plan.FlightCount(), std::count(lines.begin(), lines.end(), '\n'));
-    world.Press(form.cmdShuffle);
+    ASSERT_TRUE(user.Press(form.cmdShuffle));
     ASSERT_TRUE(world.fakes.messages.shown.back().second.ends_with(" flights remaining."));
 
-    world.Press(form.mnuFileSave);
+    ASSERT_TRUE(user.Press(form.mnuFileSave));
     Plan saved, removed;
     saved.FlightplanPath = session.plan.FlightplanPath;
     removed.FlightplanPath = (world.folder / "Plan" / kRemovedFlightsName).string();

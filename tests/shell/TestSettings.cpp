@@ -10,10 +10,10 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kTree = "SOFTWARE\\BRANTEL DATA SERVICE\\ORLO\\1.0\\";
+constexpr std::string_view kSettings = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
 
-void Store(test::FakeProgram& fake, std::string_view section, std::string_view name, std::string_view value) {
-    fake.world.userSettings.values[UpperText(Concat(kTree, section, "\\", name))] = value;
+void Store(test::FakeProgram& fake, std::string_view name, std::string_view value) {
+    fake.world.userSettings.Set(kSettings, name, value);
 }
 
 void ReadAll(test::FakeProgram& fake) {
@@ -24,32 +24,28 @@ void ReadAll(test::FakeProgram& fake) {
 }
 
 TEST(Settings, BooleansReadInBothForms) {
-    struct Case {
-        const char* stored;
-        bool read;
-    };
-    for (const Case& c : std::initializer_list<Case>{
-             {"-1", true}, {"0", false}, {"True", true}, {"false", false}, {"1", true}, {"what", true}}) {
+    const std::pair<const char*, bool> cases[] = {{"-1", true},     {"0", false}, {"True", true},
+                                                  {"false", false}, {"1", true},  {"what", true}};
+    for (const auto& [stored, read] : cases) {
         test::FakeProgram fake;
-        Store(fake, "Settings", "Undo", c.stored);
+        Store(fake, "Undo", stored);
         ReadAll(fake);
-        EXPECT_EQ(fake.session.switches.Undo, c.read) << c.stored;
-        EXPECT_EQ(fake.form.mnuToolsUndoOn.checked, c.read) << c.stored;
+        EXPECT_EQ(fake.session.switches.Undo, read) << stored;
+        EXPECT_EQ(fake.form.mnuToolsUndoOn.checked, read) << stored;
     }
 }
 
 TEST(Settings, ATurnAroundThatIsNoneOfTheMenuIsOff) {
     test::FakeProgram fake;
-    Store(fake, "Settings", "TATime", "40");
-    Store(fake, "Settings", "MaxTATime", "3");
+    Store(fake, "TATime", "40");
+    Store(fake, "MaxTATime", "3");
     ReadAll(fake);
     EXPECT_EQ(fake.session.switches.TATime, kNoTurnAroundLimit);
     EXPECT_EQ(fake.session.switches.MaxTATime, kNoTurnAroundLimit);
     EXPECT_TRUE(fake.form.mnuTAOff.checked && fake.form.mnuMaxTAOff.checked);
     EXPECT_FALSE(fake.form.mnuTA30.checked);
     WriteSettings(fake.context);
-    EXPECT_EQ(fake.world.userSettings.Get("SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings", "TATime"),
-              "999999");
+    EXPECT_EQ(fake.world.userSettings.Get(kSettings, "TATime"), "999999");
 }
 
 TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) {
@@ -58,15 +54,15 @@ TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) 
     fake.world.machineSettings.Set(kSimulatorKeyPath, kSimulatorValue, " /machine ");
     ReadSimulatorFolder(fake.context);
     EXPECT_EQ(SimulatorFolder(fake.session, fake.world.machineSettings), "/machine");
-    struct Case {
+    const struct {
         const char* chosen;
         const char* folder;
         bool airportsKept;
-    };
-    for (const Case& c : std::initializer_list<Case>{{"", "/machine", true},
-                                                     {"/own", "/own", false},
-                                                     {"/own", "/own", true},
-                                                     {"/machine", "/machine", false}}) {
+    } cases[] = {{"", "/machine", true},
+                 {"/own", "/own", false},
+                 {"/own", "/own", true},
+                 {"/machine", "/machine", false}};
+    for (const auto& c : cases) {
         fake.world.files.files[cache] = "cache";
         fake.session.scenery.Airports.resize(1);
         if (*c.chosen != 0) fake.world.windows.paths.push_back(c.chosen);
@@ -85,9 +81,10 @@ TEST(Settings, AChosenSimulatorTakesThePlaceOfTheMachinesAndForgetsItsAirports) 
 TEST(Settings, AMinimisedWindowComesBackNormal) {
     test::FakeProgram fake;
     fake.world.windows.keepsWindowPlace = true;
-    Store(fake, "Settings", "MainState", "1");
-    Store(fake, "Settings", "MainHeight", "500");
-    Store(fake, "Settings", "MainLeft", "20");
+    Store(fake, "MainState", "1");
+    Store(fake, "MainHeight", "500");
+    Store(fake, "MainLeft", "20");
+    fake.world.userSettings.written.clear();
     ReadAll(fake);
     EXPECT_EQ(fake.form.windowState, WindowState::Normal);
     EXPECT_FALSE(fake.form.centreRequest);

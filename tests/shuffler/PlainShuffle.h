@@ -41,18 +41,14 @@ class PlainShuffle {
     }
 
   private:
-    struct Limits {
-        std::int32_t maxLevel = -1, maxDistance = -1, minLevel = 999999, minDistance = 999999;
-    };
     struct Candidate {
         AirlineEntry* entry;
         AirlineAircraft* aircraft;
         bool over;
     };
 
-    static std::int32_t Round(double value) { return static_cast<std::int32_t>(RoundHalfEven(value)); }
     std::size_t Draw(std::size_t last) {
-        return static_cast<std::size_t>(Round(static_cast<double>(last) * random_.Next()));
+        return static_cast<std::size_t>(RoundHalfEven(static_cast<double>(last) * random_.Next()));
     }
     FSAircraft& FSAt(std::int32_t index) {
         return session.fleet.FSAircrafts[static_cast<std::size_t>(index)];
@@ -74,7 +70,7 @@ class PlainShuffle {
         noAirline_[0].PlannedPercent = 100;
         for (std::int32_t p = 0; p < session.plan.PlanAircraftCount(); ++p) {
             for (std::int32_t f = 0; f < session.fleet.FSAircraftCount(); ++f) {
-                if (UpperText(FSAt(f).Title) != UpperText(PlanAt(p).Title)) continue;
+                if (!EqualNoCase(FSAt(f).Title, PlanAt(p).Title)) continue;
                 Match({f, p, 0});
                 break;
             }
@@ -83,11 +79,11 @@ class PlainShuffle {
     }
 
     void Match(AirlineAircraft aircraft) {
-        const std::string airline = UpperText(FSAt(aircraft.AircraftIndex).Airline);
+        const std::string& airline = FSAt(aircraft.AircraftIndex).Airline;
         if (airline.empty()) return noAirline_[0].Aircraft.push_back(aircraft);
         for (AirlineSet* set : ListAirlineSets(session.shuffle.RunAirlines)) {
             for (AirlineEntry& entry : set->Airlines) {
-                if (UpperText(entry.Name) == airline) entry.Aircraft.push_back(aircraft);
+                if (EqualNoCase(entry.Name, airline)) entry.Aircraft.push_back(aircraft);
             }
         }
     }
@@ -120,14 +116,15 @@ class PlainShuffle {
     }
 
     bool FindLimits() {
-        limits_ = {};
+        maxLevel_ = maxDistance_ = -1;
+        minLevel_ = minDistance_ = 999999;
         for (std::size_t i = 0; i < flight_.Legs.size(); ++i) {
             const auto level = ParseWholeNumber(flight_.Legs[i].FlightLevel);
             if (!level) return false;
-            limits_.maxLevel = std::max(limits_.maxLevel, *level);
-            limits_.minLevel = std::min(limits_.minLevel, *level);
-            limits_.maxDistance = std::max(limits_.maxDistance, DistanceOf(i));
-            limits_.minDistance = std::min(limits_.minDistance, DistanceOf(i));
+            maxLevel_ = std::max(maxLevel_, *level);
+            minLevel_ = std::min(minLevel_, *level);
+            maxDistance_ = std::max(maxDistance_, DistanceOf(i));
+            minDistance_ = std::min(minDistance_, DistanceOf(i));
         }
         return true;
     }
@@ -220,10 +217,9 @@ class PlainShuffle {
             const std::int32_t achieved = setFlights == 0 ? 0 : entry.Flights * 100 / setFlights;
             for (AirlineAircraft& choice : entry.Aircraft) {
                 const FSAircraft& aircraft = FSAt(choice.AircraftIndex);
-                const bool levels = limits_.minLevel >= aircraft.MinFL && limits_.maxLevel <= aircraft.MaxFL;
+                const bool levels = minLevel_ >= aircraft.MinFL && maxLevel_ <= aircraft.MaxFL;
                 if (!levels && !session.shuffle.CheckFL) continue;
-                if (limits_.minDistance < aircraft.MinRange) continue;
-                if (limits_.maxDistance > aircraft.MaxRange) continue;
+                if (minDistance_ < aircraft.MinRange || maxDistance_ > aircraft.MaxRange) continue;
                 if (aircraft.RunwayLength > minRunway) continue;
                 if (aircraft.MinParkingRadius > minParking) continue;
                 if (UpperText(aircraft.RunwayTypes).find(word) == std::string::npos) continue;
@@ -243,11 +239,9 @@ class PlainShuffle {
 
     void Take(AirlineEntry& entry, AirlineAircraft& aircraft) {
         flight_.ACNumber = PlanAt(aircraft.PlanAircraftIndex).ACNumber;
-        for (PlanAircraft& plan : session.plan.PlanAircrafts) {
-            if (plan.ACNumber != flight_.ACNumber) continue;
-            ++plan.UsageCount;
-            break;
-        }
+        std::vector<PlanAircraft>& planned = session.plan.PlanAircrafts;
+        const auto sameNumber = [&](const PlanAircraft& plan) { return plan.ACNumber == flight_.ACNumber; };
+        ++std::find_if(planned.begin(), planned.end(), sameNumber)->UsageCount;
         ++aircraft.UseCount;
         ++entry.Flights;
         ++assigned;
@@ -257,7 +251,7 @@ class PlainShuffle {
     }
 
     void ApplyRules(std::int32_t aircraftClass) {
-        if (UpperText(flight_.FlightType) != "VFR" || aircraftClass == 0) return;
+        if (!EqualNoCase(flight_.FlightType, "VFR") || aircraftClass == 0) return;
         const bool slow = aircraftClass == 2 || aircraftClass == 3;
         if (!slow) flight_.FlightType = "IFR";
         for (Leg& leg : flight_.Legs) leg.NumberMode = slow ? "R" : "F";
@@ -292,8 +286,8 @@ class PlainShuffle {
     RandomSource& random_;
     PlanPositions positions_;
     std::vector<AirlineEntry> noAirline_;
-    Flight flight_;  // at work
-    Limits limits_;
+    Flight flight_;  // at work, and what its legs need
+    std::int32_t maxLevel_ = 0, maxDistance_ = 0, minLevel_ = 0, minDistance_ = 0;
 };
 
 }  // namespace orlo::test

@@ -39,10 +39,9 @@ inline AirlineSet MakeSet(std::string_view name, const std::vector<Share>& share
     set.Name = name;
     set.TailPatterns = patterns;
     for (const Share& share : shares) {
-        AirlineEntry entry;
+        AirlineEntry& entry = set.Airlines.emplace_back();
         entry.Name = share.airline;
         entry.Percent = share.percent;
-        set.Airlines.push_back(std::move(entry));
     }
     return set;
 }
@@ -52,7 +51,6 @@ inline AirlineSet MakeSet(std::string_view name, const std::vector<Share>& share
 struct ShuffleWorld {
     SeededRandom random;
     FakeWorld world{{.random = &random}};
-    Services& services = world.services;
     Session session;
 
     explicit ShuffleWorld(unsigned seed = 1) : random(seed) {
@@ -64,14 +62,11 @@ struct ShuffleWorld {
         session.rules.FlightLevelRules = {{-1, -1, 0, 359, 35, 95, 20}, {0, 9999, 0, 359, 100, 400, 20}};
     }
 
-    AirportRecord& AddAirport(std::string_view code, std::string_view region, std::string_view country,
-                              std::string_view state, std::string_view city) {
+    AirportRecord& AddAirport(std::string_view code, std::string_view region, std::string_view country) {
         AirportRecord record;
         record.ICAO = code;
         record.Region = region;
         record.Country = country;
-        record.State = state;
-        record.City = city;
         record.TakeoffLength = record.LandingLength = 9000;
         record.TakeoffSurface = record.LandingSurface = kSurfaceHard;
         record.MinParkingRadius = 50;
@@ -96,9 +91,8 @@ struct ShuffleWorld {
         aircraft.UIManufacturer = "Maker";
         aircraft.UIType = "Type";
         aircraft.CruiseSpeed = 120;
-        aircraft.MinFL = 0;
+        aircraft.MinFL = aircraft.MinRange = 0;
         aircraft.MaxFL = 500;
-        aircraft.MinRange = 0;
         aircraft.MaxRange = 9999;
         aircraft.RunwayLength = 1000;
         aircraft.RunwayTypes = "Hard/Soft";
@@ -120,20 +114,14 @@ struct ShuffleWorld {
         session.plan.Flights.Append(flight);
     }
 
-    ShuffleResult Shuffle() { return ShuffleFlightplan(session, services, "/plan/FlightPlans.txt"); }
+    ShuffleResult Shuffle() { return ShuffleFlightplan(session, world.services, "/plan/FlightPlans.txt"); }
 
-    // The aircraft of a flight, "-" where it was removed.
-    std::string AircraftOf(std::int32_t index) const {
-        return session.plan.Flights.Removed(index) ? "-"
-                                                   : std::string(session.plan.Flights.At(index).ACNumber);
-    }
-    // Those of all flights, with a blank between them.
+    // The aircraft of all flights, "-" where one was removed.
     std::string Aircraft() const {
+        const FlightList& flights = session.plan.Flights;
         std::string text;
-        for (std::int32_t i = 0; i < session.plan.FlightCount(); ++i) {
-            if (i > 0) text.push_back(' ');
-            text.append(AircraftOf(i));
-        }
+        for (std::int32_t i = 0; i < flights.Count(); ++i)
+            text += Concat(flights.Removed(i) ? "-" : flights.At(i).ACNumber, " ");
         return text;
     }
 };

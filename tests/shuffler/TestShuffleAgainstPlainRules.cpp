@@ -89,16 +89,11 @@ class WorldMaker {
 
     AirlineSet MakeSetOf(std::string_view name) {
         static constexpr std::array<std::int32_t, 9> kPercents = {-1, -1, 0, 5, 30, 50, 70, 100, -7};
-        AirlineSet set;
-        set.Name = AnyCase(name);
-        set.TailPatterns = Pick(kPatterns);
-        for (int i = 0, count = Below(4); i < count; ++i) {
-            AirlineEntry entry;
-            entry.Name = AnyCase(Pick(kAirlines));
-            entry.Percent = Pick(kPercents);
-            set.Airlines.push_back(entry);
-        }
-        return set;
+        const std::string anyName = AnyCase(name);
+        const std::string_view patterns = Pick(kPatterns);
+        std::vector<Share> shares(static_cast<std::size_t>(Below(4)));
+        for (Share& share : shares) share = {AnyCase(Pick(kAirlines)), Pick(kPercents)};
+        return MakeSet(anyName, shares, patterns);
     }
 
     // Some twice, of which the first counts.
@@ -145,25 +140,16 @@ class WorldMaker {
     std::mt19937 engine_;
 };
 
-std::string Describe(const AirlineSet& set) {
-    std::string text = Concat(set.Name, " ", set.Flights, ":");
-    for (const AirlineEntry& entry : set.Airlines) {
-        text +=
-            Concat(" ", entry.Name, " ", entry.Percent, "/", entry.PlannedPercent, " ", entry.Flights, "[");
-        for (const AirlineAircraft& aircraft : entry.Aircraft) {
+std::string Describe(AirlineSets sets) {
+    std::string text;
+    for (const AirlineSet* set : ListAirlineSets(sets)) {
+        text += Concat("\n", set->Name, " ", set->Flights, ":");
+        for (const AirlineEntry& entry : set->Airlines) {
             text +=
-                Concat(aircraft.AircraftIndex, "-", aircraft.PlanAircraftIndex, "x", aircraft.UseCount, " ");
+                Concat(" ", entry.Name, " ", entry.Percent, "/", entry.PlannedPercent, " ", entry.Flights);
+            for (const AirlineAircraft& one : entry.Aircraft)
+                text += Concat(" ", one.AircraftIndex, "-", one.PlanAircraftIndex, "x", one.UseCount);
         }
-        text += "]";
-    }
-    return text;
-}
-
-std::string Describe(const AirlineSets& sets) {
-    std::string text = Describe(sets.Global);
-    for (const auto* list : {&sets.Regions, &sets.Countries, &sets.States, &sets.Cities, &sets.Airports}) {
-        text += "\n--";
-        for (const AirlineSet& set : *list) text += "\n" + Describe(set);
     }
     return text;
 }

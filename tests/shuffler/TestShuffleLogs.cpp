@@ -19,10 +19,9 @@ void FillWorld(ShuffleWorld& made) {
     made.session.switches.DebugOn = true;
     made.session.shuffle.OverwriteTailNumber = true;
     made.session.shuffle.ChangeIFRVFR = true;
-    made.AddAirport("ONE1", "North", "One", "", "");
-    made.AddAirport("ONE2", "North", "One", "", "");
-    made.AddAirport("WET1", "North", "Two", "", "").LandingSurface = kSurfaceWater;
-    made.AddAirport("ICE1", "North", "Two", "", "").LandingSurface = kSurfaceSnow;
+    for (std::string_view code : {"ONE1", "ONE2"}) made.AddAirport(code, "North", "One");
+    made.AddAirport("WET1", "North", "Two").LandingSurface = kSurfaceWater;
+    made.AddAirport("ICE1", "North", "Two").LandingSurface = kSurfaceSnow;
     made.AddAircraft("Jet One", "Alpha");
     made.AddAircraft("Boat", "Beta").RunwayTypes = "WATER";
     made.AddAircraft("Sledge", "").RunwayTypes = "SNOW";
@@ -46,19 +45,10 @@ TEST(ShuffleLogs, EachFlightIsExplained) {
     FillWorld(made);
     made.session.fleet.FSAircrafts[2].RunwayLength = 1300;
     made.Shuffle();
-    EXPECT_EQ(Lines(made.world.files.files["/plan/Shuffle.log"]),
-              R"(;---------------------------------------------------------------------------------
-;------------------------------- O R L O  L O G ----------------------------------
-;---------------------------------------------------------------------------------
-;Format:
-;  Airline / Aircraft Title / Aircraft Class / UI Manufacture / UI Type
-;  Runway: Min. Runway Length / Min. Parking Radius / Min. Runway Surface
-;      (only added if no aircraft could be found)
-;  Aircraft Number / Tail Number / IFR-VFR / Departure ICAO / Destination ICAO /
-;      Min. Flight Level / Max. Flight Level / Min. Distance / Max. Distance /
-;      Location (Region, Country, State, City, Airport)
-;
-;---------------------------------------------------------------------------------
+    const std::string log = Lines(made.world.files.files["/plan/Shuffle.log"]);
+    const std::size_t head = log.find("\n\n");  // behind the lines of comment
+    EXPECT_EQ(std::count(log.begin(), log.end(), ';'), 12);
+    EXPECT_EQ(log.substr(head), R"(
 
 Alpha/Jet One/Small Jet/Maker/Type
 AC#1/N1/IFR/ONE1/ONE2/200/200/60/60/ONE1

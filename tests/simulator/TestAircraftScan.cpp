@@ -30,12 +30,6 @@ struct ScanWorld {
     }
 };
 
-ClassEntry EntryOf(const std::string& id) {
-    ClassEntry entry;
-    entry.ID = id;
-    return entry;
-}
-
 ClassLists SampleClasses() {
     ClassLists lists;
     for (std::int32_t code = kClassMicroProp; code <= kClassHugeJet; ++code) {
@@ -43,14 +37,17 @@ ClassLists SampleClasses() {
         lists.Profiles[static_cast<std::size_t>(code)] = {base + 1, base + 2, base + 3, base + 4, base + 5,
                                                           base + 6, "HARD",   base + 7, "GATE",   base + 8};
     }
-    lists.Entries[kClassNotUsed] = {EntryOf("OLD")};
-    lists.Entries[kClassMicroProp] = {EntryOf("172")};
-    lists.Entries[kClassSmallJet] = {EntryOf(""), EntryOf("737"), EntryOf("OLDER")};
-    ClassEntry own = EntryOf("747");
+    const auto add = [&](AircraftClass code, std::string_view id) {
+        lists.Entries[code].emplace_back().ID = id;
+    };
+    add(kClassNotUsed, "OLD");
+    add(kClassMicroProp, "172");
+    for (std::string_view id : {"", "737", "OLDER"}) add(kClassSmallJet, id);
+    for (std::string_view id : {"747", "7"}) add(kClassHugeJet, id);
+    ClassEntry& own = lists.Entries[kClassHugeJet].front();
     own.CruiseSpeed = 490;
     own.MaxRange = 7000;
     own.RunwayTypes = "SOFT";
-    lists.Entries[kClassHugeJet] = {own, EntryOf("7")};
     return lists;
 }
 
@@ -73,16 +70,13 @@ TEST(AircraftScan, EachTitledFltsimSectionIsAVariantWithItsFields) {
     const auto& variants = world.Scan(config);
     ASSERT_EQ(variants.size(), 4u);
     const FSAircraft& one = variants[0];
-    const auto joined = [](std::initializer_list<std::string> texts) {
-        std::string all;
-        for (const std::string& text : texts) all += text + " ";
-        return all;
-    };
-    EXPECT_EQ(joined({one.Title, one.Section, one.Sim, one.Model, one.Panel, one.Sound, one.Texture,
-                      one.KbChecklists, one.KbReference, one.ATCID, one.ATCFlightNumber, one.Airline,
-                      one.UIManufacturer, one.UIType, one.UIVariation, one.Description, one.Performance,
-                      one.ATCType, one.ATCModel}),
-              "One FltSim.0 b737 x p s 1 c r N1 12 WORLD Boeing 737 v d fast BOEING 737 ");
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ((Texts{one.Title, one.Section, one.Sim, one.Model, one.Panel, one.Sound, one.Texture,
+                     one.KbChecklists, one.KbReference, one.ATCID, one.ATCFlightNumber, one.Airline,
+                     one.UIManufacturer, one.UIType, one.UIVariation, one.Description, one.Performance,
+                     one.ATCType, one.ATCModel}),
+              (Texts{"One", "FltSim.0", "b737", "x", "p", "s", "1", "c", "r", "N1", "12", "WORLD", "Boeing",
+                     "737", "v", "d", "fast", "BOEING", "737"}));
     EXPECT_EQ(one.ConfigFile, NativePath("\\fs\\Aircraft\\b737\\aircraft.cfg"));
     EXPECT_TRUE(one.ATCHeavy && !one.VisualDamage);
     EXPECT_EQ(one.FileCruiseSpeed, 250);
@@ -125,15 +119,14 @@ TEST(AircraftScan, AScanReplacesTheListAndFailsWithoutAFolder) {
     ScanWorld world;
     world.files.files[NativePath("\\fs\\Aircraft\\a320\\AIRCRAFT.CFG")] = "[fltsim.0]\ntitle=First\n";
     world.files.files[NativePath("\\fs\\Aircraft\\readme.txt")] = "[fltsim.0]\ntitle=None\n";
-    world.Scan("[fltsim.0]\ntitle=Second\n");
     ASSERT_EQ(world.Scan("[fltsim.0]\ntitle=Second\n").size(), 2u);
     EXPECT_EQ(world.session.fleet.FSAircrafts[0].Title, "First");
     EXPECT_TRUE(world.session.fleet.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files,
-                              NativePath("\\nowhere"), true));
-    EXPECT_TRUE(world.session.fleet.FSAircrafts.empty());
-    EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
-    EXPECT_FALSE(ScanAircraft(world.session.fleet, world.session.rules.Classes, world.files, "", true));
+    for (const std::string& simulator : {NativePath("\\nowhere"), std::string()}) {
+        EXPECT_FALSE(ScanAircraft(world.session.fleet, {}, world.files, simulator, true));
+        EXPECT_TRUE(world.session.fleet.FSAircrafts.empty());
+        EXPECT_FALSE(world.session.fleet.FSAircraftProblems);
+    }
 }
 
 FSAircraft ScanOne(const std::string& config) {
@@ -221,11 +214,10 @@ TEST(AircraftScan, TheModelsRadiusIsReadFromThreeLayouts) {
         EXPECT_EQ(model.Format, one.format) << one.layout;
         EXPECT_EQ(model.Radius, one.radius) << one.layout;
     }
-    ScanWorld world;
-    world.Put("model\\model.cfg", "[models]\nnormal=main\n");
-    world.Put("model\\main.mdl", "");
-    EXPECT_EQ(ReadModelRadius(world.files, world.folder, "").Path, "");
-    EXPECT_EQ(ReadModelRadius(world.files, world.folder, "y").Path, "");
+    ScanWorld empty;
+    empty.Put("model\\model.cfg", "[models]\nnormal=main\n");
+    empty.Put("model\\main.mdl", "");
+    for (const char* name : {"", "y"}) EXPECT_EQ(ReadModelRadius(empty.files, empty.folder, name).Path, "");
 }
 
 TEST(AircraftScan, ProblemsNameAllThatIsMissing) {
@@ -269,7 +261,7 @@ TEST(AircraftScan, TheWorldOfRealAircraftIsReadWhole) {
     const auto fleet = ReadWholeFile(disk, world + "facts/fleet.csv");
     if (!fleet) GTEST_SKIP() << "no aircraft of a real world lie beside the checkout";
     Session session;
-    session.rules.Classes.Entries[kClassSmallJet] = {EntryOf("A319")};
+    session.rules.Classes.Entries[kClassSmallJet].emplace_back().ID = "A319";
     ASSERT_TRUE(ScanAircraft(session.fleet, session.rules.Classes, disk, world + "simulator", true));
     std::multiset<std::string> read, listed;
     for (const FSAircraft& aircraft : session.fleet.FSAircrafts) {

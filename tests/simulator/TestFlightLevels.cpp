@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <limits>
 #include <map>
 
@@ -45,28 +44,28 @@ const Rules kRules = {
 };
 
 TEST(FlightLevels, BandFollowsRulesAndLimitsOfTheAircraft) {
-    struct Case {
+    const struct {
         std::string_view flightRules;
         std::int32_t distance, course;
         LevelLimits limits;
         std::string_view expected;
+    } cases[] = {
+        {"IFR", 300, 90, {0, 999}, "FL250-410 +040"},
+        {"IFR", 300, 90, {260, 400}, "FL290-370 +040"},  // stays on the grid of its rule
+        {"IFR", 300, 90, {0, 280}, "FL250"},             // the grid has no second level
+        {"IFR", 300, 270, {0, 999}, "FL260"},
+        {"VFR", 300, 90, {0, 999}, "FL035-175 +020"},
+        {"vfr", 300, 270, {0, 999}, "FL045-165 +020"},
+        {"IFR", -1, 90, {0, 999}, "FL035-175 +020"},
+        {"IFR", 300, -1, {0, 999}, "FL100"},
+        {"IFR", 10000, 90, {0, 999}, "FL100"},
+        {"IFR", 300, 90, {100, 240}, "FL110-230 +020"},  // the highest rule within reach
+        {"IFR", 300, 90, {0, 20}, "FL250-410 +040"},     // no rule within reach: the first stands
+        {"IFR", 100, 90, {300, 420}, "FL310"},           // above its rule, yet on its grid
+        {"IFR", 300, 270, {300, 400}, "FL300"},          // no rule begins high enough
+        {"IFR", 300, 270, {100, 200}, "FL100-200 +020"},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {"IFR", 300, 90, {0, 999}, "FL250-410 +040"},
-             {"IFR", 300, 90, {260, 400}, "FL290-370 +040"},  // stays on the grid of its rule
-             {"IFR", 300, 90, {0, 280}, "FL250"},             // the grid has no second level
-             {"IFR", 300, 270, {0, 999}, "FL260"},
-             {"VFR", 300, 90, {0, 999}, "FL035-175 +020"},
-             {"vfr", 300, 270, {0, 999}, "FL045-165 +020"},
-             {"IFR", -1, 90, {0, 999}, "FL035-175 +020"},
-             {"IFR", 300, -1, {0, 999}, "FL100"},
-             {"IFR", 10000, 90, {0, 999}, "FL100"},
-             {"IFR", 300, 90, {100, 240}, "FL110-230 +020"},  // the highest rule within reach
-             {"IFR", 300, 90, {0, 20}, "FL250-410 +040"},     // no rule within reach: the first stands
-             {"IFR", 100, 90, {300, 420}, "FL310"},           // above its rule, yet on its grid
-             {"IFR", 300, 270, {300, 400}, "FL300"},          // no rule begins high enough
-             {"IFR", 300, 270, {100, 200}, "FL100-200 +020"},
-         }) {
+    for (const auto& c : cases) {
         EXPECT_EQ(SuggestFlightLevelText(kRules, c.flightRules, c.distance, c.course, c.limits), c.expected)
             << c.flightRules << " " << c.distance << " " << c.course << " " << c.limits.MinFL << "-"
             << c.limits.MaxFL;
@@ -74,25 +73,25 @@ TEST(FlightLevels, BandFollowsRulesAndLimitsOfTheAircraft) {
 }
 
 TEST(FlightLevels, CheckTakesTheLevelsOfTheGridAlone) {
-    struct Case {
-        std::int32_t course, level;
-        bool right;
+    const struct {
+        std::int32_t course;
+        std::vector<std::int32_t> right, wrong;
         std::string_view suggestion;
+    } cases[] = {
+        {90, {250, 370}, {390, 410, 270, 210}, "FL250-370 +040"},
+        {270, {260}, {280}, "FL260"},
+        {400, {}, {100}, "FL100"},  // without a rule no level is right
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {90, 250, true, ""},
-             {90, 370, true, ""},
-             {90, 390, false, "FL250-370 +040"},
-             {90, 410, false, "FL250-370 +040"},
-             {90, 270, false, "FL250-370 +040"},
-             {90, 210, false, "FL250-370 +040"},
-             {270, 260, true, ""},
-             {270, 280, false, "FL260"},
-             {400, 100, false, "FL100"},  // without a rule no level is right
-         }) {
-        const LevelCheck check = CheckFlightLevel(kRules, "IFR", 300, c.course, {0, 390}, c.level);
-        EXPECT_EQ(check.Right, c.right) << c.course << " " << c.level;
-        EXPECT_EQ(check.Suggestion, c.suggestion) << c.course << " " << c.level;
+    for (const auto& c : cases) {
+        const auto check = [&](std::int32_t level) {
+            return CheckFlightLevel(kRules, "IFR", 300, c.course, {0, 390}, level);
+        };
+        for (const std::int32_t level : c.right)
+            EXPECT_TRUE(check(level).Right && check(level).Suggestion.empty()) << level;
+        for (const std::int32_t level : c.wrong) {
+            EXPECT_FALSE(check(level).Right) << level;
+            EXPECT_EQ(check(level).Suggestion, c.suggestion) << level;
+        }
     }
 }
 
@@ -106,38 +105,32 @@ TEST(FlightLevels, DrawnLevelsGiveTheEndsHalfTheWeight) {
     const std::map<std::string, int> expected = {
         {"250", 100}, {"290", 200}, {"330", 200}, {"370", 200}, {"410", 100}};
     EXPECT_EQ(counts, expected);
-    EXPECT_EQ(random.taken, 800u);
-}
-
-TEST(FlightLevels, NothingIsDrawnWhereThereIsNoChoice) {
-    FakeRandom random;
+    // Nothing is drawn where there is no choice.
     EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 270, {0, 999}, false, random), "260");
     EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 90, {0, 280}, false, random), "250");
     EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 400, {0, 999}, false, random), "100");
     EXPECT_EQ(SuggestFlightLevel({}, "IFR", 300, 90, {0, 999}, false, random), "100");
     EXPECT_EQ(SuggestFlightLevel(kRules, "IFR", 300, 90, {0, 999}, true, random), "FL250-410 +040");
-    EXPECT_EQ(random.taken, 0u);
+    EXPECT_EQ(random.taken, 800u);
 }
 
 TEST(FlightLevels, HostileRulesEndTheSearch) {
-    struct Case {
+    const struct {
         Rules rules;
         LevelLimits limits;
         std::string_view expected;
+    } cases[] = {
+        // The second rule is out of reach, so the first one comes back again and again, below the
+        // minimum.
+        {{{0, 9999, 0, 359, 100, 400, 0}, {0, 9999, 0, 359, 300, 310, 0}}, {250, 290}, "FL250"},
+        {{{0, 9999, 0, 359, 100, 400, -20}, {0, 9999, 0, 359, 300, 310, -20}}, {250, 290}, "FL250-290 +-020"},
+        {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kMost, kMost}, "FL2147483647"},
+        {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kLeast, kMost}, "FL-2147483648-2147483647 +001"},
+        {{{0, 9999, 0, 359, kLeast, kMost, kMost}}, {kMost - 1, kMost}, "FL2147483646"},
+        {{{0, 9999, 0, 359, kMost, kLeast, kLeast}}, {kLeast, kLeast}, "FL2147483647"},
+        {{{0, 9999, 0, 359, 100, 200, 20}}, {-1, -1}, "FL100-200 +020"},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             // The second rule is out of reach, so the first one comes back again and again, below the
-             // minimum.
-             {{{0, 9999, 0, 359, 100, 400, 0}, {0, 9999, 0, 359, 300, 310, 0}}, {250, 290}, "FL250"},
-             {{{0, 9999, 0, 359, 100, 400, -20}, {0, 9999, 0, 359, 300, 310, -20}},
-              {250, 290},
-              "FL250-290 +-020"},
-             {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kMost, kMost}, "FL2147483647"},
-             {{{0, 9999, 0, 359, kLeast, kMost, 1}}, {kLeast, kMost}, "FL-2147483648-2147483647 +001"},
-             {{{0, 9999, 0, 359, kLeast, kMost, kMost}}, {kMost - 1, kMost}, "FL2147483646"},
-             {{{0, 9999, 0, 359, kMost, kLeast, kLeast}}, {kLeast, kLeast}, "FL2147483647"},
-             {{{0, 9999, 0, 359, 100, 200, 20}}, {-1, -1}, "FL100-200 +020"},
-         }) {
+    for (const auto& c : cases) {
         EXPECT_EQ(SuggestFlightLevelText(c.rules, "IFR", 300, 90, c.limits), c.expected);
     }
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <array>
 
 #include "core/TimeZoneNames.h"
 #include "simulator/TimeZones.h"
@@ -23,33 +23,33 @@ TEST(TimeZones, ShiftsAgreeWithTheTableOfCases) {
 }
 
 TEST(TimeZones, UnusualTextsShiftByWhatCanBeRead) {
-    struct Case {
+    const struct {
         std::string_view time, zone;
         bool invert;
         std::string_view prefix, expected, expectedPrefix;
+    } cases[] = {
+        {"23:30:00", "GMT +01:00", false, "3/", "00:30:00", "4/"},
+        {"23:30:00", "GMT +01:00", true, "3/", "22:30:00", "3/"},
+        {"00:15:09", "GMT -00:30", false, "0/", "23:45:09", "6/"},
+        {"23:30:00", "GMT +01:00", false, "6/", "00:30:00", "0/"},
+        {"23:30:00", "GMT +01:00", false, "7/", "00:30:00", "7/"},
+        {"23:30:00", "GMT +01:00", false, "", "00:30:00", ""},
+        {"23:30:00", "GMT", false, "3/", "23:30:00", "3/"},
+        {"9:05", "", false, "3/", "09:05:00", "3/"},
+        {"10:00:00", "+01", false, "3/", "10:00:00", "3/"},
+        {"10:00:00", "x01:00", false, "3/", "11:00:00", "3/"},  // any first character but "-" adds
+        {"10:00:00", "02:15", false, "3/", "12:15:00", "3/"},   // the first digit passes as the sign
+        {"10:00:00", "GMT + 01:00", false, "3/", "10:00:00", "3/"},
+        {"10:00:00", "-01:x", false, "3/", "10:00:00", "3/"},
+        {"10:00:00", "-:30", false, "3/", "10:00:00", "3/"},
+        {"10:00:00", "-01:", false, "3/", "10:00:00", "3/"},
+        {"10:00:00", "+1.5:0.25", false, "3/", "11:30:15", "3/"},
+        {"10:00:00", "+24:00", false, "3/", "10:00:00", "3/"},  // lands in its own hour: no step
+        {"10:00:00", "+99999999999999999999:00", false, "3/", "10:00:00", "3/"},
+        {"noon", "GMT +01:00", false, "3/", "noon", "3/"},
+        {"24:00:00", "GMT +01:00", false, "3/", "24:00:00", "3/"},
     };
-    for (const Case& c : std::initializer_list<Case>{
-             {"23:30:00", "GMT +01:00", false, "3/", "00:30:00", "4/"},
-             {"23:30:00", "GMT +01:00", true, "3/", "22:30:00", "3/"},
-             {"00:15:09", "GMT -00:30", false, "0/", "23:45:09", "6/"},
-             {"23:30:00", "GMT +01:00", false, "6/", "00:30:00", "0/"},
-             {"23:30:00", "GMT +01:00", false, "7/", "00:30:00", "7/"},
-             {"23:30:00", "GMT +01:00", false, "", "00:30:00", ""},
-             {"23:30:00", "GMT", false, "3/", "23:30:00", "3/"},
-             {"9:05", "", false, "3/", "09:05:00", "3/"},
-             {"10:00:00", "+01", false, "3/", "10:00:00", "3/"},
-             {"10:00:00", "x01:00", false, "3/", "11:00:00", "3/"},  // any first character but "-" adds
-             {"10:00:00", "02:15", false, "3/", "12:15:00", "3/"},   // the first digit passes as the sign
-             {"10:00:00", "GMT + 01:00", false, "3/", "10:00:00", "3/"},
-             {"10:00:00", "-01:x", false, "3/", "10:00:00", "3/"},
-             {"10:00:00", "-:30", false, "3/", "10:00:00", "3/"},
-             {"10:00:00", "-01:", false, "3/", "10:00:00", "3/"},
-             {"10:00:00", "+1.5:0.25", false, "3/", "11:30:15", "3/"},
-             {"10:00:00", "+24:00", false, "3/", "10:00:00", "3/"},  // lands in its own hour: no step
-             {"10:00:00", "+99999999999999999999:00", false, "3/", "10:00:00", "3/"},
-             {"noon", "GMT +01:00", false, "3/", "noon", "3/"},
-             {"24:00:00", "GMT +01:00", false, "3/", "24:00:00", "3/"},
-         }) {
+    for (const auto& c : cases) {
         std::string prefix(c.prefix);
         EXPECT_EQ(ConvertZoneWeek(c.time, c.zone, prefix, c.invert), c.expected) << c.time << " " << c.zone;
         EXPECT_EQ(prefix, c.expectedPrefix) << c.time << " " << c.zone;

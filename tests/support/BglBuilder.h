@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,12 +53,11 @@ struct BglParkingFields {
 // An airport's body, sub-record by sub-record. Each method appends one in the layout of the scenery files.
 class BglBody {
   public:
-    BglBody& Raw(std::uint32_t type, const std::string& content) {
-        return Raw(type, content, static_cast<std::uint32_t>(content.size()));
-    }
-    // With a size that need not be true.
-    BglBody& Raw(std::uint32_t type, const std::string& content, std::uint32_t size) {
-        records_.Dword(type).Dword(size).bytes.append(content);
+    // A size that is given need not be true, nor a count below.
+    BglBody& Raw(std::uint32_t type, const std::string& content, std::optional<std::uint32_t> size = {}) {
+        records_.Dword(type)
+            .Dword(size.value_or(static_cast<std::uint32_t>(content.size())))
+            .bytes.append(content);
         return *this;
     }
     BglBody& ReferencePoint(std::int32_t latitude, std::int32_t longitude, std::int32_t elevation) {
@@ -77,13 +77,11 @@ class BglBody {
         content.Fill(24).Dword(frequency).Fill(4).Dword(end).Dword(heading).Dword(1).ZeroText(name);
         return Raw(0x00010004, content.bytes);
     }
-    BglBody& Parkings(const std::vector<BglParkingFields>& parkings) {
-        return Parkings(parkings, static_cast<std::uint32_t>(parkings.size()));
-    }
-    // With a count that need not be true.
-    BglBody& Parkings(const std::vector<BglParkingFields>& parkings, std::uint32_t count) {
+    BglBody& Parkings(const std::vector<BglParkingFields>& parkings,
+                      std::optional<std::uint32_t> count = {}) {
         ByteText content;
-        content.Dword(3).Dword(8).Fill(24).Dword(7).Dword(count);
+        content.Dword(3).Dword(8).Fill(24).Dword(7).Dword(
+            count.value_or(static_cast<std::uint32_t>(parkings.size())));
         for (const BglParkingFields& parking : parkings) {
             content.Int(parking.number).Int(-1).Single(parking.radius);
             content.Dword(parking.heading).Dword(parking.word);
@@ -110,14 +108,15 @@ class BglBuilder {
   public:
     std::uint32_t sectionTag = 0x00030001;
     std::uint32_t entryCount = 1;  // of the header
-    bool endChain = true;          // the last entry's links are 0
 
     BglBuilder& Entry(std::uint32_t type, std::uint32_t value, std::string_view text) {
         entries_.push_back({type, value, std::string(text)});
         return *this;
     }
     BglBuilder& Airport(std::string_view name, const std::string& body) {
-        return Entry(0x00050001, static_cast<std::uint32_t>(kFirstBody + bodies_.size()), name).Body(body);
+        Entry(0x00050001, static_cast<std::uint32_t>(kFirstBody + bodies_.size()), name);
+        bodies_.append(body);
+        return *this;
     }
     BglBuilder& Airport(std::string_view name, const BglBody& body) { return Airport(name, body.Build()); }
 
@@ -126,7 +125,7 @@ class BglBuilder {
         file.Fill(156).Dword(static_cast<std::uint32_t>(kFirstBody + bodies_.size())).bytes.append(bodies_);
         file.Dword(sectionTag).Fill(16).Dword(entryCount).Fill(8);
         for (std::size_t i = 0; i < entries_.size(); ++i) {
-            const bool last = endChain && i + 1 == entries_.size();
+            const bool last = i + 1 == entries_.size();  // its links are 0
             file.Dword(entries_[i].type).Dword(entries_[i].value).ZeroText(entries_[i].text);
             const auto next = last ? 0 : static_cast<std::uint32_t>(file.bytes.size() + 8);
             file.Dword(next).Dword(next);
@@ -142,11 +141,6 @@ class BglBuilder {
         std::uint32_t value;
         std::string text;
     };
-
-    BglBuilder& Body(const std::string& body) {
-        bodies_.append(body);
-        return *this;
-    }
 
     std::vector<EntryFields> entries_;
     std::string bodies_;

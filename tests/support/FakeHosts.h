@@ -40,15 +40,10 @@ class FakeMessages : public MessageHost {
 
 class FakeWindows : public WindowHost {
   public:
-    std::deque<std::string> paths;   // answers of file dialogs; without one they are cancelled
-    std::deque<std::string> inputs;  // answers of input boxes
+    std::deque<std::string> paths;  // answers of file dialogs; without one they are cancelled
     std::vector<std::string> printed;
-    std::vector<std::string> timers;
-    std::vector<std::string> notBuilt;
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
-    bool printDialogAnswer = true;
-    PrintOutcome printAnswer = PrintOutcome::Printed;
     std::function<void(Form&)> onModal;  // what happens while a modal form is shown
     void ProcessEvents() override { ++eventsProcessed; }
     void ShowForm(Form&) override {}
@@ -57,26 +52,20 @@ class FakeWindows : public WindowHost {
     }
     void UnloadForm(Form&) override {}
     bool KeepsWindowPlace() const override { return keepsWindowPlace; }
-    void ShowNotBuilt(std::string_view controlName) override { notBuilt.emplace_back(controlName); }
-    void StartTimer(std::string_view name, int) override { timers.emplace_back(name); }
-    void StopTimer(std::string_view name) override { std::erase(timers, std::string(name)); }
-    bool TimerArmed(std::string_view name) const override {
-        for (const std::string& timer : timers) {
-            if (timer == name) return true;
-        }
-        return false;
-    }
+    void ShowNotBuilt(std::string_view) override {}
+    void StartTimer(std::string_view, int) override {}
+    void StopTimer(std::string_view) override {}
+    bool TimerArmed(std::string_view) const override { return false; }
     std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
     std::optional<std::string> InputBox(std::string_view, std::string_view, std::string_view) override {
-        if (inputs.empty()) return std::nullopt;
-        return Take(inputs);
+        return std::nullopt;
     }
-    bool ShowPrintDialog(std::string_view) override { return printDialogAnswer; }
+    bool ShowPrintDialog(std::string_view) override { return true; }
     PrintOutcome Print(std::string_view text) override {
         printed.emplace_back(text);
-        return printAnswer;
+        return PrintOutcome::Printed;
     }
     bool OpenDocument(const std::string&, const std::string&) override { return true; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
@@ -21,8 +22,8 @@ class MemoryFileSystem : public FileSystem {
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
-    int commitsBeforeKill =
-        -1;  // the process dies after this many files are complete: nothing later reaches the disk
+    // The process dies after this many files are complete: nothing later reaches the disk.
+    int commitsBeforeKill = -1;
 
     std::string Resolve(const std::string& path) override {
         for (const auto& [name, content] : files) {
@@ -33,14 +34,10 @@ class MemoryFileSystem : public FileSystem {
     std::string FullPath(const std::string& path) override { return path; }
     bool FileExists(const std::string& path) override { return files.contains(Resolve(path)); }
     bool FolderExists(const std::string& path) override {
-        const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");
-        for (const std::string& name : folders) {
-            if (StartsWithNoCase(JoinPath(name, ""), folder)) return true;
-        }
-        for (const auto& [name, content] : files) {
-            if (StartsWithNoCase(name, folder)) return true;
-        }
-        return false;
+        const auto isIt = [&](std::string_view name) {
+            return EqualNoCase(WithoutTrailingSeparator(name), WithoutTrailingSeparator(path));
+        };
+        return std::any_of(folders.begin(), folders.end(), isIt) || !ListFolder(path).empty();
     }
     std::optional<std::uint64_t> FileSize(const std::string& path) override {
         const auto found = files.find(Resolve(path));
@@ -62,8 +59,7 @@ class MemoryFileSystem : public FileSystem {
     }
     bool CopyFile(const std::string& from, const std::string& to) override {
         if (!FileExists(from) || failCreate) return false;
-        const std::string content = files[Resolve(from)];
-        files[Resolve(to)] = content;
+        files[Resolve(to)] = std::string(files[Resolve(from)]);
         return true;
     }
     bool DeleteFile(const std::string& path) override {
