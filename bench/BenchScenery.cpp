@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "RealWorld.h"
 #include "core/Path.h"
 #include "core/TextLines.h"
 #include "platform/posix/PosixFileSystem.h"
@@ -20,8 +21,7 @@ namespace {
 
 // The folder of a simulator beside the checkout.
 std::string SimulatorFolder() {
-    const auto checkout = std::filesystem::path(__FILE__).parent_path().parent_path();
-    return (checkout.parent_path() / "shared" / "real" / "simulator").string();
+    return (bench::RealWorldFolder() / "simulator").string();
 }
 
 double SecondsNow() {

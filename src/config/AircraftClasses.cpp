@@ -191,8 +191,8 @@ bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messa
 }
 
 bool WriteAircraftClasses(const Session& session, FileSystem& files) {
-    const auto file = files.CreateReplacing(JoinPath(session.ProgramFolder, kAircraftClassesName));
-    return file && file->Write(FormatAircraftClasses(session.rules.Classes)) && file->Commit();
+    return ReplaceWholeFile(files, JoinPath(session.ProgramFolder, kAircraftClassesName),
+                            FormatAircraftClasses(session.rules.Classes));
 }
 
 }  // namespace orlo

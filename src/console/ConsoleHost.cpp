@@ -6,6 +6,7 @@
 #include "console/ScriptActs.h"
 #include "console/ScriptText.h"
 #include "core/Text.h"
+#include "core/TextLines.h"
 #include "shell/Program.h"
 
 namespace orlo {
@@ -178,15 +179,14 @@ std::string ConsoleHost::ShowFolderDialog(std::string_view title, const std::str
     return TakePath("open", title, Wanted::Folder).value_or("");
 }
 
-std::optional<std::string> ConsoleHost::InputBox(std::string_view prompt, std::string_view title,
-                                                 std::string_view) {
+std::optional<std::string> ConsoleHost::InputBox(const InputQuestion& question) {
     const bool answered = !answers.inputs.empty();
     std::optional<std::string> text;
     if (answered) {
         text = answers.inputs.front();
         answers.inputs.pop_front();
     }
-    out_ << InputLine(title, prompt, text);
+    out_ << InputLine(question.title, question.prompt, text);
     if (strict_ && !answered) throw ScriptEnd{"an input box has no queued answer"};
     return text;
 }
@@ -198,9 +198,7 @@ bool ConsoleHost::ShowPrintDialog(std::string_view title) {
 }
 
 PrintOutcome ConsoleHost::Print(std::string_view text) {
-    const auto file = files_.CreateReplacing(printPath_);
-    const bool written = file && file->Write(text) && file->Commit();
-    return written ? PrintOutcome::Printed : PrintOutcome::Failed;
+    return ReplaceWholeFile(files_, printPath_, text) ? PrintOutcome::Printed : PrintOutcome::Failed;
 }
 
 bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {

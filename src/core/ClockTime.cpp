@@ -1,5 +1,7 @@
 #include "core/ClockTime.h"
 
+#include <array>
+
 #include "core/Number.h"
 #include "core/Text.h"
 
@@ -35,11 +37,22 @@ std::optional<std::int32_t> ParseClockTime(std::string_view text) {
 }
 
 std::string FormatClockTime(std::int64_t seconds) {
+    std::string text;
+    AppendClockTime(seconds, text);
+    return text;
+}
+
+void AppendClockTime(std::int64_t seconds, std::string& out) {
     std::int64_t time = seconds % kSecondsPerDay;
     if (time < 0) time += kSecondsPerDay;
-    return Concat(FormatDigits(time / kSecondsPerHour, 2), ":",
-                  FormatDigits(time / kSecondsPerMinute % kSecondsPerMinute, 2), ":",
-                  FormatDigits(time % kSecondsPerMinute, 2));
+    const auto digits = [](std::int64_t number) {
+        return std::array{static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+    };
+    const auto hours = digits(time / kSecondsPerHour);
+    const auto minutes = digits(time / kSecondsPerMinute % kSecondsPerMinute);
+    const auto rest = digits(time % kSecondsPerMinute);
+    const std::array text = {hours[0], hours[1], ':', minutes[0], minutes[1], ':', rest[0], rest[1]};
+    out.append(text.data(), text.size());
 }
 
 std::optional<WeekTime> ParseWeekTime(std::string_view text) {

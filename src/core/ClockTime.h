@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -12,12 +13,18 @@ inline constexpr std::int32_t kSecondsPerHour = 3600;
 inline constexpr std::int32_t kSecondsPerDay = 24 * kSecondsPerHour;
 inline constexpr std::int32_t kSecondsPerWeek = 7 * kSecondsPerDay;
 
+// The days of a week by their numbers, 0 for Sunday.
+inline constexpr std::array<std::string_view, 7> kWeekdayNames = {
+    "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+
 // Seconds since midnight, 0 to kSecondsPerDay - 1, of a time typed or stored as H:MM or H:MM:SS (24 hours,
 // one or two digits a field, blanks around). Nothing for any other text.
 std::optional<std::int32_t> ParseClockTime(std::string_view text);
 
 // "HH:MM:SS" of the time of day of a moment; whole days, also negative ones, are dropped.
 std::string FormatClockTime(std::int64_t seconds);
+// The same, behind `out`.
+void AppendClockTime(std::int64_t seconds, std::string& out);
 
 // A time of a weekly flight: "d/HH:MM:SS" with d from 0 for Sunday to 6.
 struct WeekTime {

@@ -28,6 +28,10 @@ class CodeNumbers {
         return number;
     }
     std::string_view Text(std::int32_t number) const { return texts_[static_cast<std::size_t>(number)]; }
+    std::size_t Bytes() const {
+        return index_.Bytes() + keys_.capacity() * sizeof(std::uint64_t) +
+               texts_.capacity() * sizeof(std::string_view);
+    }
     std::int32_t Count() const { return static_cast<std::int32_t>(texts_.size()); }
 
   private:

@@ -84,11 +84,12 @@ std::string Escaped(std::string_view text) {
 
 std::optional<std::string_view> SectionOf(std::string_view line, const Dialect& dialect) {
     if (line.empty() || line.front() != '[') return std::nullopt;
-    const bool whole = dialect.sections == Dialect::Sections::Whole;
+    if (dialect.sections == Dialect::Sections::Closed && line.back() != ']') return std::nullopt;
+    const bool whole = dialect.sections != Dialect::Sections::Trimmed;
     const std::size_t end = whole ? line.rfind(']') : line.find(']');
     if (end == std::string_view::npos) return std::nullopt;
     const std::string_view name = line.substr(1, end - 1);
-    return whole ? name : TrimWhite(name);
+    return dialect.sections == Dialect::Sections::Whole ? name : TrimWhite(name);
 }
 
 // Whether the line is no value because of its first byte.
@@ -133,6 +134,14 @@ std::optional<std::string> LineOf(std::string_view name, std::string_view value,
 }
 
 }  // namespace
+
+void AppendSectionLine(std::string& out, std::string_view name) {
+    out.append("[").append(name).append("]\r\n");
+}
+
+void AppendValueLine(std::string& out, std::string_view name, std::string_view value) {
+    out.append(name).append("=").append(value).append("\r\n");
+}
 
 InitialisationFile::InitialisationFile(std::string text, const InitialisationDialect& dialect)
     : dialect_(dialect), text_(std::move(text)) {

@@ -16,6 +16,10 @@ struct InitialisationDialect {
         Trimmed,
         // The name ends at the last "]" and counts as it stands. Without a "]" the line may be a value.
         Whole,
+        // Only a line that also ends in "]" opens a section, whose name stands between them without blanks
+        // and
+        // tabs around it. Any other line may be a value, one in front of whose name a "[" stands, too.
+        Closed,
     };
     enum class Quotes {
         Stripped,  // a value loses the quotes of either kind around it
@@ -29,6 +33,10 @@ struct InitialisationDialect {
 
 // The simulator's own files: aircraft.cfg, model.cfg.
 inline constexpr InitialisationDialect kSimulatorDialect{.remarks = ";"};
+
+// The lines of a file that is written anew, with CR LF behind them. The texts go out as they stand.
+void AppendSectionLine(std::string& out, std::string_view name);
+void AppendValueLine(std::string& out, std::string_view name, std::string_view value);
 
 // The text of an initialisation file: "[section]" lines, each followed by its "name=value" lines. Blanks and
 // tabs around names and values are no part of them. Names compare without regard to case, and of two that are

@@ -50,12 +50,9 @@ bool RoundsUp(std::string_view fraction, bool wholeIsOdd) {
 
 }  // namespace
 
+// The mode of rounding, which nobody here changes, is to the nearest, halves to even.
 double RoundHalfEven(double value) {
-    const double lower = std::floor(value);
-    const double rest = value - lower;
-    if (rest < 0.5) return lower;
-    if (rest > 0.5) return lower + 1;
-    return std::fmod(lower, 2.0) == 0 ? lower : lower + 1;
+    return std::nearbyint(value);
 }
 
 std::optional<std::int32_t> ParseWholeNumber(std::string_view text) {

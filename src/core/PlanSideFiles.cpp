@@ -99,13 +99,11 @@ void ReadPlanAirports(Plan& plan, Services& services) {
 bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup) {
     const std::string path = PlanAircraftPath(plan);
     if (backup) BackUpOnce(files, path);
-    const auto file = files.CreateReplacing(path);
-    if (!file) return false;
     std::string text;
     for (const PlanAircraft& aircraft : plan.PlanAircrafts) {
         text.append(Concat(aircraft.ACNumber, ",", aircraft.CruiseSpeed, ",\"", aircraft.Title, "\"\r\n"));
     }
-    return file->Write(text) && file->Commit();
+    return ReplaceWholeFile(files, path, text);
 }
 
 }  // namespace orlo

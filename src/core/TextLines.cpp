@@ -114,6 +114,11 @@ std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& p
     return bytes;
 }
 
+bool ReplaceWholeFile(FileSystem& files, const std::string& path, std::string_view text) {
+    const auto file = files.CreateReplacing(path);
+    return file != nullptr && file->Write(text) && file->Commit();
+}
+
 std::string_view CutComments(std::string_view line) {
     return BeforeFirst(BeforeFirst(line, ";"), "//");
 }

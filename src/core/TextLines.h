@@ -44,6 +44,9 @@ std::string_view WithoutByteOrderMark(std::string_view text);
 // file that shrinks while it is read gives what could be read.
 std::optional<std::string> ReadWholeFile(FileSystem& files, const std::string& path);
 
+// Replaces the file by the text. False, with the old file whole, where it can't be written.
+bool ReplaceWholeFile(FileSystem& files, const std::string& path, std::string_view text);
+
 // A line of the plan's text files without its comment: the text before the first ";" or "//".
 std::string_view CutComments(std::string_view line);
 

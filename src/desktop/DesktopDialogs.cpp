@@ -21,6 +21,7 @@
 #include "core/Text.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/FormWindow.h"
+#include "desktop/ScreenPlace.h"
 #include "desktop/ScreenText.h"
 #include "desktop/TextPrinter.h"
 #include "shell/EventPump.h"
@@ -219,14 +220,26 @@ std::string DesktopHost::ShowFolderDialog(std::string_view title, const std::str
     return PathFromQString(shown.selectedFiles().front());
 }
 
-std::optional<std::string> DesktopHost::InputBox(std::string_view prompt, std::string_view title,
-                                                 std::string_view defaultText) {
+namespace {
+
+void PlaceQuarterInside(QDialog& dialog, const QWidget& window) {
+    const QRect around = window.frameGeometry();
+    const QPoint corner = around.topLeft() + QPoint(around.width() / 4, around.height() / 4);
+    dialog.move(PlaceOnScreen(dialog, QRect(corner, dialog.sizeHint()), dialog.minimumSize()).topLeft());
+}
+
+}  // namespace
+
+std::optional<std::string> DesktopHost::InputBox(const InputQuestion& question) {
     const DialogRound round(*this);
     QInputDialog shown(OwnerWindow(nullptr));
-    shown.setWindowTitle(ToQString(title));
-    shown.setLabelText(ToQString(prompt));
+    shown.setWindowTitle(ToQString(question.title));
+    shown.setLabelText(ToQString(question.prompt));
     if (auto* label = shown.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
-    shown.setTextValue(ToQString(defaultText));
+    shown.setTextValue(ToQString(question.text));
+    if (question.quarterInside != nullptr) {
+        if (const QWidget* window = Find(*question.quarterInside)) PlaceQuarterInside(shown, *window);
+    }
     if (shown.exec() != QDialog::Accepted) return std::nullopt;
     return FromQString(shown.textValue());
 }

@@ -75,8 +75,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     std::string ShowOpenDialog(const FileDialog& dialog) override;
     std::string ShowSaveDialog(const FileDialog& dialog) override;
     std::string ShowFolderDialog(std::string_view title, const std::string& startFolder) override;
-    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
-                                        std::string_view defaultText) override;
+    std::optional<std::string> InputBox(const InputQuestion& question) override;
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;

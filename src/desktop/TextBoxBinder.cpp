@@ -12,6 +12,23 @@
 namespace orlo {
 namespace {
 
+constexpr int kPageColumns = 64;
+constexpr int kPageLines = 26;
+
+// Wants to be as large as a page of a report.
+class PageEdit : public QPlainTextEdit {
+  public:
+    using QPlainTextEdit::QPlainTextEdit;
+    QSize sizeHint() const override {
+        const QFontMetrics metrics(font());
+        return {metrics.horizontalAdvance('0') * kPageColumns, metrics.lineSpacing() * kPageLines};
+    }
+};
+
+QPlainTextEdit* MakeEdit(TextBoxStyle style, QWidget& parent) {
+    return style == TextBoxStyle::FixedFont ? new PageEdit(&parent) : new QPlainTextEdit(&parent);
+}
+
 Qt::CursorShape FieldCursor(PointerShape shape) {
     return shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::IBeamCursor;
 }
@@ -62,7 +79,7 @@ void LineBinder::TakeRequests() {
 }
 
 TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
-    : Binder(box, *new QPlainTextEdit(&parent), sink),
+    : Binder(box, *MakeEdit(box.style, parent), sink),
       box_(box),
       shown_(static_cast<QPlainTextEdit&>(Widget())) {
     shown_.setTabChangesFocus(true);

@@ -1,10 +1,23 @@
 #include "forms/Control.h"
 
+#include <algorithm>
 #include <array>
 
+#include "core/Text.h"
 #include "forms/Form.h"
 
 namespace orlo {
+namespace {
+
+template <typename Fits>
+bool SelectFirstOf(ComboBox& combo, Fits fits) {
+    const auto found = std::find_if(combo.entries.begin(), combo.entries.end(), fits);
+    if (found == combo.entries.end()) return false;
+    combo.index = static_cast<std::int32_t>(found - combo.entries.begin());
+    return true;
+}
+
+}  // namespace
 
 std::string_view ColourWord(Colour colour) {
     static constexpr std::array<std::string_view, 5> kWords = {"text", "black", "red", "blue", "gray"};
@@ -61,12 +74,11 @@ void ComboBox::Type(std::string_view text) {
 }
 
 bool ComboBox::SelectText(std::string_view text) {
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (entries[i].text != text) continue;
-        index = static_cast<std::int32_t>(i);
-        return true;
-    }
-    return false;
+    return SelectFirstOf(*this, [text](const ComboEntry& entry) { return entry.text == text; });
+}
+
+bool ComboBox::SelectTextNoCase(std::string_view text) {
+    return SelectFirstOf(*this, [text](const ComboEntry& entry) { return EqualNoCase(entry.text, text); });
 }
 
 }  // namespace orlo

@@ -140,6 +140,8 @@ struct ComboBox : Control {
     void Type(std::string_view text);
     // Selects the first entry of exactly this text; without one the selection stays and the result is false.
     bool SelectText(std::string_view text);
+    // The same without regard to case.
+    bool SelectTextNoCase(std::string_view text);
     void SelectFirst() { index = entries.empty() ? -1 : 0; }
 };
 

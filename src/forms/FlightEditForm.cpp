@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/ClockTime.h"
 #include "core/Text.h"
 #include "core/TimeZoneNames.h"
 
@@ -17,9 +18,6 @@ constexpr std::array kPeriods = {PeriodEntry{"1Hr", 1},   PeriodEntry{"2Hr", 2},
                                  PeriodEntry{"6Hr", 6},   PeriodEntry{"8Hr", 8}, PeriodEntry{"12Hr", 12},
                                  PeriodEntry{"24Hr", 24}, PeriodEntry{"WEEK", 0}};
 
-constexpr std::array<std::string_view, 7> kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                                   "Thursday", "Friday", "Saturday"};
-
 constexpr std::array<std::string_view, 6> kColumns = {"From",          "To",          "Depart", "Arrive",
                                                       "Flight Number", "Flight Level"};
 
@@ -29,7 +27,7 @@ FlightEditForm::FlightEditForm() : Form("frmFlightEdit", "Flight Editor") {
     for (const PeriodEntry& period : kPeriods) cmPeriod.Add(period.text, period.hours);
     for (const std::string_view zone : kTimeZoneNames) cmZone.Add(zone);
     cmZone.SelectText("GMT");
-    for (const std::string_view day : kDays) cmDay.Add(day);
+    for (const std::string_view day : kWeekdayNames) cmDay.Add(day);
     for (const std::string_view column : kColumns) lvLegs.AddColumn(UpperText(column), column);
     lvLegs.accessibleName = "Legs";
     defaultButton = &cmdOK;

@@ -5,6 +5,7 @@
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
 #include "forms/SplashForm.h"
+#include "forms/TTStatisticsForm.h"
 
 namespace orlo {
 
@@ -15,6 +16,7 @@ struct Forms {
     SplashForm frmSplash;
     AboutForm frmAbout;
     FlightEditForm frmFlightEdit;
+    TTStatisticsForm frmTTStatistics;
 };
 
 }  // namespace orlo

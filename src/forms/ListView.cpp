@@ -177,11 +177,15 @@ std::string ListView::Key(std::int32_t place) const {
 }
 
 std::string ListView::Tag(std::int32_t place) const {
-    return source_ != nullptr ? std::to_string(place) : std::string(Field(place, kTagField));
+    return source_ != nullptr ? source_->Facts(place).tag : std::string(Field(place, kTagField));
 }
 
 std::string ListView::ToolTip(std::int32_t place) const {
-    return std::string(Field(place, kToolTipField));
+    return source_ != nullptr ? source_->Facts(place).toolTip : std::string(Field(place, kToolTipField));
+}
+
+Colour ListView::RowColour(std::int32_t place) const {
+    return source_ != nullptr ? source_->Facts(place).colour : Slot(place).colour;
 }
 
 void ListView::SetText(std::int32_t place, std::int32_t column, std::string_view text) {
@@ -209,6 +213,7 @@ void ListView::RemoveKey(std::int32_t place) {
 }
 
 void ListView::SetRowColour(std::int32_t place, Colour colourOf) {
+    if (source_ != nullptr) return;
     Slot(place).colour = colourOf;
     ++contentRevision;
 }

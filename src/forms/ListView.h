@@ -40,8 +40,8 @@ struct ListRow {
 // current row need not be selected.
 //
 // The rows are either kept here, packed in large pages, or all drawn from a source. Of a source's rows the
-// list keeps no text: a row's place is its number in the source, its key "#" and that number, its tag the
-// number, its tool tip empty.
+// list keeps no text: a row's place is its number in the source, its key "#" and that number; tag, tool tip
+// and colour are what the source tells.
 struct ListView : Control {
     ListView(Container in, std::string_view nameOf)
         : Control(ControlKind::ListView, in.form, in.parent, nameOf, "") {}
@@ -80,6 +80,8 @@ struct ListView : Control {
     void Clear();
 
     std::string Text(std::int32_t place, std::int32_t column) const;
+    // The same, behind `out`.
+    void AppendText(std::int32_t place, std::int32_t column, std::string& out) const;
     // Does not sort anew. Does nothing in a list with a source.
     void SetText(std::int32_t place, std::int32_t column, std::string_view text);
     std::string Key(std::int32_t place) const;
@@ -87,7 +89,8 @@ struct ListView : Control {
     bool SetKey(std::int32_t place, std::string_view key);
     std::string Tag(std::int32_t place) const;
     std::string ToolTip(std::int32_t place) const;
-    Colour RowColour(std::int32_t place) const { return Slot(place).colour; }
+    Colour RowColour(std::int32_t place) const;
+    // Does nothing in a list with a source.
     void SetRowColour(std::int32_t place, Colour colourOf);
     std::int32_t FindKey(std::string_view key) const;  // -1 when missing
 
@@ -143,7 +146,6 @@ struct ListView : Control {
     const RowSlot& Slot(std::int32_t place) const { return slots_[static_cast<std::size_t>(place)]; }
     std::string_view Row(std::int32_t place) const { return {Slot(place).data, Slot(place).length}; }
     std::string_view Field(std::int32_t place, std::size_t field) const { return FieldAt(Row(place), field); }
-    void AppendText(std::int32_t place, std::int32_t column, std::string& out) const;
     // The place that has the key: an earlier one, else `place`, which has it from now on.
     std::int32_t AddKey(std::string_view key, std::int32_t place);
     void RemoveKey(std::int32_t place);

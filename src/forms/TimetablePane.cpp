@@ -1,5 +1,6 @@
 #include "forms/TimetablePane.h"
 
+#include "core/ClockTime.h"
 #include "forms/PaneSetUp.h"
 
 namespace orlo {
@@ -8,14 +9,10 @@ TimetablePane::TimetablePane(Form& form) : picTimetable{form, "picTimetable"} {
     picTimetable.visible = false;
     SetColumns(lvTimetable,
                {"Time", "Arr./Dep.", "From/To", "Airline", "Flight Number", "Aircraft", "Registration"});
-    SetEntries(cmTTDay, {{"#Week#", -1},
-                         {"Sunday", 0},
-                         {"Monday", 1},
-                         {"Tuesday", 2},
-                         {"Wednesday", 3},
-                         {"Thursday", 4},
-                         {"Friday", 5},
-                         {"Saturday", 6}});
+    cmTTDay.Add("#Week#", -1);
+    for (const std::string_view day : kWeekdayNames) {
+        cmTTDay.Add(day, static_cast<std::int32_t>(cmTTDay.entries.size()) - 1);
+    }
     cmTTDay.SelectFirst();
     SetZones(cmTTZone);
     txtTTStart.text = "00:00:00";

@@ -33,6 +33,9 @@ struct TimetablePane {
     Button cmdTTPrint{picTimetable, "cmdTTPrint", "&Print"};
     Button cmdTTSave{picTimetable, "cmdTTSave", "&Save"};
     Button cmdTTStatistics{picTimetable, "cmdTTStatistics", "Statisti&cs"};
+
+    // What the pane remembers besides its controls.
+    bool ShowsOneDay = false;  // the rows were asked for by a day of the week
 };
 
 }  // namespace orlo

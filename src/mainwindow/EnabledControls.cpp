@@ -60,8 +60,9 @@ void EnableTimetablePane(Context& context) {
     MainForm& form = context.forms.frmMain;
     const bool loaded = context.session.plan.PlanLoaded;
     form.cmdTTShow.enabled = loaded;
-    Enable({&form.cmdTTPrint, &form.cmdTTSave, &form.cmdTTStatistics},
-           loaded && form.lvTimetable.Count() > 0);
+    const bool hasRows = loaded && form.lvTimetable.Count() > 0;
+    Enable({&form.cmdTTPrint, &form.cmdTTSave}, hasRows);
+    form.cmdTTStatistics.enabled = hasRows && form.ShowsOneDay;
 }
 
 void EnableProjectPane(Context& context) {

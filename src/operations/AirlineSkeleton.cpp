@@ -6,6 +6,7 @@
 #include "core/KeyedIndex.h"
 #include "core/Path.h"
 #include "core/Text.h"
+#include "core/TextLines.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/StatusTexts.h"
 #include "simulator/Scenery.h"
@@ -40,8 +41,8 @@ void AppendSections(std::string& out, std::string_view level, const FirstAppeara
 
 bool WriteSkeleton(Context& context) {
     const std::string path = JoinPath(context.session.ProgramFolder, kSkeletonName);
-    const auto file = context.services.files.CreateReplacing(path);
-    if (file && file->Write(FormatAirlineSkeleton(context.session.scenery.Airports)) && file->Commit())
+    if (ReplaceWholeFile(context.services.files, path,
+                         FormatAirlineSkeleton(context.session.scenery.Airports)))
         return true;
     ReportNotWritten(context, path);
     return false;

@@ -94,6 +94,7 @@ void EditFlight(Context& context) {
                                  session.search.SearchResults.Unpack(place));
     ShowResult(context, place);
     list.SourceChanged();
+    ResetTimetableView(context);
     MarkPlanModified(context);
 }
 
@@ -112,6 +113,7 @@ void AddFlight(Context& context) {
     session.search.SearchResultIndex.back() = session.plan.FlightCount();
     session.plan.Flights.Append(session.search.SearchResults.Unpack(place));
     ShowNewResult(context, place);
+    ResetTimetableView(context);
     MarkPlanModified(context);
 }
 
@@ -138,6 +140,7 @@ void DeleteFlights(Context& context) {
     } else {
         form.lblExPreview.caption = "Previe&w";
     }
+    ResetTimetableView(context);
     MarkPlanModified(context);
 }
 

@@ -20,6 +20,16 @@ struct FileDialog {
     std::string defaultExtension;
 };
 
+// What a line of text is asked with.
+struct InputQuestion {
+    std::string prompt;
+    std::string title;
+    std::string text = {};  // stands in the field at first
+    // The box stands a quarter of this form's width and height in from its top left corner; null: in the
+    // middle of the topmost window.
+    Form* quarterInside = nullptr;
+};
+
 enum class PrintOutcome { Printed, GivenUp, Failed };
 
 // The front end as the logic sees it: windows, dialogs, timers and the processing of events.
@@ -52,8 +62,7 @@ class WindowHost {
     virtual std::string ShowFolderDialog(std::string_view title, const std::string& startFolder) = 0;
 
     // Nothing on cancel.
-    virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
-                                                std::string_view defaultText) = 0;
+    virtual std::optional<std::string> InputBox(const InputQuestion& question) = 0;
 
     // Asks for a printer. False on cancel.
     virtual bool ShowPrintDialog(std::string_view title) = 0;

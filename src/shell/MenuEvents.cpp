@@ -6,6 +6,7 @@
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
 #include "operations/CorrectFlightTimes.h"
+#include "operations/Randomise.h"
 #include "operations/RemoveMinus.h"
 #include "shell/ExportTab.h"
 #include "shell/HelpMenu.h"
@@ -77,9 +78,9 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsCheckFL>, Click, Run<OnCorrectFlightLevels>},
     EventEntry{InMain<&M::mnuToolsCheckFT>, Click, Run<OnCorrectFlightTimes>},
     EventEntry{InMain<&M::mnuToolsRemoveMinus>, Click, Run<OnRemoveMinusFromTailNumbers>},
-    EventEntry{InMain<&M::mnuToolsRandPlan>, Click},
-    EventEntry{InMain<&M::mnuToolsRandPerc>, Click},
-    EventEntry{InMain<&M::mnuToolsRandFlightNumbers>, Click},
+    EventEntry{InMain<&M::mnuToolsRandPlan>, Click, Run<OnRandomizePlanOrder>},
+    EventEntry{InMain<&M::mnuToolsRandPerc>, Click, Run<OnRandomizePercent>},
+    EventEntry{InMain<&M::mnuToolsRandFlightNumbers>, Click, Run<OnRandomizeFlightNumbers>},
     EventEntry{InMain<&M::mnuToolsAirlinesCFG>, Click, Run<GenerateAirlineConfig>},
     EventEntry{InMain<&M::mnuToolsAirportsTXT>, Click},
     EventEntry{InMain<&M::mnuToolsFPAirportsTXT>, Click},

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "operations/Mover.h"
 #include "shell/EventTables.h"
 #include "shell/TreeEvents.h"
 
@@ -17,11 +18,11 @@ constexpr std::array kMoveEvents = {
     EventEntry{InMain<&M::tvMoveAircrafts>, CheckNode, OnNodeCheck},
     EventEntry{InMain<&M::tvMoveAircrafts>, Hover, OnTreeHover},
     EventEntry{InMain<&M::tvMoveAircrafts>, Popup, OnSelectPopup},
-    EventEntry{InMain<&M::cmdMove>, Click},
-    EventEntry{InMain<&M::cmdMovePercent>, Click},
-    EventEntry{InMain<&M::cmdMoveSave>, Click},
-    EventEntry{InMain<&M::cmdMoveLoad>, Click},
-    EventEntry{InMain<&M::cmdMoveExecute>, Click},
+    EventEntry{InMain<&M::cmdMove>, Click, Run<MoveAll>},
+    EventEntry{InMain<&M::cmdMovePercent>, Click, Run<MovePercentage>},
+    EventEntry{InMain<&M::cmdMoveSave>, Click, Run<OnMoveSave>},
+    EventEntry{InMain<&M::cmdMoveLoad>, Click, Run<OnMoveLoad>},
+    EventEntry{InMain<&M::cmdMoveExecute>, Click, Run<ExecuteAction>},
 };
 
 constexpr std::array kMoveResize = {

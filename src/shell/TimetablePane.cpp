@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "operations/StatisticsWindow.h"
+#include "operations/Timetable.h"
 #include "shell/EventTables.h"
 
 namespace orlo {
@@ -12,11 +14,15 @@ using enum EventKind;
 using namespace edges;
 
 constexpr std::array kTimetableEvents = {
-    EventEntry{InMain<&M::cmTTZone>, Change},
-    EventEntry{InMain<&M::cmdTTShow>, Click},
-    EventEntry{InMain<&M::cmdTTPrint>, Click},
-    EventEntry{InMain<&M::cmdTTSave>, Click},
-    EventEntry{InMain<&M::cmdTTStatistics>, Click},
+    EventEntry{InMain<&M::cmTTZone>, Change, Run<OnTimetableZone>},
+    EventEntry{InMain<&M::txtTTStart>, Leave, OnLeaveTimetableTime},
+    EventEntry{InMain<&M::txtTTEnd>, Leave, OnLeaveTimetableTime},
+    EventEntry{InMain<&M::txtTTPercent>, Leave, OnLeaveTimetablePercent},
+    EventEntry{InMain<&M::cmdTTShow>, Click, Run<ShowTimetable>},
+    EventEntry{InMain<&M::cmdTTPrint>, Click, Run<PrintTimetable>},
+    EventEntry{InMain<&M::cmdTTSave>, Click, Run<SaveTimetable>},
+    EventEntry{InMain<&M::cmdTTStatistics>, Click, Run<ShowTimetableStatistics>},
+    EventEntry{InMain<&M::lvTimetable>, DoubleClick, Run<EditTimetableFlight>},
     EventEntry{InMain<&M::lvTimetable>, ClickColumn, SortByColumn},
 };
 

@@ -21,12 +21,29 @@ constexpr std::array<std::string_view, 7> kWeekdayLabels = {
 // Beyond it a double no longer counts single seconds.
 constexpr double kLongestShift = 1e15;
 
-struct ZoneShift {
-    bool backward = false;
-    std::int64_t seconds = 0;  // negative when backward
+struct ShiftedTime {
+    std::string text;
+    int dayStep = 0;  // -1, 0 or 1
 };
 
-// Nothing for a zone that shifts no time.
+ShiftedTime ShiftTime(std::string_view time, std::string_view zone, bool invert) {
+    const auto seconds = ParseClockTime(time);
+    if (!seconds) return {std::string(time), 0};
+    const ShiftedClock shifted = ShiftClock(*seconds, ParseZone(zone, invert));
+    return {FormatClockTime(shifted.seconds), shifted.dayStep};
+}
+
+void StepDay(std::string& day, const std::array<std::string_view, 7>& days, int step) {
+    if (step == 0) return;
+    for (std::size_t i = 0; i < days.size(); ++i) {
+        if (day != days[i]) continue;
+        day = days[(i + (step > 0 ? 1 : days.size() - 1)) % days.size()];
+        return;
+    }
+}
+
+}  // namespace
+
 std::optional<ZoneShift> ParseZone(std::string_view zone, bool invert) {
     const std::string withoutWord = ReplaceAll(zone, "GMT", "");
     std::string_view rest = TrimBlanks(withoutWord);
@@ -47,36 +64,17 @@ std::optional<ZoneShift> ParseZone(std::string_view zone, bool invert) {
     return shift;
 }
 
-struct ShiftedTime {
-    std::string text;
-    int dayStep = 0;  // -1, 0 or 1
-};
-
-ShiftedTime ShiftTime(std::string_view time, std::string_view zone, bool invert) {
-    const auto seconds = ParseClockTime(time);
-    if (!seconds) return {std::string(time), 0};
-    const auto shift = ParseZone(zone, invert);
-    if (!shift) return {FormatClockTime(*seconds), 0};
-
-    ShiftedTime result{FormatClockTime(*seconds + shift->seconds), 0};
-    // Only the hours tell whether midnight was crossed.
-    const std::int32_t oldHour = *seconds / kSecondsPerHour;
-    const std::int32_t newHour = *ParseWholeNumber(result.text.substr(0, 2));
-    if (shift->backward && newHour > oldHour) result.dayStep = -1;
-    if (!shift->backward && newHour < oldHour) result.dayStep = 1;
-    return result;
+// Only the hours tell whether midnight was crossed.
+ShiftedClock ShiftClock(std::int32_t seconds, const std::optional<ZoneShift>& shift) {
+    if (!shift) return {seconds, 0};
+    const std::int64_t sum = (seconds + shift->seconds) % kSecondsPerDay;
+    const auto shifted = static_cast<std::int32_t>(sum < 0 ? sum + kSecondsPerDay : sum);
+    const std::int32_t oldHour = seconds / kSecondsPerHour;
+    const std::int32_t newHour = shifted / kSecondsPerHour;
+    if (shift->backward && newHour > oldHour) return {shifted, -1};
+    if (!shift->backward && newHour < oldHour) return {shifted, 1};
+    return {shifted, 0};
 }
-
-void StepDay(std::string& day, const std::array<std::string_view, 7>& days, int step) {
-    if (step == 0) return;
-    for (std::size_t i = 0; i < days.size(); ++i) {
-        if (day != days[i]) continue;
-        day = days[(i + (step > 0 ? 1 : days.size() - 1)) % days.size()];
-        return;
-    }
-}
-
-}  // namespace
 
 std::string ConvertZone(std::string_view time, std::string_view zone, bool invert) {
     return ShiftTime(time, zone, invert).text;

@@ -1,14 +1,31 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace orlo {
 
-// Shifts a time of day ("HH:MM:SS", or any form that ParseClockTime reads) by a zone text such as
-// "GMT +01:00": from GMT to the zone's local time, with `invert` from local time to GMT. The result is
-// "HH:MM:SS" and wraps at midnight. A zone that is empty, "GMT" alone, without a colon or without numbers
-// shifts nothing. A time that can't be read comes back as it was.
+// A zone as a shift of the clock.
+struct ZoneShift {
+    bool backward = false;
+    std::int64_t seconds = 0;  // negative when backward
+};
+
+// The shift from GMT to the local time of a zone text such as "GMT +01:00", with `invert` back to GMT.
+// Nothing for a zone that is empty, "GMT" alone, without a colon or without numbers; it shifts no time.
+std::optional<ZoneShift> ParseZone(std::string_view zone, bool invert);
+
+// A time of day behind a shift, and the day that it falls on.
+struct ShiftedClock {
+    std::int32_t seconds = 0;  // since midnight
+    int dayStep = 0;           // -1 the day before, 1 the day after
+};
+ShiftedClock ShiftClock(std::int32_t seconds, const std::optional<ZoneShift>& shift);
+
+// Shifts a time of day ("HH:MM:SS", or any form that ParseClockTime reads) by a zone text. The result is
+// "HH:MM:SS" and wraps at midnight. A time that can't be read comes back as it was.
 std::string ConvertZone(std::string_view time, std::string_view zone, bool invert);
 
 // The same; where the shift crosses midnight, a label " (Sunday)" to " (Saturday)" becomes that of the day

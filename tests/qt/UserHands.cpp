@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -290,6 +291,8 @@ std::string Seen(const Control& control) {
         case ControlKind::StatusBar:
             return line(As<QLabel>(control).text());
         case ControlKind::TextBox:
+            if (static_cast<const TextBox&>(control).style != TextBoxStyle::SingleLine)
+                return line(As<QPlainTextEdit>(control).toPlainText().replace("\n", "\\n"));
             return line(As<QLineEdit>(control).text());
         case ControlKind::ComboBox:
             return line(As<QComboBox>(control).currentText());

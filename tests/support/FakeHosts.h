@@ -59,9 +59,7 @@ class FakeWindows : public WindowHost {
     std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
-    std::optional<std::string> InputBox(std::string_view, std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
+    std::optional<std::string> InputBox(const InputQuestion&) override { return std::nullopt; }
     bool ShowPrintDialog(std::string_view) override { return true; }
     PrintOutcome Print(std::string_view text) override {
         printed.emplace_back(text);
@@ -109,6 +107,7 @@ class FakeClock : public Clock {
   public:
     std::int64_t now = 0;
     std::int64_t Now() const override { return now; }
+    std::string ShortText() const override { return "DATE TIME"; }
 };
 
 // All services as fakes, but for those that something real stands in for.

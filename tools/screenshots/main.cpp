@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <algorithm>
 #include <functional>
 #include <iostream>
 #include <set>
@@ -81,6 +82,8 @@ class Photographer {
         TakeModal(form_.mnuHelpAbout, program_.forms.frmAbout, "about");
         ShowTab("EXPORT");
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
+        ShowTab("TIMETABLE");
+        TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
         return AllTaken();
     }
 
@@ -142,8 +145,9 @@ class Photographer {
         for (const PaneFacts& pane : Panes()) {
             ShowTab(pane.key);
             if (form_.picShuffle.visible) OpenTree(form_.tvShuffleAircraft);
-            if (form_.picMove.visible) OpenTree(form_.tvMoveAircrafts);
+            if (form_.picMove.visible) ShowMove();
             if (form_.picExport.visible) SearchAll();
+            if (form_.picTimetable.visible) ShowMonday();
             Take(form_,
                  prefix + QString::fromUtf8(pane.key.data(), static_cast<int>(pane.key.size())).toLower());
         }
@@ -157,6 +161,25 @@ class Photographer {
         if (list.Count() < 3) return;
         list.current = list.PlaceAt(2);
         list.Select(list.current, true);
+    }
+
+    // Before a plan is open there is nothing to choose.
+    void ShowMove() {
+        TreeView& tree = form_.tvMoveAircrafts;
+        OpenTree(tree);
+        form_.cmSource.SelectText("EDDF");
+        form_.cmDest.SelectText("EDDM");
+        if (tree.roots.empty()) return;
+        const std::int32_t group = tree.roots[std::min<std::size_t>(1, tree.roots.size() - 1)];
+        tree.At(group).checked = true;
+        host_.Post({&form_, &tree, EventKind::CheckNode, group});
+        Settle();
+    }
+
+    void ShowMonday() {
+        form_.txtTTAirport.text = "EDDF";
+        form_.cmTTDay.SelectText("Monday");
+        Click(form_.cmdTTShow);
     }
 
     void TakeMenus() {

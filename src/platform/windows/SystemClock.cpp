@@ -1,6 +1,9 @@
 #include "platform/windows/SystemClock.h"
 
+#include <array>
+
 #include "platform/windows/SystemHeader.h"
+#include "platform/windows/WideText.h"
 
 namespace orlo {
 namespace {
@@ -17,6 +20,15 @@ std::int64_t SystemClock::Now() const {
     if (SystemTimeToFileTime(&local, &ticks) == 0) GetSystemTimeAsFileTime(&ticks);
     const auto count = (std::int64_t{ticks.dwHighDateTime} << 32) + ticks.dwLowDateTime;
     return count / kTicksPerSecond - kSecondsTo1970;
+}
+
+std::string SystemClock::ShortText() const {
+    std::array<wchar_t, 200> date{};
+    std::array<wchar_t, 200> time{};
+    const int size = static_cast<int>(date.size());
+    GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, date.data(), size);
+    GetTimeFormatW(LOCALE_USER_DEFAULT, 0, nullptr, nullptr, time.data(), size);
+    return NarrowText(date.data()) + " " + NarrowText(time.data());
 }
 
 }  // namespace orlo

@@ -1,0 +1,100 @@
+#include "operations/StatisticsWindow.h"
+
+#include <string>
+
+#include "core/Application.h"
+#include "core/ClockTime.h"
+#include "core/Text.h"
+#include "core/TextLines.h"
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/SavePlan.h"
+#include "mainwindow/StatusTexts.h"
+#include "operations/TimetableRows.h"
+#include "operations/TimetableStatistics.h"
+#include "operations/TimetableText.h"
+
+namespace orlo {
+namespace {
+
+// In front of the weekday behind it.
+std::string_view TimeOfText(std::string_view text) {
+    return TrimBlanks(text.substr(0, text.rfind('(')));
+}
+
+TimetableStatistics CountRows(const Context& context) {
+    const ListView& list = context.forms.frmMain.lvTimetable;
+    const auto& rows = static_cast<const TimetableRows&>(*list.Source());
+    TimetableStatistics statistics(context.session.plan, context.session.fleet);
+    std::string time;
+    for (std::int32_t position = 0; position < list.Count(); ++position) {
+        const std::int32_t row = list.PlaceAt(position);
+        time.clear();
+        rows.AppendText(row, kEventTime, time);
+        statistics.Count(rows.Arrives(row), rows.FlightPlace(row), TimeOfText(time));
+    }
+    return statistics;
+}
+
+ReportHead HeadOf(const MainForm& form) {
+    ReportHead head;
+    head.airports = ShownAirports(form);
+    head.day = form.cmTTDay.Text();
+    head.start = form.txtTTStart.text;
+    head.end = form.txtTTEnd.text;
+    head.zone = form.cmTTZone.Text();
+    if (const auto start = ParseClockTime(head.start)) head.firstHour = *start / kSecondsPerHour;
+    if (const auto end = ParseClockTime(head.end)) head.lastHour = *end / kSecondsPerHour;
+    return head;
+}
+
+// As it is saved and printed.
+std::string TextOf(const TTStatisticsForm& form) {
+    return Concat(kApplicationTitle, " - ", form.caption, "\r\n\r\n", form.txtInfo.text);
+}
+
+}  // namespace
+
+void ShowTimetableStatistics(Context& context) {
+    const MainForm& main = context.forms.frmMain;
+    TTStatisticsForm& form = context.forms.frmTTStatistics;
+    if (main.lvTimetable.Source() == nullptr) return;
+    form.txtInfo.text = StatisticsReport(CountRows(context), HeadOf(main));
+    form.SetFocus(form.txtInfo);
+    context.services.windows.ShowModal(form, &context.forms.frmMain);
+}
+
+void PrintTimetableStatistics(Context& context) {
+    Services& services = context.services;
+    TTStatisticsForm& form = context.forms.frmTTStatistics;
+    if (!services.windows.ShowPrintDialog(form.caption)) return;
+    ForgetNotWritten(context);
+    const PrintOutcome outcome = services.windows.Print(TextOf(form));
+    if (outcome == PrintOutcome::Failed) ReportNotPrinted(context);
+    if (outcome != PrintOutcome::Printed) return;
+    ShowMessage(services.messages, "Successfully printed the Airport Timetable Statistics.", kMarkInformation,
+                &form);
+}
+
+void SaveTimetableStatistics(Context& context) {
+    Services& services = context.services;
+    TTStatisticsForm& form = context.forms.frmTTStatistics;
+    FileDialog dialog;
+    dialog.title = "Save Airport Timetable Statistics";
+    dialog.startFile = "Airport Timetable Statistics.txt";
+    dialog.filter = kTextFileFilter;
+    dialog.overwritePrompt = true;
+    const std::string path = services.windows.ShowSaveDialog(dialog);
+    if (path.empty()) return;
+    ForgetNotWritten(context);
+    const bool written = ReplaceWholeFile(services.files, path, TextOf(form));
+    ShowMessage(services.messages,
+                written ? "Successfully saved the Airport Timetable Statistics."
+                        : "An error occured during writing the Airport Timetable Statistics.",
+                written ? kMarkInformation : kMarkCritical, &form);
+}
+
+void CloseTimetableStatistics(Context& context) {
+    context.forms.frmTTStatistics.closeRequest = true;
+}
+
+}  // namespace orlo
