@@ -27,7 +27,6 @@ void AddNames(ListView& list) {
 TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Focus(form.cmdGo);
     desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.ran, std::vector<std::string>{"Click mnuTick"});
 
     for (Control* field : std::initializer_list<Control*>{&form.txtName, &form.txtNotes, &form.cmFree}) {
@@ -36,7 +35,6 @@ TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
         desktop.Type(form, "x");
         form.ran.clear();
         desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
-        DesktopProgram::Settle();
         EXPECT_EQ(form.ran, std::vector<std::string>{Concat("Change ", field->name)});
     }
     EXPECT_EQ(form.txtName.text, "");
@@ -46,7 +44,6 @@ TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Focus(form.cmdGo);
     form.ran.clear();
     desktop.Key(form, Qt::Key_Z, Qt::ControlModifier);
-    DesktopProgram::Settle();
     EXPECT_TRUE(form.ran.empty());
 }
 
@@ -58,7 +55,6 @@ TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     desktop.Focus(form.cmFree);
     combo.lineEdit()->end(false);
     desktop.Type(form, "er");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("Change cmFree"), 2);
     EXPECT_EQ(form.cmFree.index, -1);
     EXPECT_EQ(form.cmFree.Text(), "Greener");
@@ -66,7 +62,6 @@ TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     // Nothing is completed, and the entries stay.
     combo.lineEdit()->selectAll();
     desktop.Type(form, "R");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.cmFree.Text(), "R");
     EXPECT_EQ(combo.count(), 2);
     // Code and a choice take its place.
@@ -74,7 +69,6 @@ TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
     desktop.CatchUp();
     EXPECT_EQ(combo.currentText(), "Blue");
     desktop.Key(form, Qt::Key_Down);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.cmFree.index, 0);
     EXPECT_EQ(form.cmFree.Text(), "Red");
 }
@@ -84,14 +78,12 @@ TEST_F(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
     desktop.CatchUp();
     desktop.Focus(form.lvRows);
     desktop.Type(form, "br");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.lvRows.current, 3);
     EXPECT_EQ(form.lvRows.SelectedPlaces(), std::vector{3});
     desktop.Key(form, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "First\tSecond\r\nBravo\ta b\r\n");
 
     desktop.Key(form, Qt::Key_A, Qt::ControlModifier);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.lvRows.SelectedPlaces().size(), 4u);
     desktop.Key(form, Qt::Key_C, Qt::ControlModifier);
     const QString copied = QGuiApplication::clipboard()->text();
@@ -141,13 +133,6 @@ TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     EXPECT_EQ(form.Ran("DropFile form"), 2);
 }
 
-TEST_F(Keys, APathInAMenuKeepsItsAmpersands) {
-    form.mnuTick.plainCaption = true;
-    form.mnuTick.caption = "/R&D/plan.txt";
-    desktop.CatchUp();
-    EXPECT_EQ(desktop.WindowOf(desktop.form).findChild<QAction*>("mnuTick")->text(), "/R&&D/plan.txt");
-}
-
 TEST_F(Typing, TypingWhileTheWindowIsRedrawnLosesNoCharacter) {
     form.on["Change txtName"] = [&](Context& context, Event&) {
         form.sbState.text = Concat("Typed ", form.txtName.text);
@@ -174,14 +159,12 @@ TEST_F(Typing, AHandlerThatChangesTheFieldIsSeenBeforeTheNextKey) {
     form.on["Change txtName"] = [&](Context&, Event&) { form.txtName.text = UpperText(form.txtName.text); };
     desktop.Focus(form.txtName);
     desktop.Type(form, "abc");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.txtName.text, "ABC");
     auto& line = desktop.Find<QLineEdit>(form.txtName);
     EXPECT_EQ(line.text(), "ABC");
 
     line.setCursorPosition(1);
     desktop.Type(form, "xy");
-    DesktopProgram::Settle();
     EXPECT_EQ(line.text(), "AXYBC");
     EXPECT_EQ(line.cursorPosition(), 3);
 }
@@ -203,29 +186,9 @@ TEST_F(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
     EXPECT_EQ(notes.toPlainText(), "one\ntwo");
     desktop.Focus(form.txtNotes);
     desktop.Key(form, Qt::Key_Return);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.txtNotes.text, "\r\none\r\ntwo");
     EXPECT_EQ(form.Ran("Change txtNotes"), 1);
     EXPECT_EQ(form.Ran("Click cmdGo"), 0);
-}
-
-TEST_F(Typing, KeysTypedWhileAnOperationRunsReachNoField) {
-    desktop.Focus(form.txtName);
-    form.on["Click cmdGo"] = [&](Context& context, Event&) {
-        form.enabled = false;
-        desktop.Type(form, "lost");
-        context.services.windows.ProcessEvents();
-        form.enabled = true;
-    };
-    desktop.Key(form, Qt::Key_Return);
-    DesktopProgram::Settle();
-    EXPECT_EQ(form.Ran("Click cmdGo"), 1);
-    EXPECT_EQ(form.txtName.text, "");
-    EXPECT_EQ(form.focus, &form.txtName);
-    desktop.Type(form, "kept");
-    DesktopProgram::Settle();
-    EXPECT_EQ(form.txtName.text, "kept");
-    EXPECT_EQ(form.Ran("Change txtName"), 4);
 }
 
 }  // namespace

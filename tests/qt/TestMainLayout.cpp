@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QScopeGuard>
 #include <QScreen>
 #include <cmath>
 
@@ -20,21 +21,6 @@ namespace {
 
 constexpr std::array kTabs = {"SHUFFLE", "MOVE", "EXPORT", "TIMETABLE", "PROJECT"};
 constexpr int kTolerance = 4;  // pixels, of controls of unlike heights in one row
-
-class FontOfSize {
-  public:
-    explicit FontOfSize(int points) : before_(QApplication::font()) {
-        QFont font = before_;
-        font.setPointSize(points);
-        QApplication::setFont(font);
-    }
-    ~FontOfSize() { QApplication::setFont(before_); }
-    FontOfSize(const FontOfSize&) = delete;
-    FontOfSize& operator=(const FontOfSize&) = delete;
-
-  private:
-    QFont before_;
-};
 
 // The main window as the start leaves it.
 struct MainWindow {
@@ -107,8 +93,10 @@ void ExpectApartAndWhole(const Form& form, const std::string& when) {
 }
 
 TEST(MainLayout, NothingOverlapsIsCutOrLeavesItsPaneAtAnySizeAndFont) {
+    const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(before); });
     for (const int points : {8, 9, 14}) {
-        const FontOfSize font(points);
+        QApplication::setFont(QFont(before.family(), points));
         MainWindow main;
         const QSize least(main.form.leastWidth, main.form.leastHeight);
         const QSize opening(main.form.innerWidth, main.form.innerHeight);
