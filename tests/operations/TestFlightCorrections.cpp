@@ -28,14 +28,6 @@ struct CorrectionWorld : test::FakeProgram {
         session.switches.TATime = minimum;
         session.switches.MaxTATime = maximum;
     }
-    void AddAircraft(std::string number, std::string title, std::int32_t minFL, std::int32_t maxFL) {
-        session.plan.PlanAircrafts.push_back({std::move(number), title, "450", 0});
-        FSAircraft aircraft;
-        aircraft.Title = UpperText(title);
-        aircraft.MinFL = minFL;
-        aircraft.MaxFL = maxFL;
-        session.fleet.FSAircrafts.push_back(aircraft);
-    }
 };
 
 std::string Whole(std::string_view time) {
@@ -166,19 +158,20 @@ TEST(FlightCorrections, LevelsAreDrawnForKnownAircraftFromTheSecondLegOn) {
         {0, 9999, 0, 179, 250, 410, 20}, {0, 9999, 180, 359, 260, 400, 20}, {-1, 9999, -1, -1, 50, 90, 40}};
     world.AddPlanAirport("EAST", "N50* 0.00'", "E10* 0.00'");
     world.AddPlanAirport("WEST", "N50* 0.00'", "E5* 0.00'");
-    world.AddAircraft("AC#1", "Jet One", 0, 999);
-    world.AddAircraft("AC#3", "Jet Three", 300, 310);
-    world.session.plan.PlanAircrafts.push_back({"AC#2", "Not installed", "450", 0});
+    world.session.plan.PlanAircrafts = {
+        {"AC#1", "Jet One", "450", 0}, {"AC#3", "Jet Three", "450", 0}, {"AC#2", "Not installed", "450", 0}};
+    world.AddInstalled("JET ONE");
+    FSAircraft& bound = world.AddInstalled("JET THREE");
+    bound.MinFL = 300;
+    bound.MaxFL = 310;
     const std::string rest = ",IFR,08:00:00,09:00:00,100,F,1,WEST,10:00:00,@11:00:00,100,F,2,";
     for (const char* number : {"ac#1", "AC#2", "AC#3", "AC#1", "AC#1"}) {
         world.AddFlight(Concat(number, ",N-1,50%,24Hr", rest, "EAST"));
     }
     world.session.plan.Flights.SetRemoved(3, true);
-    world.session.plan.Flights.Replace(4, [&] {
-        Flight flight = world.session.plan.Flights.Unpack(4);
-        flight.Legs[0].Destination = flight.Legs[1].Destination = "NONE";
-        return flight;
-    }());
+    Flight astray = world.session.plan.Flights.Unpack(4);
+    astray.Legs[0].Destination = astray.Legs[1].Destination = "NONE";
+    world.session.plan.Flights.Replace(4, astray);
     world.world.random.draws = {0, 0.99999};
     ASSERT_TRUE(world.Press(world.form.mnuToolsCheckFL));
 

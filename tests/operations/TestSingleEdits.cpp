@@ -42,9 +42,7 @@ struct EditWorld : test::SearchWorld {
     }
     std::string LinesOf(const std::string& path) const {
         std::string tails;
-        const auto found = world.files.files.find(path);
-        if (found == world.files.files.end()) return "(missing)";
-        for (const std::string_view line : SplitText(found->second, '\n')) {
+        for (const std::string_view line : SplitText(world.files.files.at(path), '\n')) {
             if (line.size() > 1) tails.append(SplitText(line, ',')[1]).append(" ");
         }
         return tails;

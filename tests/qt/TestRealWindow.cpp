@@ -124,24 +124,15 @@ Outcome RunOnConsole(World& world, const Script& script) {
     return {Compared(said.str()), world.Files(), std::string(BeforeFirst(errors.str(), "\n"))};
 }
 
-std::string FirstDifference(const std::string& window, const std::string& console) {
-    const std::vector<std::string_view> lines = SplitText(window, '\n');
-    const std::vector<std::string_view> others = SplitText(console, '\n');
-    for (std::size_t i = 0; i < std::min(lines.size(), others.size()); ++i) {
-        if (lines[i] != others[i]) return Concat("line ", i + 1, " is\n", lines[i], "\nnot\n", others[i]);
-    }
-    return Concat(lines.size(), " lines, not ", others.size());
-}
-
 void ExpectSame(const Outcome& window, const Outcome& console) {
     EXPECT_EQ(window.fault, console.fault);
-    EXPECT_TRUE(window.said == console.said) << FirstDifference(window.said, console.said);
+    EXPECT_EQ(window.said, console.said);
+    EXPECT_EQ(window.files.size(), console.files.size());
     for (const auto& [name, text] : console.files) {
         const auto found = window.files.find(name);
         ASSERT_NE(found, window.files.end()) << name << " was not written";
-        EXPECT_TRUE(found->second == text) << name << ": " << FirstDifference(found->second, text);
+        EXPECT_EQ(found->second, text) << name;
     }
-    EXPECT_EQ(window.files.size(), console.files.size());
 }
 
 std::filesystem::path ScriptPath(const std::string& name) {
