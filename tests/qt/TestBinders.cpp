@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
@@ -196,7 +197,7 @@ TEST_F(Binders, ATextOfTheStatusBarKeepsItsDistanceFromTheEdges) {
     EXPECT_NE(drawn(0, bar.width()), all);
 }
 
-TEST_F(Binders, EveryControlOfEveryFormHasItsWidgetNameAndBuddy) {
+TEST_F(Binders, EveryControlOfEveryFormHasItsWidgetBuddyAndSpokenName) {
     for (const FormFacts& facts : AllForms()) {
         Form* of = &facts.form(desktop.program.forms);
         desktop.host.ShowForm(*of);
@@ -208,10 +209,14 @@ TEST_F(Binders, EveryControlOfEveryFormHasItsWidgetNameAndBuddy) {
                 EXPECT_NE(window.findChild<QAction*>(name), nullptr);
                 continue;
             }
-            const auto* widget = window.findChild<QWidget*>(name);
+            auto* widget = window.findChild<QWidget*>(name);
             ASSERT_NE(widget, nullptr);
             EXPECT_EQ(widget->isVisibleTo(&window), control->EffectivelyVisible());
             EXPECT_EQ(widget->isEnabled(), control->EffectivelyEnabled());
+            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+            if (widget->focusPolicy() != Qt::NoFocus) {
+                EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty());
+            }
             const Label* label = control->kind == ControlKind::ProgressBar ? nullptr : LabelOf(*control);
             if (label != nullptr) {
                 EXPECT_EQ(window.findChild<QLabel*>(QString::fromStdString(label->name))->buddy(), widget);
