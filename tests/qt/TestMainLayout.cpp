@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGuiApplication>
 #include <QPalette>
@@ -62,8 +63,8 @@ std::vector<Shown> ShownIn(const Form& form) {
     std::vector<Shown> shown;
     FormWindow& window = test::DesktopProgram::WindowOf(form);
     for (const Control* control : form.Controls()) {
-        auto* widget = window.findChild<QWidget*>(QString::fromStdString(control->name));
         if (control->kind == ControlKind::MenuEntry || control->kind == ControlKind::Picture) continue;
+        const QWidget* widget = &test::WidgetOf(*control);
         if (control->kind == ControlKind::Frame || !widget->isVisible()) continue;
         const QRect room(widget->parentWidget()->mapTo(&window, QPoint()), widget->parentWidget()->size());
         shown.push_back({control, QRect(widget->mapTo(&window, QPoint()), widget->size()), room});
@@ -129,8 +130,8 @@ TEST(MainLayout, AStoredPlaceIsTakenIfItCanBeSeenButNeverBelowTheLeastSize) {
     EXPECT_EQ(lost.Window().size(), QSize(lost.form.leastWidth, 700));  // as wide as the screen lets it be
 }
 
-// Each control stands below the one before, or right of it.
-void ExpectReadingOrder(const Form& form, std::string_view when) {
+// Each control stands below the one before, or right of it, and has a name where it takes the focus.
+void ExpectReadingOrderAndNames(const Form& form, std::string_view when) {
     const Shown* before = nullptr;
     const std::vector<Shown> shown = ShownIn(form);
     for (const Shown& next : shown) {
@@ -139,19 +140,23 @@ void ExpectReadingOrder(const Form& form, std::string_view when) {
                              next.place.left() >= before->place.right() - kTolerance;
         EXPECT_TRUE(follows) << next.control->name << " after " << before->control->name << ", " << when;
         before = &next;
+        QWidget& widget = test::WidgetOf(*next.control);
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
+        EXPECT_TRUE(widget.focusPolicy() == Qt::NoFocus || !spoken->text(QAccessible::Name).isEmpty())
+            << next.control->name << " has no name";
     }
 }
 
-TEST(MainLayout, TheTabKeyFollowsTheEye) {
+TEST(MainLayout, TheTabKeyFollowsTheEyeAndEachFieldHasAName) {
     MainWindow main;
     for (const char* tab : kTabs) {
         main.ShowTab(tab);
-        ExpectReadingOrder(main.form, tab);
+        ExpectReadingOrderAndNames(main.form, tab);
     }
     FlightEditForm& editor = main.program.forms.frmFlightEdit;
     main.host.ShowForm(editor);
     test::DesktopProgram::Settle();
-    ExpectReadingOrder(editor, "the editor");
+    ExpectReadingOrderAndNames(editor, "the editor");
     ExpectApartAndWhole(editor, "the editor");
     test::DesktopProgram::WindowOf(editor).resize(1, 1);
     test::DesktopProgram::Settle();
