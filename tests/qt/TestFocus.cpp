@@ -30,17 +30,9 @@ TEST(Leaving, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
         {"a click on a button", [](DesktopProgram& d) { d.Click(d.form.cmdGo); }, "Click cmdGo"},
         {"a click on a check box", [](DesktopProgram& d) { d.Click(d.form.ckSwitch); }, "Click ckSwitch"},
         {"a click on an option", [](DesktopProgram& d) { d.Click(d.form.opSecond); }, "Click opSecond"},
-        {"a click on a list's header",
-         [](DesktopProgram& d) {
-             auto& list = d.Find<QWidget>(d.form.lvRows);
-             d.ClickAt(list, QPoint(20, 10));
-         },
+        {"a click on a list's header", [](DesktopProgram& d) { test::ClickColumn(d.form.lvRows, 0); },
          "ClickColumn lvRows"},
-        {"a click on another tab",
-         [](DesktopProgram& d) {
-             auto& tabs = d.Find<QTabBar>(d.form.tabViews);
-             d.ClickAt(tabs, tabs.tabRect(1).center());
-         },
+        {"a click on another tab", [](DesktopProgram& d) { test::ClickTab(d.form.tabViews, 1); },
          "SelectTab tabViews"},
         {"the tab key", [](DesktopProgram& d) { d.Key(d.form, Qt::Key_Tab); }, nullptr},
         {"the tab key backwards",
