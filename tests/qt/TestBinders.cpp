@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
 #include <QTabBar>
@@ -146,20 +145,19 @@ TEST_F(Binders, ATreeShowsChecksGroupsAndColours) {
     TreeView& tree = form.tvNodes;
     auto& shown = desktop.Find<QTreeView>(tree);
     const QModelIndex group = shown.model()->index(0, 0);
-    const auto check = [&](std::int32_t) {
-        return shown.model()->index(0, 0).data(Qt::CheckStateRole).toInt();
+    const auto check = [&] { return shown.model()->index(0, 0).data(Qt::CheckStateRole).toInt(); };
+    const auto colour = [](const QModelIndex& at) {
+        return at.data(Qt::ForegroundRole).value<QBrush>().color();
     };
-    EXPECT_EQ(check(0), Qt::Unchecked);
+    EXPECT_EQ(check(), Qt::Unchecked);
     EXPECT_FALSE(group.data(Qt::ForegroundRole).isValid());
     tree.At(0).colour = Colour::Gray;
     ++tree.stateRevision;
     desktop.CatchUp();
-    EXPECT_EQ(check(0), Qt::PartiallyChecked);
-    EXPECT_EQ(group.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0x70, 0x70, 0x70));
-    EXPECT_EQ(shown.model()->index(0, 0, group).data(Qt::ForegroundRole).value<QBrush>().color(),
-              QColor(Qt::blue));
-    EXPECT_EQ(shown.model()->index(1, 0, group).data(Qt::ForegroundRole).value<QBrush>().color(),
-              QColor(Qt::red));
+    EXPECT_EQ(check(), Qt::PartiallyChecked);
+    EXPECT_EQ(colour(group), QColor(0x70, 0x70, 0x70));
+    EXPECT_EQ(colour(shown.model()->index(0, 0, group)), QColor(Qt::blue));
+    EXPECT_EQ(colour(shown.model()->index(1, 0, group)), QColor(Qt::red));
 
     // A partly checked group is unchecked: the first click checks it.
     desktop.Focus(form.tvNodes);

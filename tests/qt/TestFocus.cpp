@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QTabBar>
 
 #include "qt/DesktopProgram.h"

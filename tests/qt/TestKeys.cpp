@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -18,11 +17,6 @@ namespace {
 using test::DesktopProgram;
 using Keys = test::DesktopTest;
 using Typing = test::DesktopTest;
-
-void AddNames(ListView& list) {
-    for (const char* name : {"Delta", "Alpha", "Malm\xF6", "Bravo"})
-        list.Add({"", "", "", Colour::WindowText, {name, "a\tb"}});
-}
 
 TEST_F(Keys, AShortcutChoosesItsEntryButATextFieldKeepsItsOwnUndo) {
     desktop.Focus(form.cmdGo);
@@ -74,7 +68,8 @@ TEST_F(Keys, WhatIsTypedIntoAnEditableComboBoxStandsInTheForm) {
 }
 
 TEST_F(Keys, AListCopiesItsSelectionSelectsAllAndFindsWhatIsTyped) {
-    AddNames(form.lvRows);
+    for (const char* name : {"Delta", "Alpha", "Malm\xF6", "Bravo"})
+        form.lvRows.Add({"", "", "", Colour::WindowText, {name, "a\tb"}});
     desktop.CatchUp();
     desktop.Focus(form.lvRows);
     desktop.Type(form, "br");
@@ -115,7 +110,7 @@ TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
         DesktopProgram::Settle();
         return taken;
     };
-    QMimeData file;
+    QMimeData file, text;
     file.setUrls({QUrl("http://somewhere/plan.txt"), QUrl::fromLocalFile("/plans/a b.txt")});
     for (QWidget* widget :
          {static_cast<QWidget*>(&desktop.WindowOf(form)), &desktop.Find<QWidget>(form.txtName)}) {
@@ -125,7 +120,6 @@ TEST_F(Keys, AFileDroppedAnywhereOnTheWindowIsItsOwn) {
     }
     EXPECT_EQ(form.txtName.text, "");
 
-    QMimeData text;
     text.setText("text");
     EXPECT_EQ(drop(desktop.WindowOf(form), text), Qt::IgnoreAction);
     form.enabled = false;

@@ -13,7 +13,6 @@
 namespace orlo {
 namespace {
 
-using test::DesktopProgram;
 using Operations = test::DesktopTest;
 using test::SampleForm;
 

@@ -82,15 +82,11 @@ TEST_F(Reach, AMenuOfTheBarGoesBeforeAControlOfTheSameLetter) {
 }
 
 TEST_F(Reach, KeysAndAClickOnTheShownTabSelectTabs) {
-    const struct {
-        Qt::Key key;
-        const char* tab;
-    } kSteps[] = {
-        {Qt::Key_PageDown, "TWO"}, {Qt::Key_PageDown, "ONE"}, {Qt::Key_PageUp, "TWO"}, {Qt::Key_Tab, "ONE"}};
     desktop.Focus(form.txtName);
-    for (const auto& step : kSteps) {
-        desktop.Key(form, step.key, Qt::ControlModifier);
-        EXPECT_EQ(form.tabViews.selectedKey, step.tab);
+    for (const auto& [key, tab] : {std::pair(Qt::Key_PageDown, "TWO"), std::pair(Qt::Key_PageDown, "ONE"),
+                                   std::pair(Qt::Key_PageUp, "TWO"), std::pair(Qt::Key_Tab, "ONE")}) {
+        desktop.Key(form, key, Qt::ControlModifier);
+        EXPECT_EQ(form.tabViews.selectedKey, tab);
     }
     EXPECT_EQ(form.Ran("SelectTab tabViews"), 4);
     // A field that refuses to be left keeps its tab.
