@@ -33,10 +33,14 @@ TEST(FlightList, FlightsComeOutAsTheyWentIn) {
     odd.Legs[1] = {"@1", "", false, "", "", std::string("\0", 1), ""};
     odd.Removed = true;
     Flight bare;
+    Flight wide = MakeFlight(6, 2);  // each of these fields is more than the memory that is taken at first
+    for (std::string* field : {&wide.ACNumber, &wide.TailNumber, &wide.Percent, &wide.Legs[0].DepartTime,
+                               &wide.Legs[1].FlightNumber, &wide.Legs[1].Destination})
+        field->assign(20000, 'x');
     FlightList list;
-    const Flight flights[] = {MakeFlight(1, 3), odd, bare, MakeFlight(4, 0), MakeFlight(5, 1)};
+    const Flight flights[] = {MakeFlight(1, 3), odd, bare, MakeFlight(4, 0), MakeFlight(5, 1), wide};
     for (const Flight& flight : flights) list.Append(flight);
-    ASSERT_EQ(list.Count(), 5);
+    ASSERT_EQ(list.Count(), 6);
     for (std::int32_t i = 0; i < list.Count(); ++i) EXPECT_EQ(list.Unpack(i), flights[i]) << i;
     EXPECT_EQ(list.At(0).StartAirport(), "K2");
     EXPECT_EQ(list.At(1).StartAirport(), "");

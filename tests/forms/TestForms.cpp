@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "core/Text.h"
@@ -50,16 +49,14 @@ TEST(Forms, NoNameStandsTwiceAndEachIsFoundWithoutRegardToCase) {
 
 TEST(Forms, EveryControlThatActsHasACaptionALabelOrAnAccessibleName) {
     using enum ControlKind;
+    const std::set<ControlKind> fields = {TextBox, ComboBox, ListView, TreeView, TabStrip};
+    const std::set<ControlKind> buttons = {Button, CheckBox, OptionButton, MenuEntry};
     Forms forms;
     for (const Form* form : FormsOf(forms)) {
         for (const Control* control : form->Controls()) {
-            const auto isOneOf = [&](std::initializer_list<ControlKind> kinds) {
-                return std::find(kinds.begin(), kinds.end(), control->kind) != kinds.end();
-            };
             const bool named = LabelOf(*control) != nullptr || !control->accessibleName.empty();
-            const bool field = isOneOf({TextBox, ComboBox, ListView, TreeView, TabStrip});
-            EXPECT_TRUE(!field || named) << form->name << "." << control->name;
-            const bool button = isOneOf({Button, CheckBox, OptionButton, MenuEntry});
+            EXPECT_TRUE(!fields.contains(control->kind) || named) << form->name << "." << control->name;
+            const bool button = buttons.contains(control->kind);
             EXPECT_TRUE(!button || !control->visible || !control->caption.empty()) << control->name;
         }
     }

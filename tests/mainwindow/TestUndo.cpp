@@ -6,23 +6,16 @@
 namespace orlo {
 namespace {
 
-Flight MakeFlight(std::string tail) {
-    Flight flight;
-    flight.ACNumber = "AC#1";
-    flight.TailNumber = std::move(tail);
-    flight.Legs = {{"10:00:00", "11:00:00", false, "350", "F", "1", "EDDF"},
-                   {"12:00:00", "13:00:00", false, "350", "F", "2", "EDDM"}};
-    return flight;
-}
-
 struct UndoWorld : test::FakeProgram {
     UndoWorld() {
-        session.plan.Flights.Append(MakeFlight("N1"));
+        AddFlight("AC#1,N1,50%,24Hr,IFR,10:00:00,11:00:00,350,F,1,EDDF,12:00:00,13:00:00,350,F,2,EDDM");
         session.plan.PlanAircrafts.push_back({"AC#1", "Jet One", "450", 0});
         session.plan.PlanLoaded = true;
     }
     void Change(std::string tail) {
-        session.plan.Flights.Replace(0, MakeFlight(std::move(tail)));
+        Flight flight = session.plan.Flights.Unpack(0);
+        flight.TailNumber = std::move(tail);
+        session.plan.Flights.Replace(0, flight);
         session.plan.PlanAircrafts.clear();
     }
     std::string Tail() const { return std::string(session.plan.Flights.At(0).TailNumber); }

@@ -25,26 +25,21 @@ struct SearchWorld : FakeProgram {
         session.plan.PlanLoaded = true;
     }
 
-    void AddInstalled(std::string title, std::string airline, std::int32_t aircraftClass) {
-        FSAircraft aircraft;
-        aircraft.Title = std::move(title);
-        aircraft.Airline = std::move(airline);
+    void AddInstalled(std::string_view title, std::string_view airline, std::int32_t aircraftClass) {
+        FSAircraft& aircraft = FakeProgram::AddInstalled(title);
+        aircraft.Airline = airline;
         aircraft.Class = aircraftClass;
         aircraft.MinFL = 100;
         aircraft.MaxFL = 410;
-        aircraft.MinRange = 0;
-        aircraft.MaxRange = 9999;
-        session.fleet.FSAircrafts.push_back(aircraft);
     }
 
     void AddAirport(std::string code, std::string region, std::string country, std::string latitude,
                     std::string longitude) {
         AddPlanAirport(code, std::move(latitude), std::move(longitude));
-        AirportRecord record;
+        AirportRecord& record = session.scenery.Airports.emplace_back();
         record.ICAO = std::move(code);
         record.Region = std::move(region);
         record.Country = std::move(country);
-        session.scenery.Airports.push_back(record);
     }
 
     void Add(const std::string& line, bool removed = false) {

@@ -29,12 +29,9 @@ struct EditWorld : test::SearchWorld {
             Press(tail.empty() ? editor.cmdCancel : editor.cmdOK);
         };
     }
-    void SelectPlaces(const std::vector<std::int32_t>& places) {
-        form.lvExPreview.SelectAll(false);
-        for (const std::int32_t place : places) form.lvExPreview.Select(place, true);
-    }
     // Registrations of the plan, "-" behind removed ones.
-    std::string Tails(const FlightList& flights) const {
+    std::string Tails() const {
+        const FlightList& flights = session.plan.Flights;
         std::string tails;
         for (std::int32_t i = 0; i < flights.Count(); ++i)
             tails.append(flights.At(i).TailNumber).append(flights.Removed(i) ? "- " : " ");
@@ -42,9 +39,7 @@ struct EditWorld : test::SearchWorld {
     }
     std::string LinesOf(const std::string& path) const {
         std::string tails;
-        const auto found = world.files.files.find(path);
-        if (found == world.files.files.end()) return "(missing)";
-        for (const std::string_view line : SplitText(found->second, '\n')) {
+        for (const std::string_view line : SplitText(world.files.files.at(path), '\n')) {
             if (line.size() > 1) tails.append(SplitText(line, ',')[1]).append(" ");
         }
         return tails;
@@ -55,12 +50,12 @@ struct EditWorld : test::SearchWorld {
 TEST(SingleEdits, DeletedFlightsLeaveTheListAndStayInThePlan) {
     EditWorld world;
     const auto remove = [&](const std::vector<std::int32_t>& places) {
-        world.SelectPlaces(places);
+        world.SelectRows(world.form.lvExPreview, places);
         world.world.messages.answers = {MessageAnswer::Yes};
         EXPECT_TRUE(world.Press(world.form.cmdDeleteFlight));
     };
     remove({1, 3});
-    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1- N2 N3- N4 N5 N6 ");
+    EXPECT_EQ(world.Tails(), "N0 N1- N2 N3- N4 N5 N6 ");
     EXPECT_EQ(world.session.search.SearchResultCount, 7);
     world.world.windows.paths = {"/plan/Out.txt"};
     ExportFlights(world.context);
@@ -73,8 +68,7 @@ TEST(SingleEdits, DeletedFlightsLeaveTheListAndStayInThePlan) {
     SearchFlights(world.context, "", "", SearchMode::Fields);
     EXPECT_EQ(world.form.lvExPreview.Count(), 0);
     ASSERT_TRUE(world.Press(world.form.mnuToolsUndo));
-    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 N2 N3 N4 N5 N6 ")
-        << "all deletions are one step";
+    EXPECT_EQ(world.Tails(), "N0 N1 N2 N3 N4 N5 N6 ") << "all deletions are one step";
 }
 
 TEST(SingleEdits, TheRemainderIsWhatWasNotFound) {
@@ -103,7 +97,7 @@ TEST(SingleEdits, AnEditedFlightGoesBackToItsPlace) {
     world.EditorSays("D-NEW");
     Event doubleClick{&world.form, &world.form.lvExPreview, EventKind::DoubleClick, 2};
     ASSERT_TRUE(world.program.pump.Deliver(doubleClick));
-    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 D-NEW N3 N4 N5 N6 ");
+    EXPECT_EQ(world.Tails(), "N0 N1 D-NEW N3 N4 N5 N6 ");
     EXPECT_EQ(world.form.lvExPreview.Text(2, 3), "D-NEW");
     EXPECT_TRUE(world.session.plan.PlanModified);
     EXPECT_TRUE(world.form.enabled);
@@ -125,7 +119,7 @@ TEST(SingleEdits, FlightsAreAddedToAnEmptyList) {
         world.world.messages.answers = {MessageAnswer::Yes};
         ASSERT_TRUE(world.Press(world.form.cmdDeleteFlight));
     }
-    EXPECT_EQ(world.Tails(world.session.plan.Flights), "N0 N1 N2 N3 N4 N5 N6 D-ONE- D-TWO- ");
+    EXPECT_EQ(world.Tails(), "N0 N1 N2 N3 N4 N5 N6 D-ONE- D-TWO- ");
     world.world.windows.paths = {"/plan/Out.txt", "/plan/Next.txt"};
     ExportFlights(world.context);
     EXPECT_EQ(world.Said(), "Successfully exported 0 flights.");

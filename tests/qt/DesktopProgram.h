@@ -154,22 +154,33 @@ struct DesktopProgram {
         return dynamic_cast<Widget&>(WidgetOf(control));
     }
 
-    // By way of the system's window, as a real mouse and keyboard do.
-    static void ClickAt(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,
-                        Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    // By way of the system's window, as a real mouse and keyboard do, and then what they cause runs. Within
+    // an operation it waits until the operation lets events run.
+    void ClickAt(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,
+                 Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QWidget* window = widget.window();
         QTest::mouseClick(window->windowHandle(), button, keys, widget.mapTo(window, place));
+        LetRun();
     }
-    static void Click(const Control& control) {
+    void Click(const Control& control) {
         auto& widget = Find<QWidget>(control);
         // Left, where the marks of boxes are.
         ClickAt(widget, QPoint(8, widget.height() / 2));
     }
-    static void Key(const Form& of, Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    void Key(const Form& of, Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QTest::keyClick(WindowOf(of).windowHandle(), key, keys);
+        LetRun();
     }
-    static void Type(const Form& of, std::string_view text) {
-        for (const char character : text) QTest::keyClick(WindowOf(of).windowHandle(), character);
+    void Type(const Form& of, std::string_view text) {
+        TypeText(WindowOf(of), std::string(text));
+        LetRun();
+    }
+    void Close(const Form& of) {
+        WindowOf(of).close();
+        LetRun();
+    }
+    void LetRun() const {
+        if (!program.pump.OperationRuns()) Settle();
     }
     void Focus(Control& control) {
         Find<QWidget>(control).setFocus();

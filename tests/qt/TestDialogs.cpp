@@ -18,7 +18,6 @@
 namespace orlo {
 namespace {
 
-using test::DesktopProgram;
 using Dialogs = test::DesktopTest;
 using test::InDialog;
 using test::SampleForm;
@@ -70,10 +69,6 @@ TEST_F(Dialogs, AFileDialogOpensWhereItIsToldElseWhereTheLastOfItsKindEnded) {
 
 TEST_F(Dialogs, ASaveDialogAsksAboutANameThatDiffersOnlyInCase) {
     const Folders folders;
-    const std::string path = folders.Path("exports/Plan.txt");
-    QFile file(QString::fromStdString(path));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
     FileDialog dialog;
     dialog.overwritePrompt = true;
     for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
@@ -86,11 +81,11 @@ TEST_F(Dialogs, ASaveDialogAsksAboutANameThatDiffersOnlyInCase) {
                     InDialog<QFileDialog>([](QFileDialog& again) { again.reject(); });
                 box.button(answer)->click();
             });
-            test::Choose(shown, folders.Path("exports/PLAN.TXT"));
+            test::Choose(shown, folders.Path("exports/FILE.TXT"));
         });
         const std::string chosen = desktop.host.ShowSaveDialog(dialog);
         EXPECT_TRUE(asked);
-        EXPECT_EQ(chosen, answer == QMessageBox::Yes ? folders.Path("exports/PLAN.TXT") : "");
+        EXPECT_EQ(chosen, answer == QMessageBox::Yes ? folders.Path("exports/FILE.TXT") : "");
     }
 }
 
@@ -181,13 +176,11 @@ TEST_F(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
         context.services.windows.ShowModal(dialog, &form);
     };
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_TRUE(QTest::qWaitFor([&] { return open && !dialog.visible; }, 5000));
     EXPECT_EQ(desktop.program.pump.Windows().TopModal(), nullptr);
     EXPECT_FALSE(desktop.program.pump.OperationRuns());
     form.ran.clear();
     desktop.Click(form.ckSwitch);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("Click ckSwitch"), 1);
 }
 

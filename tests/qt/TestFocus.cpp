@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QTabBar>
 
 #include "qt/DesktopProgram.h"
@@ -25,22 +24,14 @@ struct Way {
     const char* event;  // that it causes where the field lets go
 };
 
-const std::vector<Way>& WaysOut() {
-    static const std::vector<Way> kWays = {
+TEST(Leaving, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
+    const std::vector<Way> ways = {
         {"a click on a button", [](DesktopProgram& d) { d.Click(d.form.cmdGo); }, "Click cmdGo"},
         {"a click on a check box", [](DesktopProgram& d) { d.Click(d.form.ckSwitch); }, "Click ckSwitch"},
         {"a click on an option", [](DesktopProgram& d) { d.Click(d.form.opSecond); }, "Click opSecond"},
-        {"a click on a list's header",
-         [](DesktopProgram& d) {
-             auto& list = d.Find<QWidget>(d.form.lvRows);
-             d.ClickAt(list, QPoint(20, 10));
-         },
+        {"a click on a list's header", [](DesktopProgram& d) { test::ClickColumn(d.form.lvRows, 0); },
          "ClickColumn lvRows"},
-        {"a click on another tab",
-         [](DesktopProgram& d) {
-             auto& tabs = d.Find<QTabBar>(d.form.tabViews);
-             d.ClickAt(tabs, tabs.tabRect(1).center());
-         },
+        {"a click on another tab", [](DesktopProgram& d) { test::ClickTab(d.form.tabViews, 1); },
          "SelectTab tabViews"},
         {"the tab key", [](DesktopProgram& d) { d.Key(d.form, Qt::Key_Tab); }, nullptr},
         {"the tab key backwards",
@@ -53,11 +44,7 @@ const std::vector<Way>& WaysOut() {
          },
          "Click cmdGo"},
     };
-    return kWays;
-}
-
-TEST(Leaving, ARefusedLeaveKeepsTheFocusAndDropsWhatCausedIt) {
-    for (const Way& way : WaysOut()) {
+    for (const Way& way : ways) {
         SCOPED_TRACE(way.name);
         DesktopProgram desktop;
         SampleForm& form = desktop.form;
@@ -131,13 +118,11 @@ TEST_F(Focus, ALeaveMayShowItsMessageAndTheNextClickWorks) {
     };
     desktop.Focus(form.txtName);
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.ran, std::vector<std::string>{"Leave txtName"});
     EXPECT_EQ(form.focus, &form.txtName);
     form.txtName.text = "5";
     form.ran.clear();
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("Leave txtName"), 1);
 }
 

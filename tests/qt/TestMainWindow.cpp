@@ -6,9 +6,11 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <filesystem>
+#include <fstream>
 
 #include "qt/DesktopProgram.h"
 #include "qt/RealProgram.h"
+#include "shell/OpenPlan.h"
 
 namespace orlo {
 namespace {
@@ -45,26 +47,17 @@ TEST(MainWindow, TheCloseBoxEndsTheProgramAndStoresThePlaceOfTheWindow) {
 }
 
 TEST(MainWindow, TheSplashStandsInTheMiddleAndGoesByAnyKey) {
-    struct Closing {
-        const char* name;
-        std::function<void(StartedProgram&)> act;
-    };
-    const std::vector<Closing> ways = {
-        {"a letter", [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_X); }},
-        {"Alt and a key",
-         [](StartedProgram& d) { DesktopProgram::Key(d.splash, Qt::Key_F, Qt::AltModifier); }},
-    };
-    for (const Closing& way : ways) {
-        SCOPED_TRACE(way.name);
+    for (const char* keys : {"X", "Alt+F"}) {
+        SCOPED_TRACE(keys);
         StartedProgram desktop;
         ASSERT_TRUE(desktop.splash.visible);
-        const FormWindow& window = DesktopProgram::WindowOf(desktop.splash);
+        FormWindow& window = DesktopProgram::WindowOf(desktop.splash);
         EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
         EXPECT_NEAR(window.windowOpacity(), 192 / 255.0, 0.01);
         const QPoint off =
             window.geometry().center() - DesktopProgram::WindowOf(desktop.form).geometry().center();
         EXPECT_LE(off.manhattanLength(), 4);
-        way.act(desktop);
+        test::PressKeys(window, keys);
         DesktopProgram::Settle();
         EXPECT_FALSE(desktop.splash.visible);
         EXPECT_FALSE(desktop.host.TimerArmed(kSplashTimer));
@@ -102,6 +95,36 @@ TEST(MainWindow, TheTitleTellsThePlanAndWhetherItIsChanged) {
     EXPECT_EQ(title(nullptr, EventKind::DropFile, alone), "Orlo");
     EXPECT_EQ(desktop.form.caption, "Orlo");
     for (const std::string& file : {plan, plan + ".orlo.bak"}) std::filesystem::remove(file);
+}
+
+TEST(MainWindow, EmptyViewsSayHowToBeginUntilAPlanWasOpened) {
+    StartedProgram real;
+    real.program.session.switches.ACCheck = false;  // asks nothing
+    const std::string empty = JoinPath(WorldOnce(), "Plan/Empty.txt");
+    std::ofstream(empty) << "no flight\r\n";
+    const auto hints = [&] {
+        for (Picture* pane :
+             {&real.form.picShuffle, &real.form.picMove, &real.form.picExport, &real.form.picTimetable})
+            pane->visible = true;
+        real.host.CatchUp(DesktopProgram::WindowOf(real.form));
+        int count = 0;
+        for (const Control* control :
+             std::initializer_list<const Control*>{&real.form.tvShuffleAircraft, &real.form.tvMoveAircrafts,
+                                                   &real.form.lvExPreview, &real.form.lvTimetable}) {
+            const QString told = DesktopProgram::Find<QWidget>(*control).accessibleDescription();
+            if (control->EffectivelyVisible() && told.startsWith("Open a flightplan")) ++count;
+        }
+        return count;
+    };
+    EXPECT_EQ(hints(), 4);
+    OpenFlightplan(real.program.context, empty);
+    EXPECT_EQ(hints(), 2) << "the trees stay hidden";
+    OpenFlightplan(real.program.context, JoinPath(WorldOnce(), "Plan/FlightPlans.txt"));
+    ASSERT_TRUE(real.program.session.plan.PlanLoaded);
+    EXPECT_EQ(hints(), 0);
+    OpenFlightplan(real.program.context, empty);
+    EXPECT_EQ(hints(), 0) << "they don't come back";
+    EXPECT_FALSE(real.form.lvProject.emptyHint.empty());
 }
 
 // A dialog that the splash owned would go with it.

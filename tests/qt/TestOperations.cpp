@@ -13,7 +13,6 @@
 namespace orlo {
 namespace {
 
-using test::DesktopProgram;
 using Operations = test::DesktopTest;
 using test::SampleForm;
 
@@ -25,41 +24,43 @@ void Later(std::function<void()> act) {
 TEST_F(Operations, WhatTheUserDoesWhileEventsRunIsDroppedTheCloseBoxIncluded) {
     form.on["Click cmdGo"] = [&](Context& context, Event&) {
         form.enabled = false;
+        desktop.Type(form, "lost");
         context.services.windows.ProcessEvents();
         desktop.Click(form.cmdStop);
         desktop.Click(form.ckSwitch);
-        desktop.WindowOf(form).close();
+        desktop.Close(form);
         desktop.Find<QCheckBox>(form.ckSwitch).click();
         context.services.windows.ProcessEvents();
         form.enabled = true;
         // Not disabled, and yet an operation runs.
         desktop.Click(form.cmdStop);
-        desktop.WindowOf(form).close();
+        desktop.Close(form);
         context.services.windows.ProcessEvents();
         // Not kept for afterwards.
         desktop.host.Post({&form, &form.cmdStop, EventKind::Click});
     };
-    desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
+    desktop.Focus(form.txtName);
+    desktop.Key(form, Qt::Key_Return);
     EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
-    EXPECT_EQ(form.focus, &form.cmdGo);
+    EXPECT_EQ(form.focus, &form.txtName);
+    EXPECT_EQ(form.txtName.text, "");
     EXPECT_FALSE(form.ckSwitch.checked);
     EXPECT_FALSE(desktop.Find<QCheckBox>(form.ckSwitch).isChecked());
+    desktop.Type(form, "kept");
+    EXPECT_EQ(form.txtName.text, "kept");
     desktop.Click(form.cmdStop);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("Click cmdStop"), 1);
 }
 
 TEST_F(Operations, ADisabledWindowStillClosesWhereNoOperationRuns) {
     form.enabled = false;
     desktop.Click(form.cmdGo);
-    desktop.WindowOf(form).close();
-    DesktopProgram::Settle();
+    desktop.Close(form);
     EXPECT_EQ(form.ran, std::vector<std::string>{"Close form"});
     // The procedure decides.
     EXPECT_TRUE(desktop.WindowOf(form).isVisible());
     form.on["Close form"] = [&](Context&, Event&) { form.closeRequest = true; };
-    Later([&] { desktop.WindowOf(form).close(); });
+    Later([&] { desktop.Close(form); });
     desktop.host.RunUntilClosed(form);
     EXPECT_EQ(form.Ran("Close form"), 2);
 }
@@ -79,10 +80,9 @@ TEST_F(Operations, AModalFormInsideAnOperationTakesItsEventsAlone) {
         form.enabled = false;
         Later([&] {
             desktop.Click(form.ckSwitch);
-            desktop.WindowOf(form).close();
+            desktop.Close(form);
             desktop.Type(dialog, "a");
             desktop.Click(dialog.cmdGo);
-            DesktopProgram::Settle();
             desktop.Key(dialog, Qt::Key_Escape);
         });
         context.services.windows.ShowModal(dialog, &form);
@@ -94,7 +94,6 @@ TEST_F(Operations, AModalFormInsideAnOperationTakesItsEventsAlone) {
         desktop.Click(form.cmdStop);
     };
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_TRUE(returned);
     EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
     EXPECT_EQ(dialog.ran, (std::vector<std::string>{"Click cmdGo", "Click ckSwitch", "Click cmdStop"}));
@@ -111,11 +110,10 @@ TEST_F(Operations, ModalFormsUnwindFromTheTop) {
         Later([&] {
             // Asked for while the other one stands above it.
             outer.closeRequest = true;
-            desktop.WindowOf(outer).close();
-            DesktopProgram::Settle();
+            desktop.Close(outer);
             closed.push_back("asked");
             // A form without a procedure for its close box closes by it.
-            desktop.WindowOf(inner).close();
+            desktop.Close(inner);
         });
         context.services.windows.ShowModal(inner, &outer);
         closed.push_back("inner");
@@ -126,39 +124,36 @@ TEST_F(Operations, ModalFormsUnwindFromTheTop) {
     EXPECT_EQ(closed, (std::vector<std::string>{"asked", "inner", "outer"}));
     EXPECT_EQ(outer.ran, std::vector<std::string>{"Click cmdGo"});
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("Click cmdGo"), 1);
 }
 
-TEST(Messages, AMessageAnswersAndTakesNoOtherEventsMeanwhile) {
+TEST_F(Operations, AMessageAnswersAndTakesNoOtherEventsMeanwhile) {
     struct Case {
         int flags;
-        QMessageBox::StandardButton press, standard;
+        QMessageBox::StandardButton press, standard;  // the first whatever the desktop's order
         MessageAnswer answer;
     };
     for (const Case& which : std::initializer_list<Case>{
              {kButtonsYesNo | kDefaultSecondButton, QMessageBox::Yes, QMessageBox::No, MessageAnswer::Yes},
-             {kButtonsYesNoCancel, QMessageBox::Cancel, QMessageBox::Yes, MessageAnswer::Cancel}}) {
-        DesktopProgram desktop;
-        SampleForm& form = desktop.form;
+             {kButtonsYesNo, QMessageBox::No, QMessageBox::Yes, MessageAnswer::No},
+             {kButtonsYesNoCancel, QMessageBox::Cancel, QMessageBox::Yes, MessageAnswer::Cancel},
+             {kButtonsOk, QMessageBox::Ok, QMessageBox::Ok, MessageAnswer::Ok}}) {
         MessageAnswer answer = MessageAnswer::None;
         form.on["Click cmdGo"] = [&](Context& context, Event&) {
-            Later([&] {
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                ASSERT_NE(box, nullptr);
-                EXPECT_EQ(box->focusWidget(), box->button(which.standard));
+            test::InDialog<QMessageBox>([&](QMessageBox& box) {
+                EXPECT_EQ(box.focusWidget(), box.button(which.standard));
+                EXPECT_EQ(box.defaultButton(), box.button(which.standard));
                 desktop.Click(form.ckSwitch);
-                desktop.WindowOf(form).close();
-                box->button(which.press)->click();
+                desktop.Close(form);
+                box.button(which.press)->click();
             });
             answer = context.services.messages.ShowMessage("Text & more", which.flags, "Orlo", &form);
         };
         desktop.Click(form.cmdGo);
-        QTest::qWait(150);
         EXPECT_EQ(answer, which.answer);
-        EXPECT_EQ(form.ran, std::vector<std::string>{"Click cmdGo"});
-        EXPECT_EQ(desktop.host.ShowMessage("  ", kMarkCritical, "Orlo", nullptr), MessageAnswer::None);
     }
+    EXPECT_EQ(form.ran, std::vector<std::string>(4, "Click cmdGo"));
+    EXPECT_EQ(desktop.host.ShowMessage("  ", kMarkCritical, "Orlo", nullptr), MessageAnswer::None);
 }
 
 TEST_F(Operations, ProgressIsDrawnWhileAnOperationRunsAndTimersFire) {
@@ -188,7 +183,6 @@ TEST_F(Operations, ProgressIsDrawnWhileAnOperationRunsAndTimersFire) {
         form.pointer = PointerShape::Normal;
     };
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     EXPECT_EQ(seen, (std::vector<std::string>{"Reading...2", "Reading...3"}));
     EXPECT_EQ(desktop.WindowOf(form).findChild<QWidget*>("frmProgress"), nullptr);
     EXPECT_EQ(desktop.WindowOf(form).cursor().shape(), Qt::ArrowCursor);
@@ -242,9 +236,7 @@ TEST_F(Operations, AFailureLeavesTheFormUsable) {
         throw std::bad_alloc();
     };
     desktop.Click(form.cmdGo);
-    DesktopProgram::Settle();
     desktop.Click(form.ckSwitch);
-    DesktopProgram::Settle();
     EXPECT_TRUE(form.ckSwitch.checked);
     EXPECT_EQ(desktop.program.forms.frmMain.sbMain.text, "The operation ended early: not enough memory.");
 }

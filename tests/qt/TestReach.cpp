@@ -2,8 +2,6 @@
 
 #include <QAccessible>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include "desktop/ScreenPlace.h"
 #include "desktop/ScreenText.h"
@@ -13,28 +11,22 @@ namespace orlo {
 namespace {
 
 using test::DesktopProgram;
-using test::SampleForm;
+using Reach = test::DesktopTest;
 
-TEST(Reach, ABlankIsAPartOfANameThatIsBeingTypedAndElseACheckMark) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Reach, ABlankIsAPartOfANameThatIsBeingTypedAndElseACheckMark) {
     form.tvNodes.Add(-1, "#A", "Air Cargo", Colour::WindowText);
     form.tvNodes.Add(-1, "#B", "Air Dune", Colour::WindowText);
     desktop.CatchUp();
     desktop.Focus(form.tvNodes);
     desktop.Type(form, "air d");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.tvNodes.At(form.tvNodes.current).text, "Air Dune");
     EXPECT_EQ(form.Ran("CheckNode tvNodes"), 0);
     QTest::qWait(QApplication::keyboardInputInterval() + 50);
     desktop.Type(form, " ");
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("CheckNode tvNodes"), 1);
 }
 
-TEST(Reach, AListIsUsedByKeysAlone) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Reach, AListIsUsedByKeysAlone) {
     for (const char* name : {"b", "a", "c"}) form.lvRows.Add({"", "", "", Colour::WindowText, {name, ""}});
     form.on["Popup lvRows"] = [&](Context&, Event& event) { event.menu = &form.mnuSelect; };
     std::int32_t column = -1;
@@ -42,28 +34,23 @@ TEST(Reach, AListIsUsedByKeysAlone) {
     desktop.CatchUp();
     desktop.Focus(form.lvRows);
     desktop.Key(form, Qt::Key_End);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.lvRows.current, 2);
     EXPECT_EQ(form.lvRows.SelectedPlaces(), std::vector{2});
     desktop.Key(form, Qt::Key_Right);
     desktop.Key(form, Qt::Key_F3);
-    DesktopProgram::Settle();
     EXPECT_EQ(column, 1);
     // The column stays when the rows are drawn anew.
     form.lvRows.SortByColumn(0);
     desktop.CatchUp();
     desktop.Key(form, Qt::Key_F3);
-    DesktopProgram::Settle();
     EXPECT_EQ(column, 1);
     EXPECT_EQ(form.Ran("ClickColumn lvRows"), 2);
 
     // Of the keys with another held none is a command.
     desktop.Key(form, Qt::Key_Insert, Qt::ControlModifier);
     desktop.Key(form, Qt::Key_Delete, Qt::ShiftModifier);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("KeyUp lvRows"), 0);
     desktop.Key(form, Qt::Key_Delete);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.Ran("KeyUp lvRows"), 1);
     // A quick hand presses the next key before it lets go of the last.
     QWindow* window = DesktopProgram::WindowOf(form).windowHandle();
@@ -85,9 +72,7 @@ TEST(Reach, AListIsUsedByKeysAlone) {
     EXPECT_TRUE(desktop.WindowOf(form).findChild<QMenu*>("mnuSelectMenu")->isVisible());
 }
 
-TEST(Reach, AMenuOfTheBarGoesBeforeAControlOfTheSameLetter) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Reach, AMenuOfTheBarGoesBeforeAControlOfTheSameLetter) {
     form.mnuFile.caption = "&Gone";
     desktop.CatchUp();
     desktop.Key(form, Qt::Key_G, Qt::AltModifier);
@@ -96,37 +81,26 @@ TEST(Reach, AMenuOfTheBarGoesBeforeAControlOfTheSameLetter) {
     EXPECT_EQ(form.Ran("Click cmdGo"), 0);
 }
 
-TEST(Reach, KeysAndAClickOnTheShownTabSelectTabs) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
-    const struct {
-        Qt::Key key;
-        const char* tab;
-    } kSteps[] = {
-        {Qt::Key_PageDown, "TWO"}, {Qt::Key_PageDown, "ONE"}, {Qt::Key_PageUp, "TWO"}, {Qt::Key_Tab, "ONE"}};
+TEST_F(Reach, KeysAndAClickOnTheShownTabSelectTabs) {
     desktop.Focus(form.txtName);
-    for (const auto& step : kSteps) {
-        desktop.Key(form, step.key, Qt::ControlModifier);
-        DesktopProgram::Settle();
-        EXPECT_EQ(form.tabViews.selectedKey, step.tab);
+    for (const auto& [key, tab] : {std::pair(Qt::Key_PageDown, "TWO"), std::pair(Qt::Key_PageDown, "ONE"),
+                                   std::pair(Qt::Key_PageUp, "TWO"), std::pair(Qt::Key_Tab, "ONE")}) {
+        desktop.Key(form, key, Qt::ControlModifier);
+        EXPECT_EQ(form.tabViews.selectedKey, tab);
     }
     EXPECT_EQ(form.Ran("SelectTab tabViews"), 4);
     // A field that refuses to be left keeps its tab.
     form.on["Leave txtName"] = [](Context&, Event& event) { event.refused = true; };
     desktop.Focus(form.txtName);
     desktop.Key(form, Qt::Key_PageDown, Qt::ControlModifier);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.tabViews.selectedKey, "ONE");
     form.on.clear();
     desktop.Click(form.tabViews);
-    DesktopProgram::Settle();
     EXPECT_EQ(form.tabViews.selectedKey, "ONE");
     EXPECT_EQ(form.Ran("SelectTab tabViews"), 5);
 }
 
-TEST(Reach, WhatAScreenReaderWritesStandsInTheForm) {
-    DesktopProgram desktop;
-    SampleForm& form = desktop.form;
+TEST_F(Reach, WhatAScreenReaderWritesStandsInTheForm) {
     QAccessibleInterface* field = QAccessible::queryAccessibleInterface(&desktop.Find<QWidget>(form.txtName));
     ASSERT_NE(field, nullptr);
     field->setText(QAccessible::Value, "spoken");
@@ -135,25 +109,7 @@ TEST(Reach, WhatAScreenReaderWritesStandsInTheForm) {
     EXPECT_EQ(form.Ran("Change txtName"), 1);
 }
 
-TEST(Reach, TheFirstButtonIsTheDefaultWhateverTheDesktopsOrder) {
-    const struct {
-        int flags;
-        QMessageBox::StandardButton expected;
-    } kCases[] = {{kButtonsYesNoCancel, QMessageBox::Yes},
-                  {kButtonsYesNo, QMessageBox::Yes},
-                  {kButtonsYesNo | kDefaultSecondButton, QMessageBox::No},
-                  {kButtonsOk, QMessageBox::Ok}};
-    DesktopProgram desktop;
-    for (const auto& one : kCases) {
-        test::InDialog<QMessageBox>([&](QMessageBox& box) {
-            EXPECT_EQ(box.standardButton(box.defaultButton()), one.expected);
-            box.accept();
-        });
-        desktop.host.ShowMessage("text", one.flags, "Orlo", &desktop.form);
-    }
-}
-
-TEST(Reach, ALongTextIsCutWithinNoCharacterAndNoTextIsMarkup) {
+TEST(OnScreen, ALongTextIsCutWithinNoCharacterAndNoTextIsMarkup) {
     std::string text(999, 'x');
     text.append("\xC3\xA9").append(1000000, 'y');
     EXPECT_EQ(ShownText(text), QString(999, 'x') + QChar(0x2026));
@@ -162,7 +118,7 @@ TEST(Reach, ALongTextIsCutWithinNoCharacterAndNoTextIsMarkup) {
     EXPECT_EQ(TipText("<b>a</b>\nb"), "<span>&lt;b&gt;a&lt;/b&gt;<br>b</span>");
 }
 
-TEST(Reach, AWindowIsPutWhereItsTitleBarCanBeSeen) {
+TEST(OnScreen, AWindowIsPutWhereItsTitleBarCanBeSeen) {
     QWidget window;
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize least(100, 80);

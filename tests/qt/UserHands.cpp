@@ -104,20 +104,17 @@ QModelIndex IndexOf(const TreeView& tree, std::int32_t node) {
     return index;
 }
 
-std::string RowSeen(const QAbstractItemModel& model, int row) {
-    std::string line;
-    for (int column = 0; column < model.columnCount(); ++column) {
-        const QVariant cell =
-            row < 0 ? model.headerData(column, Qt::Horizontal) : model.data(model.index(row, column));
-        line.append(Concat(column == 0 ? "" : "\t", cell.toString().toStdString()));
-    }
-    return line.append("\n");
-}
-
 std::string ListSeen(const ListView& list) {
     const QAbstractItemModel& model = *As<QTableView>(list).model();
     std::string text;
-    for (int row = -1; row < model.rowCount(); ++row) text.append(RowSeen(model, row));
+    for (int row = -1; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QVariant cell =
+                row < 0 ? model.headerData(column, Qt::Horizontal) : model.data(model.index(row, column));
+            text.append(column == 0 ? "" : "\t").append(cell.toString().toStdString());
+        }
+        text.append("\n");
+    }
     return text;
 }
 

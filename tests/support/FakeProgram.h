@@ -3,6 +3,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "core/FlightplanFile.h"
@@ -31,6 +32,15 @@ struct FakeProgram : FakeProgramParts, UserHands {
 
     void AddFlight(std::string_view line) {
         if (!AppendFlightplanLine(line, session.plan.Flights)) throw std::runtime_error(std::string(line));
+    }
+    // An aircraft that may fly at any level and over any distance.
+    FSAircraft& AddInstalled(std::string_view title) {
+        FSAircraft& aircraft = session.fleet.FSAircrafts.emplace_back();
+        aircraft.Title = title;
+        aircraft.MinFL = aircraft.MinRange = 0;
+        aircraft.MaxFL = 999;
+        aircraft.MaxRange = 9999;
+        return aircraft;
     }
     void AddPlanAirport(const std::string& code, std::string latitude, std::string longitude) {
         session.plan.PlanAirportIndex.Add(code, session.plan.PlanAirportCount());

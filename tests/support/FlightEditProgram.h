@@ -24,13 +24,10 @@ struct FlightEditProgram : FakeProgram {
         AddPlanAirport("BBBB", "N0* 00.00'", "E5* 00.00'");
         AddPlanAirport("CCCC", "N0* 00.00'", "E10* 00.00'");
         session.plan.PlanAircrafts = {{"AC#1", "Jet (fast)", "300"}, {"AC#2", "Glider", "100"}};
-        FSAircraft jet;
-        jet.Title = "JET (FAST)";
-        jet.MinRange = 300;
-        jet.MaxRange = 300;
+        FSAircraft& jet = AddInstalled("JET (FAST)");
+        jet.MinRange = jet.MaxRange = 300;
         jet.MinFL = 50;
         jet.MaxFL = 400;
-        session.fleet.FSAircrafts = {jet};
         session.rules.FlightLevelRules = {{0, 9999, 0, 179, 50, 250, 20}, {0, 9999, 180, 359, 60, 260, 20}};
         session.switches.TATime = session.switches.MaxTATime = kNoTurnAroundLimit;
     }
