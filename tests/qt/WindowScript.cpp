@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -264,6 +266,7 @@ void WindowScript::AnswerDialog() {
     modal->setProperty(kAnswered, true);
     if (auto* box = qobject_cast<QMessageBox*>(modal)) AnswerMessage(*box);
     if (auto* dialog = qobject_cast<QFileDialog*>(modal)) AnswerFileDialog(*dialog);
+    if (auto* dialog = qobject_cast<QInputDialog*>(modal)) AnswerInput(*dialog);
 }
 
 // By the mnemonic of the button, or Escape.
@@ -303,6 +306,19 @@ void WindowScript::AnswerFileDialog(QFileDialog& dialog) {
         name->setText(full.chopped(1));
         TypeText(dialog, full.right(1).toStdString());
     }
+    PressKeys(dialog, "Return");
+}
+
+void WindowScript::AnswerInput(QInputDialog& dialog) {
+    auto& inputs = host_.answers.inputs;
+    std::optional<std::string> text;
+    if (!inputs.empty()) {
+        text = inputs.front();
+        inputs.pop_front();
+    }
+    host_.said << InputLine(FromQString(dialog.windowTitle()), FromQString(dialog.labelText()), text);
+    if (!text) return PressKeys(dialog, "Esc");
+    dialog.setTextValue(ToQString(*text));
     PressKeys(dialog, "Return");
 }
 

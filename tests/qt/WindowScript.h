@@ -12,6 +12,7 @@
 #include "qt/UserHands.h"
 
 class QFileDialog;
+class QInputDialog;
 class QMessageBox;
 
 namespace orlo::test {
@@ -93,6 +94,7 @@ class WindowScript : public QObject, private ScriptActs {
     void AnswerDialog();
     void AnswerMessage(QMessageBox& box);
     void AnswerFileDialog(QFileDialog& dialog);
+    void AnswerInput(QInputDialog& dialog);
 
     RealProgram& real_;
     ScriptHost& host_;
