@@ -57,11 +57,10 @@ void AppendClockTime(std::int64_t seconds, std::string& out) {
 
 std::optional<WeekTime> ParseWeekTime(std::string_view text) {
     const SplitTime split = SplitDayPrefix(text);
-    if (split.Prefix.empty()) return std::nullopt;
-    const auto day = ParseWholeNumber(split.Prefix.substr(0, split.Prefix.size() - 1));
     const auto seconds = ParseClockTime(split.Clock);
-    if (!day || *day < 0 || *day > 6 || !seconds) return std::nullopt;
-    return WeekTime{*day, *seconds};
+    if (split.Prefix.size() != 2 || split.Prefix[0] < '0' || split.Prefix[0] > '6' || !seconds)
+        return std::nullopt;
+    return WeekTime{split.Prefix[0] - '0', *seconds};
 }
 
 std::string FormatWeekTime(const WeekTime& time) {

@@ -16,9 +16,8 @@ struct InitialisationDialect {
         Trimmed,
         // The name ends at the last "]" and counts as it stands. Without a "]" the line may be a value.
         Whole,
-        // Only a line that also ends in "]" opens a section, whose name stands between them without blanks
-        // and
-        // tabs around it. Any other line may be a value, one in front of whose name a "[" stands, too.
+        // Only a line that also ends in "]" opens a section; its name has no blanks and tabs around it. Any
+        // other line may be a value, even one that starts with "[".
         Closed,
     };
     enum class Quotes {

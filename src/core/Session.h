@@ -10,6 +10,7 @@
 #include "core/AirportRecord.h"
 #include "core/FlightList.h"
 #include "core/Plan.h"
+#include "core/ProjectRecords.h"
 #include "core/RuleRecords.h"
 #include "core/Switches.h"
 
@@ -57,11 +58,22 @@ struct SearchState {
     std::int32_t SearchResultCount = 0;
 };
 
+// Plans that belong together; paths alone, no flights.
 struct ProjectState {
-    std::string ProjectPath;
-    bool ProjectBegun = false;  // a project was begun or opened since the start
+    std::string ProjectPath;                   // empty until it is saved
+    std::string ProjectVersion = "1.1";        // of the file's format
+    std::vector<ProjectEntry> ProjectEntries;  // in the order in which they are merged
+    bool ProjectBegun = false;                 // a project was begun or opened since the start
     bool ProjectLoaded = false;
     bool ProjectModified = false;
+
+    std::int32_t ProjectEntryCount() const { return static_cast<std::int32_t>(ProjectEntries.size()); }
+};
+
+// The outside tool that runs, such as the traffic compiler.
+struct ToolState {
+    std::string Running;          // its file's name; empty where none runs
+    bool CloseRequested = false;  // the user has pressed the main window's close box since it was asked last
 };
 
 // The state of the running program.
@@ -74,6 +86,7 @@ struct Session {
     ShuffleState shuffle;
     SearchState search;
     ProjectState project;
+    ToolState tool;
 
     std::string ProgramFolder;
     std::string SimulatorFolder;                   // chosen by the user; empty: the machine's setting holds

@@ -24,4 +24,8 @@ void ClearPlanHints(MainForm& form) {
     SetPlanHints(form, {});
 }
 
+void ClearProjectHint(MainForm& form) {
+    form.lvProject.emptyHint.clear();
+}
+
 }  // namespace orlo

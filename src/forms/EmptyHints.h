@@ -9,4 +9,7 @@ void SetEmptyHints(MainForm& form);
 // Takes them from all that show a plan, for good: from now on such a list is empty for another reason.
 void ClearPlanHints(MainForm& form);
 
+// Once a project was begun or opened.
+void ClearProjectHint(MainForm& form);
+
 }  // namespace orlo

@@ -1,5 +1,6 @@
 #include "operations/EditFlights.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "core/Application.h"
@@ -96,6 +97,17 @@ void EditFlight(Context& context) {
     list.SourceChanged();
     ResetTimetableView(context);
     MarkPlanModified(context);
+}
+
+void RefreshSearchResult(Context& context, std::int32_t flightPlace) {
+    Session& session = context.session;
+    const auto end = session.search.SearchResultIndex.begin() + session.search.SearchResultCount;
+    const auto found = std::lower_bound(session.search.SearchResultIndex.begin(), end, flightPlace);
+    if (found == end || *found != flightPlace) return;
+    const auto place = static_cast<std::int32_t>(found - session.search.SearchResultIndex.begin());
+    session.search.SearchResults.Replace(place, session.plan.Flights.Unpack(flightPlace));
+    ShowResult(context, place);
+    context.forms.frmMain.lvExPreview.SourceChanged();
 }
 
 void AddFlight(Context& context) {

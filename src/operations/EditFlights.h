@@ -19,4 +19,8 @@ void AddFlight(Context& context);
 // in the search state.
 void DeleteFlights(Context& context);
 
+// After the flight at that place of the plan was changed elsewhere: a search result of it follows, in the
+// list too.
+void RefreshSearchResult(Context& context, std::int32_t flightPlace);
+
 }  // namespace orlo

@@ -58,7 +58,10 @@ void ShowTimetableStatistics(Context& context) {
     const MainForm& main = context.forms.frmMain;
     TTStatisticsForm& form = context.forms.frmTTStatistics;
     if (main.lvTimetable.Source() == nullptr) return;
-    form.txtInfo.text = StatisticsReport(CountRows(context), HeadOf(main));
+    {
+        const BusyForm busy(context, context.forms.frmMain);
+        form.txtInfo.text = StatisticsReport(CountRows(context), HeadOf(main));
+    }
     form.SetFocus(form.txtInfo);
     context.services.windows.ShowModal(form, &context.forms.frmMain);
 }

@@ -1,5 +1,6 @@
 #include "operations/Timetable.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,7 @@
 #include "mainwindow/PlanChange.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
+#include "operations/EditFlights.h"
 #include "operations/TimetableEvents.h"
 #include "operations/TimetableText.h"
 
@@ -61,12 +63,12 @@ void ShowTimetable(Context& context) {
     const BusyForm busy(context, context.forms.frmMain);
     MainForm& form = context.forms.frmMain;
     ListView& list = form.lvTimetable;
+    std::shared_ptr<TimetableRows> rows;
+    if (const auto filter = ReadFilter(form))
+        rows = FindTimetableEvents(context.session.plan, context.session.fleet, *filter);
     list.SwitchSorting(false);
     list.Clear();
-    if (const auto filter = ReadFilter(form)) {
-        const auto rows = FindTimetableEvents(context.session.plan, context.session.fleet, *filter);
-        list.ShowSource(rows, rows->Count());
-    }
+    if (rows != nullptr) list.ShowSource(rows, rows->Count());
     list.SwitchSorting(true);
     form.lblTTPreview.caption = Concat("Previe&w (", list.Count(), " flights found)");
     list.SelectCurrentOnly();
@@ -123,7 +125,9 @@ void EditTimetableFlight(Context& context) {
     const TimetableRows* rows = RowsOf(form);
     if (rows == nullptr || row < 0) return;
     TakeFirstUndoSnapshot(context);
-    if (EditFlight(context, rows->FlightPlace(row), false, rows->LegPlace(row)).empty()) return;
+    const std::int32_t flight = rows->FlightPlace(row);
+    if (EditFlight(context, flight, false, rows->LegPlace(row)).empty()) return;
+    RefreshSearchResult(context, flight);
     MarkPlanModified(context);
 }
 

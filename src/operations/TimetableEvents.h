@@ -27,7 +27,7 @@ struct TimetableFilter {
 };
 
 // How often a flight of a period such as "8Hr" flies in a day: 24 / hours, rounded with halves to even. Never
-// for a period without a number of hours or with 0.
+// for a period without a number of hours, with 0 or less, and with 48 or more.
 struct DailyRepeat {
     std::int32_t hours = 0;
     std::int32_t count = 0;

@@ -8,6 +8,7 @@
 
 #include "services/Clock.h"
 #include "services/FileSystem.h"
+#include "services/ProcessService.h"
 #include "services/SettingsStore.h"
 
 namespace orlo {
@@ -17,6 +18,7 @@ namespace orlo {
 
 std::unique_ptr<FileSystem> MakeFileSystem();
 std::unique_ptr<Clock> MakeClock();
+std::unique_ptr<ProcessService> MakeProcesses();
 
 // The user's settings: the text file `path`, or without a path the system's own store. `files` has to outlive
 // them.

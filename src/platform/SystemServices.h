@@ -9,6 +9,7 @@
 #include "services/Clock.h"
 #include "services/FileSystem.h"
 #include "services/FrontEnd.h"
+#include "services/ProcessService.h"
 #include "services/Services.h"
 #include "services/SettingsStore.h"
 
@@ -29,10 +30,12 @@ struct SystemServices {
     std::unique_ptr<SettingsStore> machineSettings;
     SystemRandom random;
     std::unique_ptr<Clock> clock;
+    std::unique_ptr<ProcessService> processes;
 
     // All services. They hold while this and the front end live and no member is assigned anew.
     Services Behind(FrontEnd& frontEnd) {
-        return {*files, *userSettings, *machineSettings, frontEnd, frontEnd, frontEnd, random, *clock};
+        return {*files,   *userSettings, *machineSettings, frontEnd,  frontEnd,
+                frontEnd, random,        *clock,           *processes};
     }
 };
 

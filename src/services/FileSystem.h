@@ -57,6 +57,11 @@ class FileSystem {
     // The path from the root; a relative one counts from the working folder.
     virtual std::string FullPath(const std::string& path) = 0;
 
+    // A path of Windows, such as "C:\Plans\One.txt", as this system finds it: elsewhere than on Windows by
+    // the drives of the user's Wine prefix. Any other path, and one on a drive that isn't there, comes back
+    // as it is.
+    virtual std::string FromDrivePath(const std::string& path) { return path; }
+
     virtual bool FileExists(const std::string& path) = 0;  // anything but a folder
     virtual bool FolderExists(const std::string& path) = 0;
     virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder
@@ -73,6 +78,8 @@ class FileSystem {
     virtual std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) = 0;
 
     virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole
+    // Replaces `to`, which is spelled as given.
+    virtual bool RenameFile(const std::string& from, const std::string& to) = 0;
     virtual bool DeleteFile(const std::string& path) = 0;
     virtual bool CreateFolders(const std::string& path) = 0;  // with its parents; true when it stands
 

@@ -3,6 +3,7 @@
 #include "services/Clock.h"
 #include "services/FileSystem.h"
 #include "services/MessageHost.h"
+#include "services/ProcessService.h"
 #include "services/ProgressHost.h"
 #include "services/RandomSource.h"
 #include "services/SettingsStore.h"
@@ -20,6 +21,7 @@ struct Services {
     WindowHost& windows;
     RandomSource& random;
     Clock& clock;
+    ProcessService& processes;
 };
 
 }  // namespace orlo

@@ -55,12 +55,17 @@ bool EventPump::TakesInput(const Form& form) const {
     return top == &form || (top == nullptr && running_ == 0);
 }
 
+// Whether a close box is the main window's while the operation that runs waits for an outside tool.
+bool EventPump::MeansTool(const Event& close) const {
+    return close.form == &context_.forms.frmMain && !context_.session.tool.Running.empty();
+}
+
 bool EventPump::Accepts(const Event& event) const {
     if (event.kind == EventKind::Timer || event.kind == EventKind::Hover) return true;
     if (event.form == nullptr) return false;
     // A window has changed its size whether the user may use it or not.
     if (event.kind == EventKind::Resize) return windows_.IsOpen(*event.form);
-    if (event.kind == EventKind::Close && running_ == 0) {
+    if (event.kind == EventKind::Close && (running_ == 0 || MeansTool(event))) {
         // Also of a disabled form: one that was left disabled by mistake can still be closed.
         const Form* top = windows_.TopModal();
         return windows_.IsOpen(*event.form) && (top == nullptr || top == event.form);

@@ -25,8 +25,8 @@ struct OpenForms {
 // - its form isn't open, or stands under a modal one,
 // - its form or control is disabled, or
 // - an operation runs and no modal form is open.
-// Timers and Hover always run, Resize on any open form, and the close box of a disabled form where no
-// operation runs.
+// Timers and Hover always run, Resize on any open form, the close box of a disabled form where no operation
+// runs, and that of the main window while an operation waits for an outside tool.
 class EventPump {
   public:
     // Takes the event tables of all forms of the context, which must outlive this.
@@ -64,6 +64,7 @@ class EventPump {
     void LeaveModal(Form& form, int outer);
 
   private:
+    bool MeansTool(const Event& close) const;
     void Run(Event& event);
     void RecoverFromFailure(Form* shown, std::string_view reason);
 

@@ -24,9 +24,8 @@ std::string SystemInformationProgram(Context& context) {
 void OnSystemInformation(Context& context, Event&) {
     const std::string program = SystemInformationProgram(context);
     if (!program.empty() && context.services.files.FileExists(program) &&
-        context.services.windows.OpenDocument(program, ParentFolder(program))) {
+        context.services.processes.Start({program, "", ParentFolder(program), true}))
         return;
-    }
     ShowMessage(context.services.messages, "System Information Is Unavailable At This Time", kMarkExclamation,
                 &context.forms.frmAbout);
 }

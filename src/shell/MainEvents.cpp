@@ -6,6 +6,7 @@
 #include "shell/HelpMenu.h"
 #include "shell/OpenPlan.h"
 #include "shell/PaneFacts.h"
+#include "shell/ProjectTab.h"
 #include "shell/Shutdown.h"
 #include "shell/StartUp.h"
 #include "shell/Tabs.h"
@@ -18,7 +19,7 @@ constexpr std::string_view kProjectExtension = ".orp";
 // A plan can have any extension.
 void OpenDroppedFile(Context& context, Event& event) {
     if (EndsWithNoCase(event.path, kProjectExtension)) {
-        context.services.windows.ShowNotBuilt(context.forms.frmMain.mnuFileOpenProject.name);
+        OpenProjectAndShow(context, std::string(event.path));
     } else {
         OpenFlightplan(context, event.path);
     }
@@ -51,7 +52,10 @@ EventTable MainEvents() {
 }
 
 void CloseMainWindow(Context& context, Event& event) {
-    if (Shutdown(context)) {
+    if (ToolState& tool = context.session.tool; !tool.Running.empty()) {
+        tool.CloseRequested = true;
+        event.refused = true;
+    } else if (Shutdown(context)) {
         context.forms.frmMain.closeRequest = true;
     } else {
         event.refused = true;

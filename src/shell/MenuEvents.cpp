@@ -8,11 +8,14 @@
 #include "operations/CorrectFlightTimes.h"
 #include "operations/Randomise.h"
 #include "operations/RemoveMinus.h"
+#include "projects/CompilePlan.h"
+#include "projects/ProjectCommands.h"
 #include "shell/ExportTab.h"
 #include "shell/HelpMenu.h"
 #include "shell/MenuSwitches.h"
 #include "shell/OpenPlan.h"
 #include "shell/PaneFacts.h"
+#include "shell/ProjectTab.h"
 #include "shell/TreeEvents.h"
 
 namespace orlo {
@@ -32,6 +35,20 @@ void OpenRecentPlan(Context& context, Event&) {
     OpenFlightplan(context, context.session.RecentFlightplans[Place]);
 }
 
+void ChooseAndOpenProject(Context& context, Event&) {
+    OpenProjectAndShow(context, "");
+}
+
+template <std::size_t Place>
+void OpenRecentProject(Context& context, Event&) {
+    OpenProjectAndShow(context, context.session.RecentProjects[Place]);
+}
+
+template <auto Save>
+void SaveTheProject(Context& context, Event&) {
+    Save(context);
+}
+
 template <SearchMode Mode>
 void Report(Context& context, Event&) {
     ShowReport(context, Mode);
@@ -44,27 +61,27 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuFileLoad>, Click, OpenPlan},
     EventEntry{InMain<&M::mnuFileSave>, Click, Run<SaveFlightplanCommand>},
     EventEntry{InMain<&M::mnuFileSaveAs>, Click, Run<SaveFlightplanAs>},
-    EventEntry{InMain<&M::mnuFileNewProject>, Click},
-    EventEntry{InMain<&M::mnuFileOpenProject>, Click},
-    EventEntry{InMain<&M::mnuFileSaveProject>, Click},
-    EventEntry{InMain<&M::mnuFileSaveProjectAs>, Click},
+    EventEntry{InMain<&M::mnuFileNewProject>, Click, Run<OnNewProject>},
+    EventEntry{InMain<&M::mnuFileOpenProject>, Click, ChooseAndOpenProject},
+    EventEntry{InMain<&M::mnuFileSaveProject>, Click, SaveTheProject<SaveProject>},
+    EventEntry{InMain<&M::mnuFileSaveProjectAs>, Click, SaveTheProject<SaveProjectAs>},
     EventEntry{InMain<&M::mnuRecentFlightPlan1>, Click, OpenRecentPlan<0>},
     EventEntry{InMain<&M::mnuRecentFlightPlan2>, Click, OpenRecentPlan<1>},
     EventEntry{InMain<&M::mnuRecentFlightPlan3>, Click, OpenRecentPlan<2>},
     EventEntry{InMain<&M::mnuRecentFlightPlan4>, Click, OpenRecentPlan<3>},
     EventEntry{InMain<&M::mnuRecentFlightPlan5>, Click, OpenRecentPlan<4>},
-    EventEntry{InMain<&M::mnuRecentProjects1>, Click},
-    EventEntry{InMain<&M::mnuRecentProjects2>, Click},
-    EventEntry{InMain<&M::mnuRecentProjects3>, Click},
-    EventEntry{InMain<&M::mnuRecentProjects4>, Click},
-    EventEntry{InMain<&M::mnuRecentProjects5>, Click},
+    EventEntry{InMain<&M::mnuRecentProjects1>, Click, OpenRecentProject<0>},
+    EventEntry{InMain<&M::mnuRecentProjects2>, Click, OpenRecentProject<1>},
+    EventEntry{InMain<&M::mnuRecentProjects3>, Click, OpenRecentProject<2>},
+    EventEntry{InMain<&M::mnuRecentProjects4>, Click, OpenRecentProject<3>},
+    EventEntry{InMain<&M::mnuRecentProjects5>, Click, OpenRecentProject<4>},
     EventEntry{InMain<&M::mnuFileExit>, Click, CloseMainWindow},
     EventEntry{InMain<&M::mnuToolsUndo>, Click, Run<RestoreUndoSnapshot>},
     EventEntry{InMain<&M::mnuToolsShuffle>, Click, NoAction},
     EventEntry{InMain<&M::mnuToolsMove>, Click, NoAction},
-    EventEntry{InMain<&M::mnuToolsCompileCurrent>, Click},
-    EventEntry{InMain<&M::mnuToolsCompile>, Click},
-    EventEntry{InMain<&M::mnuToolsDecompile>, Click},
+    EventEntry{InMain<&M::mnuToolsCompileCurrent>, Click, Run<CompileCurrentFlightplan>},
+    EventEntry{InMain<&M::mnuToolsCompile>, Click, Run<CompileFlightplan>},
+    EventEntry{InMain<&M::mnuToolsDecompile>, Click, Run<DecompileFlightplan>},
     EventEntry{InMain<&M::mnuToolsEditPlanAircraft>, Click},
     EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click},
     EventEntry{InMain<&M::mnuToolsAirportDistance>, Click},

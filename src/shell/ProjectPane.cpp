@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "projects/MergeProject.h"
+#include "projects/ProjectEntries.h"
 #include "shell/EventTables.h"
 
 namespace orlo {
@@ -19,12 +21,14 @@ void OnProjectKey(Context& context, Event& event) {
 }
 
 constexpr std::array kProjectEvents = {
-    EventEntry{InMain<&M::cmdProjectCompile>, Click},
-    EventEntry{InMain<&M::cmdProjectMerge>, Click},
-    EventEntry{InMain<&M::cmdProjectAdd>, Click},
-    EventEntry{InMain<&M::cmdProjectDelete>, Click},
-    EventEntry{InMain<&M::cmdProjectFile>, Click},
-    EventEntry{InMain<&M::cmdProjectAC>, Click},
+    EventEntry{InMain<&M::cmdProjectCompile>, Click, Run<OnProjectCompile>},
+    EventEntry{InMain<&M::cmdProjectMerge>, Click, Run<OnProjectMerge>},
+    EventEntry{InMain<&M::cmdProjectAdd>, Click, Run<AddProjectEntry>},
+    EventEntry{InMain<&M::cmdProjectDelete>, Click, Run<DeleteProjectEntries>},
+    EventEntry{InMain<&M::cmdProjectFile>, Click, Run<ChangeProjectFlightplan>},
+    EventEntry{InMain<&M::cmdProjectAC>, Click, Run<ChangeProjectAircraft>},
+    EventEntry{InMain<&M::txtProjectDescription>, Leave, Run<TakeProjectDescription>},
+    EventEntry{InMain<&M::lvProject>, SelectRow, Run<OnSelectProjectRow>},
     EventEntry{InMain<&M::lvProject>, ClickColumn, SortByColumn},
     EventEntry{InMain<&M::lvProject>, KeyUp, OnProjectKey},
 };

@@ -132,7 +132,10 @@ void ReadZones(Context& context) {
     ForEachSetting<ZoneChoice>([&](const SettingRow& row, const ZoneChoice& mirror) {
         std::string& zone = context.session.switches.*mirror.value;
         zone = ReadText(context, row);
-        if (mirror.combo != nullptr) (context.forms.frmMain.*mirror.combo).SelectText(zone);
+        if (mirror.combo == nullptr) return;
+        // What the list doesn't have can't be shown, so it doesn't hold.
+        ComboBox& combo = context.forms.frmMain.*mirror.combo;
+        if (!combo.SelectText(zone)) zone = combo.Text();
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/SavePlan.h"
+#include "projects/ProjectCommands.h"
 #include "shell/SettingsMirror.h"
 #include "shell/StartUp.h"
 
@@ -20,6 +21,7 @@ void EraseMemory(Context& context) {
     session.search = {};
     session.plan = {};
     session.fleet = {};
+    session.project = {};
 }
 
 }  // namespace
@@ -36,10 +38,7 @@ bool Shutdown(Context& context) {
     if (session.project.ProjectModified) {
         const MessageAnswer answer = AskToSave(context, "Save the modified Project?");
         if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes) {
-            context.services.windows.ShowNotBuilt(context.forms.frmMain.mnuFileSaveProject.name);
-            return false;
-        }
+        if (answer == MessageAnswer::Yes && !SaveProject(context)) return false;
     }
     BusyForm busy(context, context.forms.frmMain, kCleaningStages);
     WriteSettings(context);

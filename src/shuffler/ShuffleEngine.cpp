@@ -64,7 +64,7 @@ ShuffleResult ShuffleFlightplan(Session& session, Services& services, const std:
     services.random.SeedFromClock();
 
     services.progress.SetText("Preparing Cache...");
-    LogFile log;
+    LineFile log;
     ShuffleRun run(session, noAirlineSet, services.random, log);
     if (session.switches.DebugOn) OpenShuffleLog(log, services.files, flightplanPath);
 

@@ -48,12 +48,12 @@ std::string FlightLine(std::string_view aircraftNumber, const WorkingFlight& fli
 
 }  // namespace
 
-void OpenShuffleLog(LogFile& log, FileSystem& files, const std::string& flightplanPath) {
+void OpenShuffleLog(LineFile& log, FileSystem& files, const std::string& flightplanPath) {
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle.log"));
     for (std::string_view line : kHead) log.Line(line);
 }
 
-void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
+void LogAircraft(LineFile& log, const FSAircraft& aircraft) {
     if (!log.IsOpen()) return;
     const std::string_view airline =
         aircraft.Airline.empty() ? kNoAirline : std::string_view(aircraft.Airline);
@@ -61,24 +61,24 @@ void LogAircraft(LogFile& log, const FSAircraft& aircraft) {
                     aircraft.UIManufacturer, "/", aircraft.UIType));
 }
 
-void LogRunway(LogFile& log, const RouteNeeds& needs) {
+void LogRunway(LineFile& log, const RouteNeeds& needs) {
     if (!log.IsOpen()) return;
     log.Line(Concat("Runway: ", needs.minRunway, "/", needs.minParking, "/", SurfaceText(needs.surface)));
 }
 
-void LogUnknownAirport(LogFile& log, std::string_view code) {
+void LogUnknownAirport(LineFile& log, std::string_view code) {
     if (!log.IsOpen()) return;
     log.Line(Concat("ICAO ", code, " unknown. Please check your Airport configuration."));
 }
 
-void LogAssignedFlight(LogFile& log, const WorkingFlight& flight, const FlightLimits& limits,
+void LogAssignedFlight(LineFile& log, const WorkingFlight& flight, const FlightLimits& limits,
                        std::string_view location) {
     if (!log.IsOpen()) return;
     log.Line(Concat(FlightLine(flight.ACNumber, flight, limits), "/", location));
     log.Line("");
 }
 
-void LogRemovedFlight(LogFile& log, const WorkingFlight& flight, const FlightLimits& limits) {
+void LogRemovedFlight(LineFile& log, const WorkingFlight& flight, const FlightLimits& limits) {
     if (!log.IsOpen()) return;
     log.Line(FlightLine("NO AIRCRAFT", flight, limits));
     log.Line("");

@@ -1,16 +1,16 @@
 #include "shuffler/ShuffleResultLog.h"
 
+#include "core/LineFile.h"
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
-#include "shuffler/LogFile.h"
 
 namespace orlo {
 namespace {
 
 constexpr std::string_view kSeparator = "------------------------------------------------------------------";
 
-void WriteAircraft(LogFile& log, const AirlineEntry& entry, const std::vector<FSAircraft>& fsAircrafts) {
+void WriteAircraft(LineFile& log, const AirlineEntry& entry, const std::vector<FSAircraft>& fsAircrafts) {
     log.Line(Concat("\tAircraft (", entry.Aircraft.size(), "):"));
     for (const AirlineAircraft& aircraft : entry.Aircraft) {
         const std::string& title = fsAircrafts[static_cast<std::size_t>(aircraft.AircraftIndex)].Title;
@@ -25,7 +25,7 @@ std::string AchievedPercent(const AirlineEntry& entry, const AirlineSet& set) {
     return FormatFixed(static_cast<double>(entry.Flights) * 100 / set.Flights, 2);
 }
 
-void WriteSet(LogFile& log, std::string_view level, std::string_view name, const AirlineSet& set,
+void WriteSet(LineFile& log, std::string_view level, std::string_view name, const AirlineSet& set,
               const std::vector<FSAircraft>& fsAircrafts) {
     log.Line(kSeparator);
     log.Line(Concat(level, ": ", name));
@@ -47,7 +47,7 @@ void WriteSet(LogFile& log, std::string_view level, std::string_view name, const
 
 void WriteShuffleResultLog(FileSystem& files, const std::string& flightplanPath, const AirlineSets& sets,
                            const AirlineEntry& noAirline, const std::vector<FSAircraft>& fsAircrafts) {
-    LogFile log;
+    LineFile log;
     log.Open(files, JoinPath(ParentFolder(flightplanPath), "Shuffle Result.log"));
     log.Line(kSeparator);
     log.Line("No Airline: ");

@@ -56,7 +56,7 @@ AirlineSet MakeNoAirlineSet(std::vector<AirlineAircraft> aircraft) {
     return set;
 }
 
-ShuffleRun::ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LogFile& logOf)
+ShuffleRun::ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LineFile& logOf)
     : session_(sessionOf),
       random_(randomOf),
       log_(logOf),

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "core/LineFile.h"
 #include "core/Session.h"
 #include "services/RandomSource.h"
 #include "shuffler/CandidateTable.h"
-#include "shuffler/LogFile.h"
 #include "shuffler/RouteAirports.h"
 #include "shuffler/RouteLimits.h"
 #include "shuffler/WorkingFlight.h"
@@ -24,7 +24,7 @@ AirlineSet MakeNoAirlineSet(std::vector<AirlineAircraft> aircraft);
 // session it changes only the UsageCount of PlanAircrafts and the counts of RunAirlines.
 class ShuffleRun {
   public:
-    ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LogFile& logOf);
+    ShuffleRun(Session& sessionOf, AirlineSet& noAirlineSet, RandomSource& randomOf, LineFile& logOf);
     ShuffleRun(const ShuffleRun&) = delete;
     ShuffleRun& operator=(const ShuffleRun&) = delete;
 
@@ -53,7 +53,7 @@ class ShuffleRun {
 
     Session& session_;
     RandomSource& random_;
-    LogFile& log_;
+    LineFile& log_;
     PlanPositions positions_;
     RouteAirports airports_;
     std::vector<AirlineSet*> sets_;  // of ListAirlineSets, and the set without airline last

@@ -18,8 +18,8 @@ namespace {
 constexpr std::array<std::string_view, 4> kCodes = {"EDDF", "EGLL", "eddf", ""};
 constexpr std::array<std::string_view, 8> kPeriods = {"24Hr", "8hr", "WEEK", "Week",
                                                       "1Hr",  "5Hr", "0Hr",  "never"};
-constexpr std::array<std::string_view, 7> kTimes = {"00:10:00", "23:30:00",   "9:05",      "25:00:00",
-                                                    "12:00:30", "6/23:30:00", "0/00:10:00"};
+constexpr std::array<std::string_view, 8> kTimes = {"00:10:00", "23:30:00",   "9:05",       "25:00:00",
+                                                    "12:00:30", "6/23:30:00", "0/00:10:00", "06/10:00:00"};
 
 // The rows that the flight gives by the letter of the rules, on texts.
 class PlainTimetable {

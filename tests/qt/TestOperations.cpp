@@ -8,6 +8,7 @@
 #include <QTableView>
 
 #include "mainwindow/BusyForm.h"
+#include "projects/RunTool.h"
 #include "qt/DesktopProgram.h"
 
 namespace orlo {
@@ -186,6 +187,35 @@ TEST_F(Operations, ProgressIsDrawnWhileAnOperationRunsAndTimersFire) {
     EXPECT_EQ(seen, (std::vector<std::string>{"Reading...2", "Reading...3"}));
     EXPECT_EQ(desktop.WindowOf(form).findChild<QWidget*>("frmProgress"), nullptr);
     EXPECT_EQ(desktop.WindowOf(form).cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Operations, TheCloseBoxOfTheDisabledMainWindowAsksWhetherToEndATool) {
+    MainForm& main = desktop.program.forms.frmMain;
+    desktop.host.ShowForm(main);
+    desktop.world.processes.neverEnds = true;
+    QStringList asked;
+    std::int32_t code = 0;
+    form.on["Click cmdGo"] = [&](Context& context, Event&) {
+        main.enabled = false;
+        std::function<void(QMessageBox::StandardButton)> closeAndAnswer = [&](auto answer) {
+            test::InDialog<QMessageBox>([&, answer](QMessageBox& box) {
+                asked.append(box.text());
+                test::DesktopProgram::WindowOf(main).close();  // once more, while the question stands
+                if (answer == QMessageBox::No) Later([&] { closeAndAnswer(QMessageBox::Yes); });
+                box.button(answer)->click();
+            });
+            test::DesktopProgram::WindowOf(main).close();
+        };
+        Later([&] { closeAndAnswer(QMessageBox::No); });
+        code = RunAndWait(context, {"/temp/TCOMPILER.EXE", "/NP", "/temp"});
+        main.enabled = true;
+    };
+    desktop.Click(form.cmdGo);
+    test::DesktopProgram::Settle();
+    EXPECT_EQ(asked, QStringList(2, "'TCOMPILER.EXE' is still running. Would you like to end it?"));
+    EXPECT_NE(code, 0);
+    EXPECT_TRUE(test::DesktopProgram::WindowOf(main).isVisible());
+    EXPECT_FALSE(main.closeRequest);
 }
 
 TEST_F(Operations, WhatIsFrozenOrHiddenIsNotDrawn) {

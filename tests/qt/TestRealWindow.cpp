@@ -51,8 +51,11 @@ std::string LinesBut(const std::string& text, Dropped dropped) {
 // is the current folder meanwhile.
 class World {
   public:
-    World() : before_(QDir::currentPath()) {}
-    ~World() { QDir::setCurrent(before_); }
+    World() : before_(QDir::currentPath()), temporaryBefore_(qgetenv("TMPDIR")) {}
+    ~World() {
+        QDir::setCurrent(before_);
+        temporaryBefore_.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporaryBefore_);
+    }
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
@@ -70,6 +73,8 @@ class World {
         std::filesystem::copy(sample, Path(), kOver);
         if (std::filesystem::exists(script.files)) std::filesystem::copy(script.files, Path(), kOver);
         QDir::setCurrent(folder_.filePath("world"));
+        std::filesystem::create_directory("Temporary");
+        qputenv("TMPDIR", (Path() + "/Temporary").c_str());
     }
 
     // All files, without the place of the window in the settings, which the console doesn't store.
@@ -88,6 +93,7 @@ class World {
 
   private:
     QString before_;
+    QByteArray temporaryBefore_;
     QTemporaryDir folder_;
 };
 

@@ -45,7 +45,11 @@ class FakeWindows : public WindowHost {
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
     std::function<void(Form&)> onModal;  // what happens while a modal form is shown
-    void ProcessEvents() override { ++eventsProcessed; }
+    std::function<void()> onEvents;      // what happens while events are let through
+    void ProcessEvents() override {
+        ++eventsProcessed;
+        if (onEvents) onEvents();
+    }
     void ShowForm(Form&) override {}
     void ShowModal(Form& form, Form*) override {
         if (onModal) onModal(form);
@@ -110,6 +114,52 @@ class FakeClock : public Clock {
     std::string ShortText() const override { return "DATE TIME"; }
 };
 
+// Tools that the test tells about: how each ends, and what it does at its start.
+class FakeProcesses : public ProcessService {
+  public:
+    std::vector<std::string> started;    // "PROGRAM ARGUMENT in FOLDER shown", or "hidden"
+    std::deque<std::int32_t> exitCodes;  // taken in order; without one the code is 0
+    bool canRun = true;
+    bool canStart = true;
+    bool neverEnds = false;    // until End()
+    int waitsBeforeEnd = 0;    // how often Wait is called in vain
+    bool interrupted = false;  // the user presses Ctrl+C
+    std::function<void(const ToolStart&)> onStart;
+    std::string temporaryFolder = "/temp";
+
+    bool CanRun(const std::string&) override { return canRun; }
+    std::unique_ptr<RunningTool> Start(const ToolStart& start) override {
+        if (!canStart) return nullptr;
+        started.push_back(Concat(start.program, " ", start.argument, " in ", start.workingFolder,
+                                 start.shown ? " shown" : " hidden"));
+        if (onStart) onStart(start);
+        auto tool = std::make_unique<Tool>(*this);
+        if (!exitCodes.empty()) {
+            tool->code = exitCodes.front();
+            exitCodes.pop_front();
+        }
+        return tool;
+    }
+    std::string TemporaryFolder() override { return temporaryFolder; }
+
+  private:
+    struct Tool : RunningTool {
+        explicit Tool(FakeProcesses& processes) : script(processes), waits(processes.waitsBeforeEnd) {}
+        bool Wait(int) override { return ended || (!script.neverEnds && waits-- <= 0); }
+        void End() override {
+            ended = true;
+            code = 143;
+        }
+        std::int32_t ExitCode() const override { return code; }
+        bool Interrupted() const override { return script.interrupted; }
+
+        FakeProcesses& script;
+        int waits;
+        bool ended = false;
+        std::int32_t code = 0;
+    };
+};
+
 // All services as fakes, but for those that something real stands in for.
 struct FakeWorld {
     struct StandIns {
@@ -130,6 +180,7 @@ struct FakeWorld {
     FakeWindows windows;
     FakeRandom random;
     FakeClock clock;
+    FakeProcesses processes;
     Services services{Or<FileSystem>(with.files, files),
                       userSettings,
                       machineSettings,
@@ -137,7 +188,8 @@ struct FakeWorld {
                       Or<MessageHost>(with.frontEnd, messages),
                       Or<WindowHost>(with.frontEnd, windows),
                       Or<RandomSource>(with.random, random),
-                      clock};
+                      clock,
+                      processes};
 
   private:
     template <typename Service>

@@ -62,6 +62,14 @@ class MemoryFileSystem : public FileSystem {
         files[Resolve(to)] = std::string(files[Resolve(from)]);
         return true;
     }
+    bool RenameFile(const std::string& from, const std::string& to) override {
+        const auto found = files.find(Resolve(from));
+        if (found == files.end()) return false;
+        std::string text = std::move(found->second);
+        files.erase(found);
+        files[to] = std::move(text);
+        return true;
+    }
     bool DeleteFile(const std::string& path) override {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }

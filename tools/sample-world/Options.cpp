@@ -8,14 +8,17 @@ namespace orlo::world {
 const char* const UsageText =
     "usage: orlo-sample-world DIR [--airports N] [--aircraft N] [--airlines N] [--flights N] [--seed N]\n"
     "\n"
-    "Writes a small world to try the planner on: DIR/Simulator, DIR/Program and DIR/Plan.\n"
+    "Writes a small world to try the planner on: DIR/Simulator, DIR/Program, DIR/Plan and DIR/Project.\n"
     "DIR must be empty or not exist yet.\n"
     "\n"
     "  --airports N   airports in the scenery, 2 to 40000 (60); those beyond 60 are invented\n"
     "  --aircraft N   aircraft variants, 1 to 20000 (120)\n"
     "  --airlines N   airlines, 1 to 1000 (12); some seven airline sets come with each\n"
     "  --flights N    flights in the plan, 0 to 10000000 (2000)\n"
-    "  --seed N       another world of the same size (1); the same seed gives the same bytes\n";
+    "  --seed N       another world of the same size (1); the same seed gives the same bytes\n"
+    "\n"
+    "The project file tells full paths. Stand-ins for the outside tools that stand beside this program are\n"
+    "copied to DIR/Program.\n";
 
 namespace {
 

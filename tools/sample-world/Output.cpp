@@ -46,6 +46,10 @@ void TextFile::Close() {
     if (!file) FailWriting(path);
 }
 
+void Bytes::Put16(std::uint16_t value) {
+    for (int shift = 0; shift < 16; shift += 8) data.push_back(static_cast<char>((value >> shift) & 0xFF));
+}
+
 void Bytes::Put32(std::uint32_t value) {
     for (int shift = 0; shift < 32; shift += 8) data.push_back(static_cast<char>((value >> shift) & 0xFF));
 }
@@ -60,6 +64,11 @@ void Bytes::PutSingle(float value) {
 void Bytes::PutZeroText(std::string_view text) {
     data.append(text);
     data.push_back('\0');
+}
+
+void Bytes::PutText16(std::string_view text) {
+    Put16(static_cast<std::uint16_t>(text.size()));
+    data.append(text);
 }
 
 void Bytes::Set32(std::uint32_t offset, std::uint32_t value) {

@@ -46,10 +46,13 @@ class TextFile {
 class Bytes {
   public:
     std::uint32_t Size() const { return static_cast<std::uint32_t>(data.size()); }
+    void Put16(std::uint16_t value);
     void Put32(std::uint32_t value);
     void PutSigned(std::int32_t value) { Put32(static_cast<std::uint32_t>(value)); }
     void PutSingle(float value);
     void PutZeroText(std::string_view text);
+    // Its length in 16 bits in front.
+    void PutText16(std::string_view text);
     void Fill(std::uint32_t count, char value = 0) { data.append(count, value); }
     // Overwrites four bytes that are there already.
     void Set32(std::uint32_t offset, std::uint32_t value);

@@ -7,6 +7,7 @@
 #include "Fleet.h"
 #include "Options.h"
 #include "PlanWriter.h"
+#include "ProjectWriter.h"
 #include "Rules.h"
 #include "SceneryWriter.h"
 
@@ -14,11 +15,12 @@ namespace {
 
 using namespace orlo::world;
 
-void WriteWorld(const Options& options) {
+// `tools`: the folder of the stand-ins for the outside tools.
+void WriteWorld(const Options& options, const std::filesystem::path& tools) {
     const std::filesystem::path world = options.Folder;
     const std::filesystem::path scenery = world / "Simulator" / "SCENEDB" / "AFDFILES" / "SCENERY";
     const std::filesystem::path aircraft = world / "Simulator" / "Aircraft";
-    for (const auto& folder : {scenery, aircraft, world / "Program", world / "Plan"}) {
+    for (const auto& folder : {scenery, aircraft, world / "Program", world / "Plan", world / "Project"}) {
         std::filesystem::create_directories(folder);
     }
     const std::vector<Airport> airports = BuildAirports(options.AirportCount, options.Seed);
@@ -27,6 +29,8 @@ void WriteWorld(const Options& options) {
     WriteAircraft(aircraft, fleet);
     WriteRules(world / "Program", airports, fleet, options.Seed);
     WritePlan(world / "Plan", airports, fleet, options.FlightCount, options.Seed);
+    WriteProject(world / "Project", airports, fleet, options.Seed);
+    CopyTools(tools, world / "Program");
 }
 
 }  // namespace
@@ -43,7 +47,7 @@ int main(int argumentCount, char** arguments) {
             std::fprintf(stderr, "orlo-sample-world: %s is not empty\n", options->Folder.c_str());
             return 1;
         }
-        WriteWorld(*options);
+        WriteWorld(*options, std::filesystem::path(arguments[0]).parent_path());
     } catch (const std::exception& error) {
         std::fprintf(stderr, "orlo-sample-world: %s\n", error.what());
         return 1;

@@ -18,11 +18,13 @@
 #include <iostream>
 #include <set>
 
+#include "core/Path.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/EdgeStyle.h"
 #include "desktop/FormWindow.h"
 #include "desktop/MainLayout.h"
 #include "platform/SystemServices.h"
+#include "projects/ProjectCommands.h"
 #include "shell/FormFacts.h"
 #include "shell/OpenPlan.h"
 #include "shell/PaneFacts.h"
@@ -74,6 +76,8 @@ class Photographer {
         answering_.start(kSettle);
         OpenFlightplan(program_.context, plan);
         answering_.stop();
+        OpenProject(program_.context,
+                    JoinPath(ParentFolder(ParentFolder(plan)), "Project/Sample Project.orp"));
         Settle();
         TakePanes("");
         TakeMenus();

@@ -10,6 +10,7 @@ SystemServices::SystemServices(const std::optional<std::string>& settings, const
       userSettings(MakeUserSettings(*files, settings)),
       machineSettings(MakeMachineSettings(*files, simulator)),
       random(seed),
-      clock(MakeClock()) {}
+      clock(MakeClock()),
+      processes(MakeProcesses()) {}
 
 }  // namespace orlo

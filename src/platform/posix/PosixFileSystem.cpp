@@ -1,6 +1,7 @@
 #include "platform/posix/PosixFileSystem.h"
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,6 +13,8 @@
 #include "platform/posix/PosixHandle.h"
 #include "platform/posix/PosixNames.h"
 #include "platform/posix/PosixOutput.h"
+#include "platform/posix/UserFolders.h"
+#include "platform/posix/WineDrives.h"
 
 namespace orlo {
 namespace {
@@ -58,6 +61,10 @@ std::string PosixFileSystem::FullPath(const std::string& path) {
     return JoinPath(folder.data(), path);
 }
 
+std::string PosixFileSystem::FromDrivePath(const std::string& path) {
+    return FromWineDrive(*this, WinePrefixFolder(), path);
+}
+
 bool PosixFileSystem::FileExists(const std::string& path) {
     const auto facts = FactsOf(path);
     return facts && !S_ISDIR(facts->st_mode);
@@ -97,6 +104,10 @@ bool PosixFileSystem::CopyFile(const std::string& from, const std::string& to) {
     if (!source.IsOpen() || fstat(source.Descriptor(), &facts) != 0) return false;
     const auto target = OpenReplacing(ResolveNames(to), CopyMode(facts));
     return target && CopyBytes(source, *target) && target->Commit();
+}
+
+bool PosixFileSystem::RenameFile(const std::string& from, const std::string& to) {
+    return FileExists(from) && IsUsablePath(to) && rename(ResolveNames(from).c_str(), to.c_str()) == 0;
 }
 
 bool PosixFileSystem::DeleteFile(const std::string& path) {

@@ -10,6 +10,7 @@ class PosixFileSystem : public FileSystem {
   public:
     std::string Resolve(const std::string& path) override;
     std::string FullPath(const std::string& path) override;
+    std::string FromDrivePath(const std::string& path) override;
     bool FileExists(const std::string& path) override;
     bool FolderExists(const std::string& path) override;
     std::optional<std::uint64_t> FileSize(const std::string& path) override;
@@ -17,6 +18,7 @@ class PosixFileSystem : public FileSystem {
     std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) override;
     std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) override;
     bool CopyFile(const std::string& from, const std::string& to) override;
+    bool RenameFile(const std::string& from, const std::string& to) override;
     bool DeleteFile(const std::string& path) override;
     bool CreateFolders(const std::string& path) override;
     std::vector<FolderEntry> ListFolder(const std::string& path) override;

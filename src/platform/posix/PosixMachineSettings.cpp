@@ -1,25 +1,13 @@
 #include "platform/posix/PosixMachineSettings.h"
 
-#include <cstdlib>
-#include <memory>
-
 #include "core/Path.h"
 #include "core/Settings.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "platform/common/WineRegistry.h"
+#include "platform/posix/WineDrives.h"
 
 namespace orlo {
-namespace {
-
-// The path without links; empty where nothing is.
-std::string RealPath(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
-    return real ? std::string(real.get()) : std::string();
-}
-
-}  // namespace
-
 PosixMachineSettings::PosixMachineSettings(FileSystem& files, std::string machineFile, std::string winePrefix)
     : files_(files), winePrefix_(std::move(winePrefix)), machineFile_(files, std::move(machineFile)) {}
 
@@ -43,18 +31,7 @@ std::optional<std::string> PosixMachineSettings::FindInWine(std::string_view key
     if (!text) return std::nullopt;
     const auto value = FindWineRegistryValue(*text, keyPath, name);
     if (!value) return std::nullopt;
-    return SystemPath(*value);
-}
-
-// The system's path for a value such as "C:\folder". Any other value, and one on a drive that the prefix
-// doesn't have, comes back as it is.
-std::string PosixMachineSettings::SystemPath(const std::string& value) {
-    const auto parts = SplitDrivePath(value);
-    if (!parts) return value;
-    std::string drive = RealPath(JoinPath(winePrefix_, Concat("dosdevices/", parts->drive, ":")));
-    if (drive.empty()) drive = RealPath(JoinPath(winePrefix_, Concat("drive_", parts->drive)));
-    if (drive.empty()) return value;
-    return files_.Resolve(JoinPath(drive, parts->rest));
+    return FromWineDrive(files_, winePrefix_, *value);
 }
 
 }  // namespace orlo

@@ -32,7 +32,6 @@ class PosixMachineSettings : public SettingsStore {
   private:
     std::optional<std::string> Find(std::string_view keyPath, std::string_view name);
     std::optional<std::string> FindInWine(std::string_view keyPath, std::string_view name);
-    std::string SystemPath(const std::string& value);
 
     FileSystem& files_;
     std::string winePrefix_;

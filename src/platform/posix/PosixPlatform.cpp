@@ -5,6 +5,7 @@
 #include "platform/posix/LargePageMemory.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixMachineSettings.h"
+#include "platform/posix/PosixProcesses.h"
 #include "platform/posix/ProgramFolder.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/posix/Terminal.h"
@@ -18,6 +19,10 @@ std::unique_ptr<FileSystem> MakeFileSystem() {
 
 std::unique_ptr<Clock> MakeClock() {
     return std::make_unique<SystemClock>();
+}
+
+std::unique_ptr<ProcessService> MakeProcesses() {
+    return std::make_unique<PosixProcesses>();
 }
 
 std::unique_ptr<SettingsStore> MakeUserSettings(FileSystem& files, const std::optional<std::string>& path) {

@@ -107,6 +107,13 @@ bool WindowsFileSystem::CopyFile(const std::string& from, const std::string& to)
     return target && CopyBytes(source, *target) && target->Commit();
 }
 
+bool WindowsFileSystem::RenameFile(const std::string& from, const std::string& to) {
+    const std::wstring source = SystemPath(from);
+    const std::wstring target = SystemPath(to);
+    return !source.empty() && !target.empty() &&
+           MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
 bool WindowsFileSystem::DeleteFile(const std::string& path) {
     const std::wstring systemPath = SystemPath(path);
     return !systemPath.empty() && DeleteFileW(systemPath.c_str()) != 0;

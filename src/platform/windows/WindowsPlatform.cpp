@@ -11,6 +11,7 @@
 #include "platform/windows/SystemHeader.h"
 #include "platform/windows/WideText.h"
 #include "platform/windows/WindowsFileSystem.h"
+#include "platform/windows/WindowsProcesses.h"
 // Behind the system's header, which it needs.
 #include <shellapi.h>
 
@@ -44,6 +45,10 @@ std::unique_ptr<FileSystem> MakeFileSystem() {
 
 std::unique_ptr<Clock> MakeClock() {
     return std::make_unique<SystemClock>();
+}
+
+std::unique_ptr<ProcessService> MakeProcesses() {
+    return std::make_unique<WindowsProcesses>();
 }
 
 std::unique_ptr<SettingsStore> MakeUserSettings(FileSystem& files, const std::optional<std::string>& path) {

@@ -1,0 +1,119 @@
+#include "projects/CompilePlan.h"
+
+#include <string>
+
+#include "core/Application.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/SavePlan.h"
+#include "mainwindow/StatusTexts.h"
+#include "projects/OutsideTools.h"
+#include "projects/RunTool.h"
+
+namespace orlo {
+namespace {
+
+constexpr std::string_view kNoCompiler =
+    "File 'TCOMPILER.EXE' not found. Please copy the file to the ORLO program folder.";
+constexpr std::string_view kNoDecompiler =
+    "File 'TDECOMPILER.EXE' not found. Copy the file to the ORLO program folder.";
+
+void TellOutcome(Context& context, bool done, std::string_view success, std::string_view failure) {
+    ShowMessage(context.services.messages, done ? success : failure, done ? kMarkInformation : kMarkCritical,
+                &context.forms.frmMain);
+}
+
+// False, with the user told, where a file that the compiler needs isn't beside the plan.
+bool HasSideFiles(Context& context, const std::string& folder) {
+    bool all = true;
+    const auto ask = [&](std::string_view name, std::string_view missing) {
+        if (!folder.empty() && context.services.files.FileExists(JoinPath(folder, name))) return;
+        ShowMessage(context.services.messages, missing, kMarkExclamation, &context.forms.frmMain);
+        all = false;
+    };
+    ask(kAircraftName, "File 'AIRCRAFT.TXT' not found. Please copy the file to the Flightplan folder.");
+    ask(kAirportsName, "File 'AIRPORTS.TXT' not found. Please copy the file to the Flightplan folder.");
+    return all;
+}
+
+void Compile(Context& context, const std::string& flightplan) {
+    const std::string temporary = context.services.processes.TemporaryFolder();
+    const std::string folder = ParentFolder(flightplan);
+    ForgetNotWritten(context);
+    const BusyForm busy(context, context.forms.frmMain);
+    if (!HasSideFiles(context, folder)) return;
+    CopyToolInto(context, kCompiler, temporary);
+    CopyInto(context, flightplan, temporary, kFlightPlansName);
+    for (const std::string_view name : {kAircraftName, kAirportsName})
+        CopyInto(context, JoinPath(folder, name), temporary, name);
+    const std::int32_t exitCode = RunCompiler(context, temporary);
+    for (const std::string_view name : {kCompiler, kFlightPlansName, kAircraftName, kAirportsName})
+        DeleteFrom(context, temporary, name);
+    TellOutcome(context, exitCode == 0, "Successfully compiled AI Traffic.",
+                "Errors occured during compiling AI Traffic.");
+}
+
+// Gives the tool's output the chosen name. Two names that differ in case alone may be one file.
+void NameOutput(Context& context, const std::string& folder, const std::string& chosen) {
+    const std::string output = JoinPath(folder, kFlightPlansName);
+    if (chosen == output) return;
+    if (!EqualNoCase(chosen, output)) context.services.files.DeleteFile(chosen);
+    context.services.files.RenameFile(output, chosen);
+}
+
+void Decompile(Context& context, const std::string& chosen) {
+    FileSystem& files = context.services.files;
+    const std::string folder = ParentFolder(chosen);
+    const std::string tool = JoinPath(folder, kDecompiler);
+    ForgetNotWritten(context);
+    const BusyForm busy(context, context.forms.frmMain);
+    files.DeleteFile(chosen);
+    const bool copied = !files.FileExists(tool);
+    if (copied) CopyToolInto(context, kDecompiler, folder);
+    const std::int32_t exitCode =
+        RunAndWait(context, {files.Resolve(tool), "/NP", folder, context.session.switches.ShowCompiler});
+    NameOutput(context, folder, chosen);
+    if (copied) files.DeleteFile(tool);
+    TellOutcome(context, exitCode == 0, "Successfully decompiled AI Traffic.",
+                "Errors occured during decompiling AI Traffic.");
+}
+
+}  // namespace
+
+void CompileFlightplan(Context& context) {
+    if (!ToolIsReady(context, kCompiler, kNoCompiler)) return;
+    const std::string& open = context.session.plan.FlightplanPath;
+    FileDialog dialog;
+    dialog.title = "Compile - Choose Flightplan";
+    dialog.filter = kTextFileFilter;
+    dialog.startFolder = open;
+    dialog.startFile = open.empty() ? std::string(kFlightPlansName) : FileName(open);
+    dialog.fileMustExist = true;
+    const std::string path = context.services.windows.ShowOpenDialog(dialog);
+    if (!path.empty()) Compile(context, context.services.files.FullPath(path));
+}
+
+void CompileCurrentFlightplan(Context& context) {
+    if (!ToolIsReady(context, kCompiler, kNoCompiler)) return;
+    if (context.session.plan.PlanModified) {
+        const MessageAnswer answer =
+            AskToSave(context, "Save modified Flightplan before starting compiling?");
+        if (answer == MessageAnswer::Cancel) return;
+        if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
+    }
+    Compile(context, context.session.plan.FlightplanPath);
+}
+
+void DecompileFlightplan(Context& context) {
+    if (!ToolIsReady(context, kDecompiler, kNoDecompiler)) return;
+    FileDialog dialog;
+    dialog.title = "Decompile - Choose Output File";
+    dialog.filter = kTextFileFilter;
+    dialog.startFile = kFlightPlansName;
+    dialog.overwritePrompt = true;
+    const std::string path = context.services.windows.ShowSaveDialog(dialog);
+    if (!path.empty()) Decompile(context, context.services.files.FullPath(path));
+}
+
+}  // namespace orlo

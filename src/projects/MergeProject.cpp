@@ -1,0 +1,177 @@
+#include "projects/MergeProject.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+
+#include "core/Application.h"
+#include "core/LineFile.h"
+#include "core/Path.h"
+#include "core/Text.h"
+#include "mainwindow/BusyForm.h"
+#include "mainwindow/StatusTexts.h"
+#include "projects/OutsideTools.h"
+#include "projects/PlanMerger.h"
+#include "projects/ProjectFile.h"
+
+namespace orlo {
+namespace {
+
+// One merge, with or without the compile behind it.
+class MergeRun {
+  public:
+    MergeRun(Context& context, BusyForm& busy, bool mergeOnly)
+        : context_(context),
+          busy_(busy),
+          files_(context.services.files),
+          project_(context.session.project),
+          mergeOnly_(mergeOnly),
+          projectFolder_(ParentFolder(project_.ProjectPath)),
+          target_(mergeOnly ? projectFolder_ : context.services.processes.TemporaryFolder()) {}
+
+    bool Run() {
+        if (!HasAircraft()) {
+            Tell("At least one Aircraft file should be assigned to the Project.");
+            return false;
+        }
+        if (!BringAirports() || (!mergeOnly_ && !BringCompiler())) return false;
+        if (const auto missing = Merge()) {
+            busy_.CloseProgress();
+            Tell(Concat("File '", *missing, "' not found."));
+            CleanUp();
+            Delete({kAircraftName, kFlightPlansName});
+            return false;
+        }
+        if (mergeOnly_) {
+            busy_.CloseProgress();
+            return true;
+        }
+        const bool compiled = Compile();
+        CleanUp();
+        Delete({kAircraftName, kFlightPlansName});
+        return compiled;
+    }
+
+  private:
+    void Tell(std::string_view text, int mark = kMarkExclamation) {
+        ShowMessage(context_.services.messages, text, mark, &context_.forms.frmMain);
+    }
+
+    bool HasAircraft() const {
+        return std::any_of(project_.ProjectEntries.begin(), project_.ProjectEntries.end(),
+                           [](const ProjectEntry& entry) { return !entry.AircraftFile.empty(); });
+    }
+
+    // Those of the project; the plans' own count for nothing.
+    bool BringAirports() {
+        const std::string airports = JoinPath(projectFolder_, kAirportsName);
+        if (!files_.FileExists(airports)) {
+            Tell("File 'AIRPORTS.TXT' not found in Project folder.");
+            return false;
+        }
+        if (!mergeOnly_) CopyInto(context_, airports, target_, kAirportsName);
+        return true;
+    }
+
+    bool BringCompiler() {
+        if (files_.FileExists(JoinPath(context_.session.ProgramFolder, kCompiler))) {
+            CopyToolInto(context_, kCompiler, target_);
+            return true;
+        }
+        Tell("File 'TCOMPILER.EXE' not found in ORLO folder.");
+        Delete({kAirportsName});
+        return false;
+    }
+
+    // The path of a file that can't be read, with both outputs closed; nothing where all went through.
+    std::optional<std::string> Merge() {
+        LineFile aircraft;
+        LineFile flights;
+        Create(flights, kFlightPlansName);
+        Create(aircraft, kAircraftName);
+        std::optional<std::string> missing;
+        if (aircraft.IsOpen() && flights.IsOpen()) missing = MergeEntries(aircraft, flights);
+        Close(aircraft, kAircraftName);
+        Close(flights, kFlightPlansName);
+        return missing;
+    }
+
+    std::optional<std::string> MergeEntries(LineFile& aircraft, LineFile& flights) {
+        PlanMerger merger(files_, aircraft, flights);
+        int place = 0;
+        for (const ProjectEntry& entry : project_.ProjectEntries) {
+            busy_.Stage("Merging Flightplans...", ++place);
+            merger.BeginPlan();
+            if (!entry.AircraftFile.empty() && !merger.AddAircraft(UsablePath(files_, entry.AircraftFile)))
+                return entry.AircraftFile;
+            if (!merger.AddFlights(UsablePath(files_, entry.Flightplan))) return entry.Flightplan;
+        }
+        return std::nullopt;
+    }
+
+    // Links in the temporary folder may be anybody's and are not followed.
+    void Create(LineFile& output, std::string_view name) {
+        const std::string path = JoinPath(target_, name);
+        if (!mergeOnly_) files_.DeleteFile(path);
+        output.Open(files_, path);
+        if (!output.IsOpen()) ReportNotWritten(context_, path);
+    }
+
+    void Close(LineFile& output, std::string_view name) {
+        if (!output.Close()) ReportNotWritten(context_, JoinPath(target_, name));
+    }
+
+    bool Compile() {
+        busy_.Stage("Compiling Project...", project_.ProjectEntryCount() + 1);
+        const std::int32_t exitCode = RunCompiler(context_, target_);
+        busy_.CloseProgress();
+        if (exitCode != 0) Tell("Errors occured during compiling Project.", kMarkCritical);
+        return exitCode == 0;
+    }
+
+    void CleanUp() {
+        if (!mergeOnly_) Delete({kCompiler, kAirportsName});
+    }
+
+    void Delete(std::initializer_list<std::string_view> names) {
+        for (const std::string_view name : names) DeleteFrom(context_, target_, name);
+    }
+
+    Context& context_;
+    BusyForm& busy_;
+    FileSystem& files_;
+    const ProjectState& project_;
+    bool mergeOnly_;
+    std::string projectFolder_;
+    std::string target_;
+};
+
+void MergeInFrame(Context& context, bool mergeOnly, std::string_view done) {
+    ForgetNotWritten(context);
+    BusyForm busy(context, context.forms.frmMain, context.session.project.ProjectEntryCount() + 1);
+    if (!MergeProject(context, busy, mergeOnly)) return;
+    ShowMessage(context.services.messages, done, kMarkInformation, &context.forms.frmMain);
+}
+
+}  // namespace
+
+bool MergeProject(Context& context, BusyForm& busy, bool mergeOnly) {
+    if (!context.session.project.ProjectPath.empty()) return MergeRun(context, busy, mergeOnly).Run();
+    ShowMessage(context.services.messages, "Please save the ORLO Project before you start compiling/merging.",
+                kMarkExclamation, &context.forms.frmMain);
+    return false;
+}
+
+void OnProjectMerge(Context& context) {
+    MergeInFrame(context, true, "Successfully merged AI Traffic Project.");
+}
+
+void OnProjectCompile(Context& context) {
+    if (!ToolIsReady(context, kCompiler,
+                     "File 'TCOMPILER.EXE' not found. Copy the file to the ORLO program folder."))
+        return;
+    MergeInFrame(context, false, "Successfully compiled AI Traffic Project.");
+}
+
+}  // namespace orlo
