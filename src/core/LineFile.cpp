@@ -1,5 +1,7 @@
 #include "core/LineFile.h"
 
+#include <utility>
+
 namespace orlo {
 namespace {
 
@@ -8,7 +10,11 @@ constexpr std::size_t kPieceSize = 64 * 1024;
 }  // namespace
 
 void LineFile::Open(FileSystem& files, const std::string& path) {
-    file_ = files.CreateInPlace(path);
+    Take(files.CreateInPlace(path));
+}
+
+void LineFile::Take(std::unique_ptr<OutputFile> file) {
+    file_ = std::move(file);
     pending_.clear();
     failed_ = false;
 }

@@ -14,6 +14,8 @@ class LineFile {
   public:
     // A file that can't be created leaves it closed.
     void Open(FileSystem& files, const std::string& path);
+    // Takes a file that is open already; null leaves it closed.
+    void Take(std::unique_ptr<OutputFile> file);
     bool IsOpen() const { return file_ != nullptr; }
     void Line(std::string_view text);  // adds the line end, CR LF
     // Writes what is waiting.

@@ -28,7 +28,7 @@ void TellOutcome(Context& context, bool done, std::string_view success, std::str
 bool HasSideFiles(Context& context, const std::string& folder) {
     bool all = true;
     const auto ask = [&](std::string_view name, std::string_view missing) {
-        if (!folder.empty() && context.services.files.FileExists(JoinPath(folder, name))) return;
+        if (!folder.empty() && IsThere(context.services.files, JoinPath(folder, name))) return;
         ShowMessage(context.services.messages, missing, kMarkExclamation, &context.forms.frmMain);
         all = false;
     };
@@ -40,14 +40,13 @@ bool HasSideFiles(Context& context, const std::string& folder) {
 void Compile(Context& context, const std::string& flightplan) {
     const std::string temporary = context.services.processes.TemporaryFolder();
     const std::string folder = ParentFolder(flightplan);
-    ForgetNotWritten(context);
     const BusyForm busy(context, context.forms.frmMain);
     if (!HasSideFiles(context, folder)) return;
-    CopyToolInto(context, kCompiler, temporary);
+    const bool copied = CopyToolInto(context, kCompiler, temporary);
     CopyInto(context, flightplan, temporary, kFlightPlansName);
     for (const std::string_view name : {kAircraftName, kAirportsName})
         CopyInto(context, JoinPath(folder, name), temporary, name);
-    const std::int32_t exitCode = RunCompiler(context, temporary);
+    const std::int32_t exitCode = copied ? RunCompiler(context, temporary) : 0;
     for (const std::string_view name : {kCompiler, kFlightPlansName, kAircraftName, kAirportsName})
         DeleteFrom(context, temporary, name);
     TellOutcome(context, exitCode == 0, "Successfully compiled AI Traffic.",
@@ -59,7 +58,7 @@ void NameOutput(Context& context, const std::string& folder, const std::string& 
     const std::string output = JoinPath(folder, kFlightPlansName);
     if (chosen == output) return;
     if (!EqualNoCase(chosen, output)) context.services.files.DeleteFile(chosen);
-    context.services.files.RenameFile(output, chosen);
+    if (!context.services.files.RenameFile(output, chosen)) ReportNotWritten(context, chosen);
 }
 
 void Decompile(Context& context, const std::string& chosen) {
@@ -69,10 +68,10 @@ void Decompile(Context& context, const std::string& chosen) {
     ForgetNotWritten(context);
     const BusyForm busy(context, context.forms.frmMain);
     files.DeleteFile(chosen);
-    const bool copied = !files.FileExists(tool);
-    if (copied) CopyToolInto(context, kDecompiler, folder);
-    const std::int32_t exitCode =
-        RunAndWait(context, {files.Resolve(tool), "/NP", folder, context.session.switches.ShowCompiler});
+    const bool stands = files.FileExists(tool);
+    const bool copied = !stands && CopyToolInto(context, kDecompiler, folder);
+    const ToolStart start{files.Resolve(tool), "/NP", folder, context.session.switches.ShowCompiler};
+    const std::int32_t exitCode = stands || copied ? RunAndWait(context, start) : 0;
     NameOutput(context, folder, chosen);
     if (copied) files.DeleteFile(tool);
     TellOutcome(context, exitCode == 0, "Successfully decompiled AI Traffic.",
@@ -91,11 +90,13 @@ void CompileFlightplan(Context& context) {
     dialog.startFile = open.empty() ? std::string(kFlightPlansName) : FileName(open);
     dialog.fileMustExist = true;
     const std::string path = context.services.windows.ShowOpenDialog(dialog);
+    ForgetNotWritten(context);
     if (!path.empty()) Compile(context, context.services.files.FullPath(path));
 }
 
 void CompileCurrentFlightplan(Context& context) {
     if (!ToolIsReady(context, kCompiler, kNoCompiler)) return;
+    ForgetNotWritten(context);
     if (context.session.plan.PlanModified) {
         const MessageAnswer answer =
             AskToSave(context, "Save modified Flightplan before starting compiling?");

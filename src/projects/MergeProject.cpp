@@ -1,7 +1,7 @@
 #include "projects/MergeProject.h"
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -66,7 +66,7 @@ class MergeRun {
     // Those of the project; the plans' own count for nothing.
     bool BringAirports() {
         const std::string airports = JoinPath(projectFolder_, kAirportsName);
-        if (!files_.FileExists(airports)) {
+        if (!IsThere(files_, airports)) {
             Tell("File 'AIRPORTS.TXT' not found in Project folder.");
             return false;
         }
@@ -75,8 +75,8 @@ class MergeRun {
     }
 
     bool BringCompiler() {
-        if (files_.FileExists(JoinPath(context_.session.ProgramFolder, kCompiler))) {
-            CopyToolInto(context_, kCompiler, target_);
+        if (IsThere(files_, JoinPath(context_.session.ProgramFolder, kCompiler))) {
+            compilerCopied_ = CopyToolInto(context_, kCompiler, target_);
             return true;
         }
         Tell("File 'TCOMPILER.EXE' not found in ORLO folder.");
@@ -110,21 +110,28 @@ class MergeRun {
         return std::nullopt;
     }
 
-    // Links in the temporary folder may be anybody's and are not followed.
     void Create(LineFile& output, std::string_view name) {
         const std::string path = JoinPath(target_, name);
-        if (!mergeOnly_) files_.DeleteFile(path);
-        output.Open(files_, path);
-        if (!output.IsOpen()) ReportNotWritten(context_, path);
+        if (mergeOnly_) {
+            output.Open(files_, path);
+        } else {
+            output.Take(files_.CreateNew(path));
+        }
+        if (!output.IsOpen()) ReportOutput(name);
     }
 
     void Close(LineFile& output, std::string_view name) {
-        if (!output.Close()) ReportNotWritten(context_, JoinPath(target_, name));
+        if (!output.Close()) ReportOutput(name);
+    }
+
+    void ReportOutput(std::string_view name) {
+        ReportNotWritten(context_, mergeOnly_ ? JoinPath(target_, name) : target_);
     }
 
     bool Compile() {
         busy_.Stage("Compiling Project...", project_.ProjectEntryCount() + 1);
-        const std::int32_t exitCode = RunCompiler(context_, target_);
+        // What stands there instead of a copy that failed is not run.
+        const std::int32_t exitCode = compilerCopied_ ? RunCompiler(context_, target_) : 0;
         busy_.CloseProgress();
         if (exitCode != 0) Tell("Errors occured during compiling Project.", kMarkCritical);
         return exitCode == 0;
@@ -143,6 +150,7 @@ class MergeRun {
     FileSystem& files_;
     const ProjectState& project_;
     bool mergeOnly_;
+    bool compilerCopied_ = false;
     std::string projectFolder_;
     std::string target_;
 };

@@ -1,5 +1,7 @@
 #include "projects/OutsideTools.h"
 
+#include <vector>
+
 #include "core/Application.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -9,8 +11,18 @@
 namespace orlo {
 namespace {
 
+constexpr std::size_t kPieceSize = 64 * 1024;
+
 std::string ToolPath(const Context& context, std::string_view tool) {
     return JoinPath(context.session.ProgramFolder, tool);
+}
+
+bool CopyAll(InputFile& source, OutputFile& target) {
+    std::vector<char> buffer(kPieceSize);
+    for (std::size_t size = source.Read(buffer); size > 0; size = source.Read(buffer)) {
+        if (!target.Write({buffer.data(), size})) return false;
+    }
+    return target.Commit();
 }
 
 }  // namespace
@@ -19,7 +31,7 @@ bool ToolIsReady(Context& context, std::string_view tool, std::string_view missi
     Services& services = context.services;
     MainForm& form = context.forms.frmMain;
     const std::string path = ToolPath(context, tool);
-    if (!services.files.FileExists(path)) {
+    if (!IsThere(services.files, path)) {
         ShowMessage(services.messages, missing, kMarkExclamation, &form);
         return false;
     }
@@ -30,16 +42,22 @@ bool ToolIsReady(Context& context, std::string_view tool, std::string_view missi
     return false;
 }
 
-void CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name) {
+// The source is opened before the target goes: both may be one file.
+bool CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name) {
     FileSystem& files = context.services.files;
-    const std::string to = JoinPath(folder, name);
-    if (files.Resolve(from) == files.Resolve(to)) return;
-    files.DeleteFile(to);
-    if (!files.CopyFile(from, to)) ReportNotWritten(context, to);
+    const auto source = files.OpenForReading(from);
+    const auto target = source != nullptr ? files.CreateNew(JoinPath(folder, name)) : nullptr;
+    if (target != nullptr && CopyAll(*source, *target)) return true;
+    ReportNotWritten(context, folder);
+    return false;
 }
 
-void CopyToolInto(Context& context, std::string_view tool, const std::string& folder) {
-    CopyInto(context, ToolPath(context, tool), folder, tool);
+bool CopyToolInto(Context& context, std::string_view tool, const std::string& folder) {
+    return CopyInto(context, ToolPath(context, tool), folder, tool);
+}
+
+bool IsThere(FileSystem& files, const std::string& path) {
+    return files.OpenForReading(path) != nullptr;
 }
 
 void DeleteFrom(Context& context, const std::string& folder, std::string_view name) {

@@ -21,11 +21,14 @@ inline constexpr std::string_view kAirportsName = "Airports.txt";
 // `missing` where the file isn't there.
 bool ToolIsReady(Context& context, std::string_view tool, std::string_view missing);
 
-// Copies a file into a folder under that name, over what stands there; a link there is replaced, not
-// followed. A copy that can't be made is named in the status bar.
-void CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name);
-void CopyToolInto(Context& context, std::string_view tool, const std::string& folder);
+// Copies a file into a folder where others may write too, in place of what stands there under that name; no
+// link is followed. False where it can't be copied; the status bar then names the folder.
+bool CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name);
+bool CopyToolInto(Context& context, std::string_view tool, const std::string& folder);
 void DeleteFrom(Context& context, const std::string& folder, std::string_view name);
+
+// Whether a file that can be read stands there, and no pipe or device.
+bool IsThere(FileSystem& files, const std::string& path);
 
 // Runs the compiler that stands in the folder on the files there. The result is its exit code.
 std::int32_t RunCompiler(Context& context, const std::string& folder);

@@ -96,6 +96,7 @@ bool OpenProject(Context& context, std::string path) {
 
     BeginProject(context, context.services.files.FullPath(path), false);
     const BusyForm busy(context, form);
+    form.lvProject.SwitchSorting(false);
     ReadProject(project, context.services.files, project.ProjectPath);
     ShowProjectEntries(context);
     project.ProjectLoaded = true;

@@ -88,7 +88,6 @@ std::vector<ProjectEntry> EntriesAsShown(const ListView& list) {
 void ShowProjectEntries(Context& context) {
     ListView& list = context.forms.frmMain.lvProject;
     list.Clear();
-    list.SwitchSorting(false);
     for (const ProjectEntry& entry : context.session.project.ProjectEntries) list.Add(RowOf(entry));
     ShowProjectEntry(context, list.current);
 }

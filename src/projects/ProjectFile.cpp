@@ -1,7 +1,5 @@
 #include "projects/ProjectFile.h"
 
-#include <array>
-
 #include "core/Path.h"
 #include "core/Text.h"
 #include "core/TextLines.h"

@@ -77,6 +77,10 @@ class FileSystem {
     // closes it; without a Commit its end does.
     virtual std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) = 0;
 
+    // A new file written in place, in a folder where others may write too: what stands under its name, in any
+    // case, is deleted, and no link is followed. Null where something still stands there then.
+    virtual std::unique_ptr<OutputFile> CreateNew(const std::string& path) = 0;
+
     virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole
     // Replaces `to`, which is spelled as given.
     virtual bool RenameFile(const std::string& from, const std::string& to) = 0;

@@ -4,6 +4,7 @@
 
 #include <csignal>
 
+#include "core/TextLines.h"
 #include "platform/ChildProcess.h"
 #include "platform/TemporaryFolder.h"
 
@@ -61,6 +62,24 @@ TEST(PosixOutput, LinksAreFollowedAndStayLinks) {
     EXPECT_TRUE(fs::is_symlink(folder.Path("dangling.txt")));
     EXPECT_EQ(folder.Entries("real"), 2u);
     EXPECT_EQ(folder.Entries("links"), 1u);
+}
+
+TEST(PosixOutput, ANewFileTakesThePlaceOfALinkAndLeavesItsTarget) {
+    const TemporaryFolder folder;
+    folder.Put("secret.txt", "kept");
+    fs::create_symlink(folder.Path("secret.txt"), folder.Path("plan.txt"));
+    fs::create_directory(folder.Path("Aircraft.txt"));
+    PosixFileSystem files;
+    const auto file = files.CreateNew(folder.Path("plan.txt"));
+    ASSERT_TRUE(file && file->Write("new") && file->Commit());
+    EXPECT_EQ(ReadWholeFile(files, folder.Path("plan.txt")), "new");
+    EXPECT_FALSE(fs::is_symlink(folder.Path("plan.txt")));
+    EXPECT_EQ(ReadWholeFile(files, folder.Path("secret.txt")), "kept");
+    EXPECT_EQ(files.CreateNew(folder.Path("Aircraft.txt")), nullptr) << "a folder stands there";
+
+    fs::create_directory(folder.Path("Sub"));
+    EXPECT_TRUE(files.RenameFile(folder.Path("PLAN.txt"), folder.Path("sub/Named As Given.txt")));
+    EXPECT_EQ(ReadWholeFile(files, folder.Path("Sub/Named As Given.txt")), "new");
 }
 
 TEST(PosixOutput, DevicesPipesAndNamesThatAreTooLongAreRefused) {

@@ -57,6 +57,11 @@ class MemoryFileSystem : public FileSystem {
         if (failCreate) return nullptr;
         return std::make_unique<Writer>(*this, Resolve(path), true);
     }
+    std::unique_ptr<OutputFile> CreateNew(const std::string& path) override {
+        if (failCreate) return nullptr;
+        files.erase(Resolve(path));
+        return std::make_unique<Writer>(*this, path, true);
+    }
     bool CopyFile(const std::string& from, const std::string& to) override {
         if (!FileExists(from) || failCreate) return false;
         files[Resolve(to)] = std::string(files[Resolve(from)]);

@@ -97,6 +97,11 @@ std::unique_ptr<OutputFile> PosixFileSystem::CreateInPlace(const std::string& pa
     return OpenInPlace(ResolveNames(path));
 }
 
+std::unique_ptr<OutputFile> PosixFileSystem::CreateNew(const std::string& path) {
+    DeleteFile(path);
+    return OpenNew(path);
+}
+
 bool PosixFileSystem::CopyFile(const std::string& from, const std::string& to) {
     if (!IsUsablePath(from)) return false;
     const PosixHandle source = OpenRegular(ResolveNames(from), O_RDONLY);
@@ -107,7 +112,9 @@ bool PosixFileSystem::CopyFile(const std::string& from, const std::string& to) {
 }
 
 bool PosixFileSystem::RenameFile(const std::string& from, const std::string& to) {
-    return FileExists(from) && IsUsablePath(to) && rename(ResolveNames(from).c_str(), to.c_str()) == 0;
+    if (!FileExists(from) || !IsUsablePath(to)) return false;
+    const std::string target = JoinPath(ResolveNames(ParentFolder(to)), FileName(to));
+    return rename(ResolveNames(from).c_str(), target.c_str()) == 0;
 }
 
 bool PosixFileSystem::DeleteFile(const std::string& path) {

@@ -85,4 +85,11 @@ std::unique_ptr<OutputFile> OpenInPlace(const std::string& path) {
     return std::make_unique<InPlaceFile<PosixHandle>>(std::move(file));
 }
 
+std::unique_ptr<OutputFile> OpenNew(const std::string& path) {
+    if (!IsUsablePath(path)) return nullptr;
+    PosixHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+    if (!file.IsOpen()) return nullptr;
+    return std::make_unique<InPlaceFile<PosixHandle>>(std::move(file));
+}
+
 }  // namespace orlo

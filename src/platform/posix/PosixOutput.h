@@ -16,4 +16,7 @@ std::unique_ptr<OutputFile> OpenReplacing(const std::string& path, mode_t newMod
 // See FileSystem::CreateInPlace. Destroyed without a Commit, it still writes what it was given.
 std::unique_ptr<OutputFile> OpenInPlace(const std::string& path);
 
+// See FileSystem::CreateNew. Null where anything stands there.
+std::unique_ptr<OutputFile> OpenNew(const std::string& path);
+
 }  // namespace orlo

@@ -45,7 +45,9 @@ std::string OnSearchPath(std::initializer_list<std::string_view> names) {
         while (!left.empty()) {
             const std::size_t end = std::min(left.find(':'), left.size());
             const std::string path = JoinPath(left.substr(0, end), name);
-            if (path.front() == '/' && access(path.c_str(), X_OK) == 0) return path;
+            struct stat facts {};
+            const bool isFile = stat(path.c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
+            if (path.front() == '/' && isFile && access(path.c_str(), X_OK) == 0) return path;
             left.remove_prefix(std::min(end + 1, left.size()));
         }
     }

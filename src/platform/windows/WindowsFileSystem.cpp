@@ -100,6 +100,11 @@ std::unique_ptr<OutputFile> WindowsFileSystem::CreateInPlace(const std::string& 
     return OpenInPlace(path);
 }
 
+std::unique_ptr<OutputFile> WindowsFileSystem::CreateNew(const std::string& path) {
+    DeleteFile(path);
+    return OpenNew(path);
+}
+
 bool WindowsFileSystem::CopyFile(const std::string& from, const std::string& to) {
     const WindowsHandle source = OpenOnDisk(from, OpenFor::Reading);
     if (!source.IsOpen()) return false;

@@ -61,4 +61,13 @@ std::unique_ptr<OutputFile> OpenInPlace(const std::string& path) {
     return std::make_unique<InPlaceFile<WindowsHandle>>(std::move(file));
 }
 
+std::unique_ptr<OutputFile> OpenNew(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    if (systemPath.empty()) return nullptr;
+    WindowsHandle file(CreateFileW(systemPath.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen()) return nullptr;
+    return std::make_unique<InPlaceFile<WindowsHandle>>(std::move(file));
+}
+
 }  // namespace orlo
