@@ -10,6 +10,17 @@
 
 namespace orlo {
 
+std::string AskForSavePath(Context& context, std::string_view title, std::string_view startFile,
+                           std::string_view filter) {
+    FileDialog dialog;
+    dialog.title = title;
+    dialog.startFile = startFile;
+    dialog.filter = filter;
+    dialog.overwritePrompt = true;
+    const std::string path = context.services.windows.ShowSaveDialog(dialog);
+    return path.empty() ? path : context.services.files.FullPath(path);
+}
+
 MessageAnswer AskToSave(Context& context, std::string_view question) {
     return ShowMessage(context.services.messages, question, kButtonsYesNoCancel | kMarkQuestion,
                        &context.forms.frmMain);
@@ -53,14 +64,10 @@ void SaveFlightplanAs(Context& context) {
         context.forms.frmMain.sbMain.text = "No Flightplan is loaded that could be saved.";
         return;
     }
-    FileDialog dialog;
-    dialog.title = "Save Flightplan as...";
-    dialog.filter = kTextFileFilter;
-    dialog.startFile = context.session.plan.FlightplanPath;
-    dialog.overwritePrompt = true;
-    const std::string path = context.services.windows.ShowSaveDialog(dialog);
+    const std::string path =
+        AskForSavePath(context, "Save Flightplan as...", context.session.plan.FlightplanPath);
     if (path.empty()) return;
-    context.session.plan.FlightplanPath = context.services.files.FullPath(path);
+    context.session.plan.FlightplanPath = path;
     AddRecentFlightplan(context, context.session.plan.FlightplanPath);
     SaveFlightplanCommand(context);
 }

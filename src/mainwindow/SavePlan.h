@@ -8,6 +8,10 @@ namespace orlo {
 // The filter of the dialogs for text files.
 inline constexpr std::string_view kTextFileFilter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
 
+// Asks where to save; the path is full, and empty on a cancel.
+std::string AskForSavePath(Context& context, std::string_view title, std::string_view startFile,
+                           std::string_view filter = kTextFileFilter);
+
 // Asks a question about unsaved work, with Yes, No and Cancel.
 MessageAnswer AskToSave(Context& context, std::string_view question);
 MessageAnswer AskToSavePlan(Context& context);

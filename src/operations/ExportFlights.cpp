@@ -12,17 +12,6 @@
 namespace orlo {
 namespace {
 
-// Empty on cancel.
-std::string AskForExportPath(Context& context, std::string_view title, std::string_view startFile) {
-    FileDialog dialog;
-    dialog.title = title;
-    dialog.startFile = startFile;
-    dialog.filter = kTextFileFilter;
-    dialog.overwritePrompt = true;
-    const std::string path = context.services.windows.ShowSaveDialog(dialog);
-    return path.empty() ? path : context.services.files.FullPath(path);
-}
-
 void WriteExport(Context& context, const std::string& path, const FlightList& flights) {
     ForgetNotWritten(context);
     const PlanWriteResult written =
@@ -60,7 +49,7 @@ FlightList Remainder(const Session& session) {
 }  // namespace
 
 void ExportFlights(Context& context) {
-    const std::string path = AskForExportPath(context, "Export - Save Flightplan", "Export FlightPlans.txt");
+    const std::string path = AskForSavePath(context, "Export - Save Flightplan", "Export FlightPlans.txt");
     if (path.empty()) return;
     {
         const BusyForm busy(context, context.forms.frmMain);
@@ -71,7 +60,7 @@ void ExportFlights(Context& context) {
 
 void ExportRemainder(Context& context) {
     const std::string path =
-        AskForExportPath(context, "Export remaining flights - Save Flightplan", "Remaining FlightPlans.txt");
+        AskForSavePath(context, "Export remaining flights - Save Flightplan", "Remaining FlightPlans.txt");
     if (path.empty()) return;
     {
         const BusyForm busy(context, context.forms.frmMain);

@@ -12,6 +12,7 @@
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
 #include "mainwindow/PlanChange.h"
+#include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
 #include "mainwindow/TreeSelection.h"
 #include "operations/MoveTraffic.h"
@@ -143,19 +144,13 @@ void ExecuteAction(Context& context) {
 bool SaveMoverAction(Context& context, std::int32_t percent) {
     Services& services = context.services;
     MainForm& form = context.forms.frmMain;
-    FileDialog dialog;
-    dialog.title = "Save Action";
-    dialog.startFile = "ORLO Action.orloa";
-    dialog.filter = kActionFilter;
-    dialog.overwritePrompt = true;
-    const std::string path = services.windows.ShowSaveDialog(dialog);
+    const std::string path = AskForSavePath(context, "Save Action", "ORLO Action.orloa", kActionFilter);
     if (path.empty()) return false;
     {
         const BusyForm busy(context, form);
         ForgetNotWritten(context);
         const std::string text = MoverActionText(ActionOfForm(form, percent));
-        if (!ReplaceWholeFile(services.files, path, text))
-            ReportNotWritten(context, services.files.FullPath(path));
+        if (!ReplaceWholeFile(services.files, path, text)) ReportNotWritten(context, path);
     }
     ShowMessage(services.messages, "Successfully saved Mover action.", kMarkInformation, &form);
     return true;

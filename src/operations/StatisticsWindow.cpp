@@ -81,12 +81,8 @@ void PrintTimetableStatistics(Context& context) {
 void SaveTimetableStatistics(Context& context) {
     Services& services = context.services;
     TTStatisticsForm& form = context.forms.frmTTStatistics;
-    FileDialog dialog;
-    dialog.title = "Save Airport Timetable Statistics";
-    dialog.startFile = "Airport Timetable Statistics.txt";
-    dialog.filter = kTextFileFilter;
-    dialog.overwritePrompt = true;
-    const std::string path = services.windows.ShowSaveDialog(dialog);
+    const std::string path =
+        AskForSavePath(context, "Save Airport Timetable Statistics", "Airport Timetable Statistics.txt");
     if (path.empty()) return;
     ForgetNotWritten(context);
     const bool written = ReplaceWholeFile(services.files, path, TextOf(form));

@@ -97,12 +97,7 @@ void PrintTimetable(Context& context) {
 void SaveTimetable(Context& context) {
     Services& services = context.services;
     MainForm& form = context.forms.frmMain;
-    FileDialog dialog;
-    dialog.title = "Save Airport Timetable";
-    dialog.startFile = "Airport Timetable.txt";
-    dialog.filter = kTextFileFilter;
-    dialog.overwritePrompt = true;
-    const std::string path = services.windows.ShowSaveDialog(dialog);
+    const std::string path = AskForSavePath(context, "Save Airport Timetable", "Airport Timetable.txt");
     if (path.empty()) return;
     ForgetNotWritten(context);
     bool written = false;

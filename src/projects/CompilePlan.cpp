@@ -37,19 +37,20 @@ bool HasSideFiles(Context& context, const std::string& folder) {
     return all;
 }
 
+std::int32_t RunCompilerOn(Context& context, const std::string& flightplan, const std::string& folder) {
+    CompilerFolder compiler(context);
+    compiler.CopyCompiler();
+    compiler.Copy(flightplan, kFlightPlansName);
+    for (const std::string_view name : {kAircraftName, kAirportsName})
+        compiler.Copy(JoinPath(folder, name), name);
+    return compiler.Run();
+}
+
 void Compile(Context& context, const std::string& flightplan) {
-    const std::string temporary = context.services.processes.TemporaryFolder();
     const std::string folder = ParentFolder(flightplan);
     const BusyForm busy(context, context.forms.frmMain);
     if (!HasSideFiles(context, folder)) return;
-    const bool copied = CopyToolInto(context, kCompiler, temporary);
-    CopyInto(context, flightplan, temporary, kFlightPlansName);
-    for (const std::string_view name : {kAircraftName, kAirportsName})
-        CopyInto(context, JoinPath(folder, name), temporary, name);
-    const std::int32_t exitCode = copied ? RunCompiler(context, temporary) : 0;
-    for (const std::string_view name : {kCompiler, kFlightPlansName, kAircraftName, kAirportsName})
-        DeleteFrom(context, temporary, name);
-    TellOutcome(context, exitCode == 0, "Successfully compiled AI Traffic.",
+    TellOutcome(context, RunCompilerOn(context, flightplan, folder) == 0, "Successfully compiled AI Traffic.",
                 "Errors occured during compiling AI Traffic.");
 }
 
@@ -108,13 +109,8 @@ void CompileCurrentFlightplan(Context& context) {
 
 void DecompileFlightplan(Context& context) {
     if (!ToolIsReady(context, kDecompiler, kNoDecompiler)) return;
-    FileDialog dialog;
-    dialog.title = "Decompile - Choose Output File";
-    dialog.filter = kTextFileFilter;
-    dialog.startFile = kFlightPlansName;
-    dialog.overwritePrompt = true;
-    const std::string path = context.services.windows.ShowSaveDialog(dialog);
-    if (!path.empty()) Decompile(context, context.services.files.FullPath(path));
+    const std::string path = AskForSavePath(context, "Decompile - Choose Output File", kFlightPlansName);
+    if (!path.empty()) Decompile(context, path);
 }
 
 }  // namespace orlo

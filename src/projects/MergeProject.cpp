@@ -1,7 +1,6 @@
 #include "projects/MergeProject.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -26,31 +25,25 @@ class MergeRun {
           busy_(busy),
           files_(context.services.files),
           project_(context.session.project),
-          mergeOnly_(mergeOnly),
-          projectFolder_(ParentFolder(project_.ProjectPath)),
-          target_(mergeOnly ? projectFolder_ : context.services.processes.TemporaryFolder()) {}
+          folder_(ParentFolder(project_.ProjectPath)) {
+        if (!mergeOnly) compiler_.emplace(context);
+    }
 
     bool Run() {
         if (!HasAircraft()) {
             Tell("At least one Aircraft file should be assigned to the Project.");
             return false;
         }
-        if (!BringAirports() || (!mergeOnly_ && !BringCompiler())) return false;
+        if (!BringAirports() || (compiler_ && !BringCompiler())) return false;
         if (const auto missing = Merge()) {
             busy_.CloseProgress();
             Tell(Concat("File '", *missing, "' not found."));
-            CleanUp();
-            Delete({kAircraftName, kFlightPlansName});
+            if (!compiler_) DeleteOutputs();
             return false;
         }
-        if (mergeOnly_) {
-            busy_.CloseProgress();
-            return true;
-        }
-        const bool compiled = Compile();
-        CleanUp();
-        Delete({kAircraftName, kFlightPlansName});
-        return compiled;
+        if (compiler_) return Compile();
+        busy_.CloseProgress();
+        return true;
     }
 
   private:
@@ -65,22 +58,21 @@ class MergeRun {
 
     // Those of the project; the plans' own count for nothing.
     bool BringAirports() {
-        const std::string airports = JoinPath(projectFolder_, kAirportsName);
+        const std::string airports = JoinPath(folder_, kAirportsName);
         if (!IsThere(files_, airports)) {
             Tell("File 'AIRPORTS.TXT' not found in Project folder.");
             return false;
         }
-        if (!mergeOnly_) CopyInto(context_, airports, target_, kAirportsName);
+        if (compiler_) compiler_->Copy(airports, kAirportsName);
         return true;
     }
 
     bool BringCompiler() {
         if (IsThere(files_, JoinPath(context_.session.ProgramFolder, kCompiler))) {
-            compilerCopied_ = CopyToolInto(context_, kCompiler, target_);
+            compiler_->CopyCompiler();
             return true;
         }
         Tell("File 'TCOMPILER.EXE' not found in ORLO folder.");
-        Delete({kAirportsName});
         return false;
     }
 
@@ -111,48 +103,35 @@ class MergeRun {
     }
 
     void Create(LineFile& output, std::string_view name) {
-        const std::string path = JoinPath(target_, name);
-        if (mergeOnly_) {
-            output.Open(files_, path);
-        } else {
-            output.Take(files_.CreateNew(path));
-        }
-        if (!output.IsOpen()) ReportOutput(name);
+        if (compiler_) return output.Take(compiler_->Create(name));
+        output.Open(files_, JoinPath(folder_, name));
+        if (!output.IsOpen()) ReportNotWritten(context_, JoinPath(folder_, name));
     }
 
     void Close(LineFile& output, std::string_view name) {
-        if (!output.Close()) ReportOutput(name);
+        if (output.Close()) return;
+        ReportNotWritten(context_, compiler_ ? compiler_->Path() : JoinPath(folder_, name));
     }
 
-    void ReportOutput(std::string_view name) {
-        ReportNotWritten(context_, mergeOnly_ ? JoinPath(target_, name) : target_);
+    void DeleteOutputs() {
+        for (const std::string_view name : {kAircraftName, kFlightPlansName})
+            files_.DeleteFile(JoinPath(folder_, name));
     }
 
     bool Compile() {
         busy_.Stage("Compiling Project...", project_.ProjectEntryCount() + 1);
-        // What stands there instead of a copy that failed is not run.
-        const std::int32_t exitCode = compilerCopied_ ? RunCompiler(context_, target_) : 0;
+        const std::int32_t exitCode = compiler_->Run();
         busy_.CloseProgress();
         if (exitCode != 0) Tell("Errors occured during compiling Project.", kMarkCritical);
         return exitCode == 0;
-    }
-
-    void CleanUp() {
-        if (!mergeOnly_) Delete({kCompiler, kAirportsName});
-    }
-
-    void Delete(std::initializer_list<std::string_view> names) {
-        for (const std::string_view name : names) DeleteFrom(context_, target_, name);
     }
 
     Context& context_;
     BusyForm& busy_;
     FileSystem& files_;
     const ProjectState& project_;
-    bool mergeOnly_;
-    bool compilerCopied_ = false;
-    std::string projectFolder_;
-    std::string target_;
+    std::string folder_;                      // of the project
+    std::optional<CompilerFolder> compiler_;  // none where the merge is all
 };
 
 void MergeInFrame(Context& context, bool mergeOnly, std::string_view done) {

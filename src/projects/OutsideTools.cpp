@@ -60,13 +60,35 @@ bool IsThere(FileSystem& files, const std::string& path) {
     return files.OpenForReading(path) != nullptr;
 }
 
-void DeleteFrom(Context& context, const std::string& folder, std::string_view name) {
-    context.services.files.DeleteFile(JoinPath(folder, name));
+CompilerFolder::CompilerFolder(Context& context)
+    : context_(context), folder_(context.services.processes.TemporaryFolder()) {}
+
+CompilerFolder::~CompilerFolder() {
+    for (const std::string_view name : names_) context_.services.files.DeleteFile(JoinPath(folder_, name));
 }
 
-std::int32_t RunCompiler(Context& context, const std::string& folder) {
-    const bool shown = context.session.switches.ShowCompiler;
-    return RunAndWait(context, {JoinPath(folder, kCompiler), shown ? "/EP" : "/NP", folder, shown});
+void CompilerFolder::Copy(const std::string& from, std::string_view name) {
+    names_.push_back(name);
+    CopyInto(context_, from, folder_, name);
+}
+
+std::unique_ptr<OutputFile> CompilerFolder::Create(std::string_view name) {
+    names_.push_back(name);
+    auto file = context_.services.files.CreateNew(JoinPath(folder_, name));
+    if (file == nullptr) ReportNotWritten(context_, folder_);
+    return file;
+}
+
+void CompilerFolder::CopyCompiler() {
+    names_.push_back(kCompiler);
+    hasCompiler_ = CopyToolInto(context_, kCompiler, folder_);
+}
+
+// What stands there instead of a copy that failed is another user's.
+std::int32_t CompilerFolder::Run() {
+    if (!hasCompiler_) return 0;
+    const bool shown = context_.session.switches.ShowCompiler;
+    return RunAndWait(context_, {JoinPath(folder_, kCompiler), shown ? "/EP" : "/NP", folder_, shown});
 }
 
 }  // namespace orlo

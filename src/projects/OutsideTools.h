@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "mainwindow/Context.h"
 
@@ -21,16 +23,36 @@ inline constexpr std::string_view kAirportsName = "Airports.txt";
 // `missing` where the file isn't there.
 bool ToolIsReady(Context& context, std::string_view tool, std::string_view missing);
 
+// Whether a file that can be read stands there, and no pipe or device.
+bool IsThere(FileSystem& files, const std::string& path);
+
 // Copies a file into a folder where others may write too, in place of what stands there under that name; no
 // link is followed. False where it can't be copied; the status bar then names the folder.
 bool CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name);
 bool CopyToolInto(Context& context, std::string_view tool, const std::string& folder);
-void DeleteFrom(Context& context, const std::string& folder, std::string_view name);
 
-// Whether a file that can be read stands there, and no pipe or device.
-bool IsThere(FileSystem& files, const std::string& path);
+// What the compiler works on in the system's temporary folder, and the compiler itself. What was put there
+// is deleted when this ends. The status bar names the folder where something can't be put there.
+class CompilerFolder {
+  public:
+    explicit CompilerFolder(Context& context);
+    ~CompilerFolder();
+    CompilerFolder(const CompilerFolder&) = delete;
+    CompilerFolder& operator=(const CompilerFolder&) = delete;
 
-// Runs the compiler that stands in the folder on the files there. The result is its exit code.
-std::int32_t RunCompiler(Context& context, const std::string& folder);
+    const std::string& Path() const { return folder_; }
+    void Copy(const std::string& from, std::string_view name);
+    // A new file; null where there can be none.
+    std::unique_ptr<OutputFile> Create(std::string_view name);
+    void CopyCompiler();
+    // The exit code. Without a copy of the compiler nothing is run, which counts as 0.
+    std::int32_t Run();
+
+  private:
+    Context& context_;
+    std::string folder_;
+    std::vector<std::string_view> names_;
+    bool hasCompiler_ = false;
+};
 
 }  // namespace orlo

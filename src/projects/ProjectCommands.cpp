@@ -114,14 +114,10 @@ bool SaveProject(Context& context) {
 
 bool SaveProjectAs(Context& context) {
     ProjectState& project = context.session.project;
-    FileDialog dialog;
-    dialog.title = "Save Project as...";
-    dialog.filter = kProjectFilter;
-    dialog.startFile = project.ProjectPath;
-    dialog.overwritePrompt = true;
-    const std::string path = context.services.windows.ShowSaveDialog(dialog);
+    const std::string path =
+        AskForSavePath(context, "Save Project as...", project.ProjectPath, kProjectFilter);
     if (path.empty()) return false;
-    project.ProjectPath = context.services.files.FullPath(path);
+    project.ProjectPath = path;
     AddRecentProject(context, project.ProjectPath);
     WriteInFrame(context);
     return true;
