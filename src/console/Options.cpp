@@ -72,7 +72,8 @@ lines that start with # are skipped. A word with blanks stands in double quotes,
   click NAME                      presses a button or chooses a menu entry
   set NAME TEXT                   fills a field and leaves it; chooses a combo box entry (#INDEX by place);
                                   sets a check box, option or tick entry on or off; selects a tab by its key
-  type NAME TEXT                  fills a field without leaving it
+  type NAME TEXT                  fills a field without leaving it; in one of several lines \n is a line end
+                                  and \\ a backslash, with set too
   node TREE TEXT on|off           checks or unchecks the node of that text or key
   select LIST all|none|ROW[,...]  selects rows, counted from 0
   current LIST ROW                clicks a row        dblclick LIST ROW  double-clicks it

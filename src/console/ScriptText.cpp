@@ -40,6 +40,20 @@ std::optional<std::vector<std::string>> SplitScriptLine(std::string_view line) {
     }
 }
 
+std::string TypedLines(std::string_view word) {
+    std::string typed;
+    for (std::size_t at = 0; at < word.size(); ++at) {
+        const char next = word[at] == '\\' && at + 1 < word.size() ? word[at + 1] : '\0';
+        if (next == 'n') {
+            typed.append("\r\n");
+        } else {
+            typed.push_back(word[at]);
+        }
+        if (next == 'n' || next == '\\') ++at;
+    }
+    return typed;
+}
+
 std::string Printed(std::string_view text) {
     return ToScreen(WithEscapes(text));
 }

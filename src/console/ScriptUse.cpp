@@ -17,6 +17,12 @@ bool IsNamed(std::string_view text, std::string_view word) {
     return EqualNoCase(text, word) || EqualNoCase(text, FromScreen(word));
 }
 
+// What the script's word types into the field.
+std::string TypedText(const TextBox& field, const std::string& word) {
+    const std::string text = FromScreen(word);
+    return field.style == TextBoxStyle::SingleLine ? text : TypedLines(text);
+}
+
 // A pane behind another tab, which is a Picture, doesn't count as hidden.
 bool IsHidden(const Control& control) {
     for (const Control* at = &control; at != nullptr; at = at->parent) {
@@ -106,7 +112,7 @@ void ScriptCommands::Type(const Words& words) {
     auto& field = UsableAs<TextBox>(words[1], ControlKind::TextBox);
     if (!acts_.Reach(field)) return;
     if (field.readOnly) throw ScriptEnd{Concat(field.name, " is read-only")};
-    acts_.Type(field, FromScreen(words[2]));
+    acts_.Type(field, TypedText(field, words[2]));
 }
 
 void ScriptCommands::Set(const Words& words) {
@@ -134,7 +140,7 @@ void ScriptCommands::Set(const Words& words) {
 
 void ScriptCommands::SetText(TextBox& field, const std::string& word) {
     if (field.readOnly) throw ScriptEnd{Concat(field.name, " is read-only")};
-    acts_.Type(field, FromScreen(word));
+    acts_.Type(field, TypedText(field, word));
     acts_.LeaveField(field);
 }
 

@@ -27,6 +27,17 @@ TEST(ScriptText, WordsAreSplitAtBlanksAndQuotesHoldThem) {
     for (const Case& c : cases) EXPECT_EQ(SplitScriptLine(c.line), c.words) << c.line;
 }
 
+TEST(ScriptText, ALineEndAndABackslashAreTypedIntoAFieldOfSeveralLines) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", ""},
+        {R"(one\ntwo\n)", "one\r\ntwo\r\n"},
+        {R"(C:\\new)", R"(C:\new)"},
+        {R"(\\n\\\n)", "\\n\\\r\n"},
+        {R"(\t\)", R"(\t\)"},
+    };
+    for (const auto& [word, typed] : cases) EXPECT_EQ(TypedLines(word), typed) << word;
+}
+
 TEST(ScriptText, WhatWouldBreakALineIsEscaped) {
     EXPECT_EQ(Printed("a\tb\r\nc\nd\re\\f\xE9"), "a\\tb\\nc\\nd\\ne\\f\xC3\xA9");
     EXPECT_EQ(PrintedMessage("C:\\new\nline"), "C:\\\\new\\nline");

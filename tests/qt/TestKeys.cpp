@@ -180,6 +180,11 @@ TEST_F(Typing, TextsAreBytesInsideAndCharactersOnTheScreen) {
     EXPECT_EQ(form.txtNotes.text, "\r\none\r\ntwo");
     EXPECT_EQ(form.Ran("Change txtNotes"), 1);
     EXPECT_EQ(form.Ran("Click cmdGo"), 0);
+
+    // As a script types it.
+    test::ReplaceText(form.txtNotes, "C:\\new\r\n\r\nend");
+    desktop.LetRun();
+    EXPECT_EQ(form.txtNotes.text, "C:\\new\r\n\r\nend");
 }
 
 }  // namespace

@@ -147,7 +147,13 @@ void PressKeys(QWidget& window, const std::string& keys) {
 }
 
 void TypeText(QWidget& window, const std::string& text) {
-    for (const char character : text) QTest::keyClick(window.windowHandle(), character);
+    for (const char character : text) {
+        if (character == '\n') {
+            QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+        } else if (character != '\r') {
+            QTest::keyClick(window.windowHandle(), character);
+        }
+    }
 }
 
 void ClickButton(const Control& control) {

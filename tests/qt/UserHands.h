@@ -23,6 +23,7 @@ void ClickAt(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftBut
              Qt::KeyboardModifiers keys = Qt::NoModifier);
 // To the pop-up that is open, else to the window.
 void PressKeys(QWidget& window, const std::string& keys);  // as "Alt+F"
+// Return for each line end.
 void TypeText(QWidget& window, const std::string& text);
 
 void ClickButton(const Control& control);  // also a check box and an option button
