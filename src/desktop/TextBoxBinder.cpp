@@ -12,22 +12,25 @@
 namespace orlo {
 namespace {
 
-constexpr int kPageColumns = 64;
-constexpr int kPageLines = 26;
+// What a text box wants to show, in characters.
+struct PageSize {
+    int columns;
+    int lines;
+};
+constexpr PageSize kReport{64, 26};
+constexpr PageSize kNote{60, 12};
 
-// Wants to be as large as a page of a report.
 class PageEdit : public QPlainTextEdit {
   public:
-    using QPlainTextEdit::QPlainTextEdit;
+    PageEdit(QWidget& parent, PageSize page) : QPlainTextEdit(&parent), page_(page) {}
     QSize sizeHint() const override {
         const QFontMetrics metrics(font());
-        return {metrics.horizontalAdvance('0') * kPageColumns, metrics.lineSpacing() * kPageLines};
+        return {metrics.horizontalAdvance('0') * page_.columns, metrics.lineSpacing() * page_.lines};
     }
-};
 
-QPlainTextEdit* MakeEdit(TextBoxStyle style, QWidget& parent) {
-    return style == TextBoxStyle::FixedFont ? new PageEdit(&parent) : new QPlainTextEdit(&parent);
-}
+  private:
+    PageSize page_;
+};
 
 Qt::CursorShape FieldCursor(PointerShape shape) {
     return shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::IBeamCursor;
@@ -79,7 +82,7 @@ void LineBinder::TakeRequests() {
 }
 
 TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
-    : Binder(box, *MakeEdit(box.style, parent), sink),
+    : Binder(box, *new PageEdit(parent, box.style == TextBoxStyle::FixedFont ? kReport : kNote), sink),
       box_(box),
       shown_(static_cast<QPlainTextEdit&>(Widget())) {
     shown_.setTabChangesFocus(true);

@@ -6,6 +6,7 @@
 #include "forms/ProgressForm.h"
 #include "forms/SplashForm.h"
 #include "forms/TTStatisticsForm.h"
+#include "forms/TextEditForm.h"
 
 namespace orlo {
 
@@ -17,6 +18,7 @@ struct Forms {
     AboutForm frmAbout;
     FlightEditForm frmFlightEdit;
     TTStatisticsForm frmTTStatistics;
+    TextEditForm frmTextEdit;
 };
 
 }  // namespace orlo

@@ -12,6 +12,7 @@ EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
 EventTable TTStatisticsEvents();
+EventTable TextEditEvents();
 
 // Makes a table's procedure of one that doesn't need the event.
 template <auto Procedure>

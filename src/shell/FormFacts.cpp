@@ -43,6 +43,7 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmAbout>(Only<AboutEvents>, kContents),
     FactsOf<&Forms::frmFlightEdit>(Only<FlightEditEvents>, "editor.html"),
     FactsOf<&Forms::frmTTStatistics>(Only<TTStatisticsEvents>, "statistics.html"),
+    FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, kContents),
 };
 
 constexpr std::size_t ListedBytes() {

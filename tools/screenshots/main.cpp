@@ -23,6 +23,7 @@
 #include "desktop/EdgeStyle.h"
 #include "desktop/FormWindow.h"
 #include "desktop/MainLayout.h"
+#include "editors/TextEditor.h"
 #include "platform/SystemServices.h"
 #include "projects/ProjectCommands.h"
 #include "shell/FormFacts.h"
@@ -88,6 +89,7 @@ class Photographer {
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
         ShowTab("TIMETABLE");
         TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
+        TakeTextEditor();
         return AllTaken();
     }
 
@@ -218,14 +220,27 @@ class Photographer {
         answering_.stop();
     }
 
-    void TakeModal(Control& opens, Form& form, const QString& name) {
+    // When it has opened; then it is closed.
+    void PhotographModal(Form& form, const QString& name) {
         QTimer::singleShot(4 * kSettle, [this, &form, name] {
             Save(WindowOf(form), name);
             taken_.insert(&form);
             host_.Post({&form, nullptr, EventKind::Close});
         });
+    }
+
+    void TakeModal(Control& opens, Form& form, const QString& name) {
+        PhotographModal(form, name);
         Click(opens);
         while (form.visible) Settle();
+    }
+
+    void TakeTextEditor() {
+        TextEditForm& form = program_.forms.frmTextEdit;
+        PhotographModal(form, "text");
+        EditText(program_.context, "Edit Description",
+                 "A regional jet with a hundred seats.\\n\\nCruise\\tFL350\\/Mach 0.74\\nRange\\t1,500 nm",
+                 form_);
     }
 
     Program& program_;
