@@ -6,6 +6,7 @@
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
 #include "operations/CorrectFlightTimes.h"
+#include "operations/GeneratedLists.h"
 #include "operations/Randomise.h"
 #include "operations/RemoveMinus.h"
 #include "projects/CompilePlan.h"
@@ -99,8 +100,8 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsRandPerc>, Click, Run<OnRandomizePercent>},
     EventEntry{InMain<&M::mnuToolsRandFlightNumbers>, Click, Run<OnRandomizeFlightNumbers>},
     EventEntry{InMain<&M::mnuToolsAirlinesCFG>, Click, Run<GenerateAirlineConfig>},
-    EventEntry{InMain<&M::mnuToolsAirportsTXT>, Click},
-    EventEntry{InMain<&M::mnuToolsFPAirportsTXT>, Click},
+    EventEntry{InMain<&M::mnuToolsAirportsTXT>, Click, Run<GenerateAirports>},
+    EventEntry{InMain<&M::mnuToolsFPAirportsTXT>, Click, Run<GeneratePlanAirports>},
     EventEntry{InMain<&M::mnuToolsDeleteCache>, Click, Run<DeleteSceneryCache>},
     EventEntry{InMain<&M::mnuToolsShowCompiler>, Click, OnSwitch},
     EventEntry{InMain<&M::mnuToolsDebug>, Click, OnSwitch},

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "operations/GeneratedLists.h"
 #include "shell/EventTables.h"
 #include "shell/ShuffleTab.h"
 #include "shell/TreeEvents.h"
@@ -21,7 +22,7 @@ constexpr std::array kShuffleEvents = {
     EventEntry{InMain<&M::txtStartNumber>, Leave, OnLeaveStartNumber},
     EventEntry{InMain<&M::cmdCalcStartNumber>, Click, Run<OnCalcStartNumber>},
     EventEntry{InMain<&M::cmdShuffle>, Click, Run<OnShuffle>},
-    EventEntry{InMain<&M::cmdACTypeDat>, Click},
+    EventEntry{InMain<&M::cmdACTypeDat>, Click, Run<GenerateCheckedAircraftTypes>},
 };
 
 constexpr std::array kShuffleResize = {

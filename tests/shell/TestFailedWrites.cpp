@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "config/AircraftClasses.h"
+#include "operations/GeneratedLists.h"
 #include "platform/common/TextSettingsStore.h"
 #include "simulator/AfdCache.h"
 #include "support/FakeProgram.h"
@@ -46,6 +47,16 @@ const std::vector<Writer> kWriters = {
      [](test::FakeProgram& fake) {
          fake.session.scenery.Airports.resize(1);
          fake.Press(fake.form.mnuToolsAirlinesCFG);
+     }},
+    {"the airports of the scenery", "/program/New Airports.txt", true,
+     [](test::FakeProgram& fake) {
+         fake.session.scenery.Airports.resize(1);
+         fake.Press(fake.form.mnuToolsAirportsTXT);
+     }},
+    {"the aircraft types", "/program/New AircraftTypes.dat", true,
+     [](test::FakeProgram& fake) {
+         fake.AddInstalled("Jet One");
+         GenerateAllAircraftTypes(fake.context, fake.form);
      }},
     {"the aircraft classes", "/program/ORLO_AC.CFG", false,
      [](test::FakeProgram& fake) { EXPECT_FALSE(WriteAircraftClasses(fake.session, fake.world.files)); }},

@@ -1,0 +1,38 @@
+#include "simulator/AircraftTypesFile.h"
+
+#include "core/KeyedIndex.h"
+#include "core/Text.h"
+
+namespace orlo {
+namespace {
+
+class TypeKeys {
+  public:
+    std::string Next(const FSAircraft& aircraft) {
+        std::string key = aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel;
+        if (!aircraft.Texture.empty()) key.append(Concat(".", aircraft.Texture));
+        if (counts_.Add(key, 1)) return key;
+        return Concat(key, "#", ++*counts_.Find(key));
+    }
+
+  private:
+    KeyedIndex<int> counts_;  // how often each was seen
+};
+
+}  // namespace
+
+std::string FormatAircraftTypes(const std::vector<FSAircraft>& aircraft,
+                                const std::function<bool(const FSAircraft&)>& isListed) {
+    std::string out;
+    TypeKeys keys;
+    for (const FSAircraft& variant : aircraft) {
+        if (!isListed(variant)) continue;
+        out.append(Concat(keys.Next(variant), ",", variant.Title, ",", variant.CruiseSpeed, ",",
+                          variant.MinFL, ",", variant.MaxFL, ",", variant.MinRange, ",", variant.MaxRange,
+                          ",", variant.RunwayLength, ",", variant.RunwayTypes, ",", variant.MinParkingRadius,
+                          ",", variant.ParkingTypes, ",", variant.IFRPercent, "\r\n"));
+    }
+    return out;
+}
+
+}  // namespace orlo
