@@ -190,8 +190,12 @@ bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messa
     return true;
 }
 
+std::string AircraftClassesPath(const Session& session) {
+    return JoinPath(session.ProgramFolder, kAircraftClassesName);
+}
+
 bool WriteAircraftClasses(const Session& session, FileSystem& files) {
-    return ReplaceWholeFile(files, JoinPath(session.ProgramFolder, kAircraftClassesName),
+    return ReplaceWholeFile(files, AircraftClassesPath(session),
                             FormatAircraftClasses(session.rules.Classes));
 }
 

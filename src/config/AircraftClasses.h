@@ -35,6 +35,8 @@ std::string FormatAircraftClasses(const ClassLists& lists);
 // lists as they were, when the file is missing or holds a line with a wrong count of parts.
 bool ReadAircraftClasses(Session& session, FileSystem& files, MessageHost& messages);
 
+std::string AircraftClassesPath(const Session& session);
+
 // Replaces the file of the program folder. False when it could not be written; the old file then stands
 // whole.
 bool WriteAircraftClasses(const Session& session, FileSystem& files);

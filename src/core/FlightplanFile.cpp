@@ -6,6 +6,7 @@
 
 #include "core/Application.h"
 #include "core/FieldScan.h"
+#include "core/FileBackup.h"
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -188,11 +189,6 @@ PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, cons
         result.RemovedWritten = !files.FileExists(removedPath);
     }
     return result;
-}
-
-void BackUpOnce(FileSystem& files, const std::string& path) {
-    const std::string backupPath = Concat(path, kBackupSuffix);
-    if (!files.FileExists(backupPath) && files.FileExists(path)) files.CopyFile(path, backupPath);
 }
 
 }  // namespace orlo

@@ -39,7 +39,4 @@ struct PlanWriteResult {
 PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
                                 bool backup);
 
-// Copies `path` to its name with ".orlo.bak" unless that stands already.
-void BackUpOnce(FileSystem& files, const std::string& path);
-
 }  // namespace orlo

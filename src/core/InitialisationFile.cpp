@@ -122,15 +122,40 @@ std::string EscapedLine(std::string_view name, std::string_view value, const Dia
                   NeedsEscapes(value) ? Escaped(value) : std::string(value));
 }
 
+bool IsValue(std::string_view line, std::string_view name, std::string_view text, const Dialect& dialect) {
+    if (HasLineBreaker(line)) return false;
+    const auto read = ValueOf(TrimWhite(line), dialect);
+    return read && read->name == name && read->text == text;
+}
+
+// The value in the quotes that it needs to be read back.
+std::string InQuotes(std::string_view value) {
+    const bool needed = WithoutQuotes(TrimWhite(value)).size() != value.size();
+    return needed ? Concat("\"", value, "\"") : std::string(value);
+}
+
 // The line that is read as this value; nothing where no line would be.
 std::optional<std::string> LineOf(std::string_view name, std::string_view value, const Dialect& dialect) {
     if (dialect.quotes == Dialect::Quotes::Escaped) return EscapedLine(name, value, dialect);
-    const bool quoted = WithoutQuotes(TrimWhite(value)).size() != value.size();
-    std::string line = Concat(name, "=", quoted ? Concat("\"", value, "\"") : std::string(value));
-    if (HasLineBreaker(line)) return std::nullopt;
-    const auto read = ValueOf(TrimWhite(line), dialect);
-    if (!read || read->name != name || read->text != value) return std::nullopt;
+    std::string line = Concat(name, "=", InQuotes(value));
+    if (!IsValue(line, name, value, dialect)) return std::nullopt;
     return line;
+}
+
+// A line of a value of that name with another value. The blanks around name and value stay, and quotes around
+// the old one surround the new one.
+std::optional<std::string> LineWith(std::string_view line, std::string_view name, std::string_view value,
+                                    const Dialect& dialect) {
+    if (dialect.quotes == Dialect::Quotes::Escaped) return LineOf(name, value, dialect);
+    const std::size_t equals = line.find('=');
+    const std::size_t begin = std::min(line.find_first_not_of(" \t", equals + 1), line.size());
+    const std::string_view old = TrimWhite(line.substr(begin));
+    const bool quoted = WithoutQuotes(old).size() != old.size();
+    std::string changed =
+        Concat(line.substr(0, begin), quoted ? Concat(old.front(), value, old.front()) : InQuotes(value),
+               line.substr(begin + old.size()));
+    if (!IsValue(changed, name, value, dialect)) return std::nullopt;
+    return changed;
 }
 
 }  // namespace
@@ -225,10 +250,11 @@ bool InitialisationFile::Set(std::string_view section, std::string_view name, st
     if (HasLineBreaker(section)) return false;
     const Entry* entry = FindEntry(section, name);
     if (entry != nullptr && Plain(entry->text) == value) return true;
-    const auto line = LineOf(entry != nullptr ? Plain(entry->name) : name, value, dialect_);
+    const Piece old = entry != nullptr ? LineAt(entry->name.begin) : Piece();
+    const auto line = entry != nullptr ? LineWith(View(old), Plain(entry->name), value, dialect_)
+                                       : LineOf(name, value, dialect_);
     if (!line) return false;
     if (entry != nullptr) {
-        const Piece old = LineAt(entry->name.begin);
         text_.replace(old.begin, old.size, *line);
     } else if (const auto found = FindSection(section)) {
         const std::size_t end = EndOf(*found);

@@ -67,13 +67,13 @@ class InitialisationFile {
     // The value without its quotes and escapes; nothing where there is none.
     std::optional<std::string> Get(std::string_view section, std::string_view name) const;
 
-    // Changes the line of the value, which keeps its line end and the spelling of its name; a value that is
-    // the same changes nothing. A new name goes behind the last value of its section and a new section to the
-    // end of the file, with the line end of the first line, CR LF where there is none. All other lines keep
-    // their bytes; only a last line without an end gets one when a line goes behind it. False, with nothing
-    // changed, where Get could not give the value back: for a line end or a zero byte in a section's name, or
-    // in a name or value of a dialect without escapes, and for a name that would be read as something else,
-    // such as one with "=" there.
+    // Changes the value in its line, which keeps its line end and the spelling of its name, and in a dialect
+    // without escapes also its blanks and quotes; a value that is the same changes nothing. A new name goes
+    // behind the last value of its section and a new section to the end of the file, with the line end of the
+    // first line, CR LF where there is none. All other lines keep their bytes; only a last line without an
+    // end gets one when a line goes behind it. False, with nothing changed, where Get could not give the
+    // value back: for a line end or a zero byte in a section's name, or in a name or value of a dialect
+    // without escapes, and for a name that would be read as something else, such as one with "=" there.
     bool Set(std::string_view section, std::string_view name, std::string_view value);
 
     const std::string& Text() const { return text_; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Application.h"
+#include "core/FileBackup.h"
 #include "core/FlightplanFile.h"
 #include "core/Number.h"
 #include "core/Path.h"

@@ -27,7 +27,9 @@ int ComboModel::rowCount(const QModelIndex& parent) const {
 
 QVariant ComboModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
-    if (role != Qt::DisplayRole || row >= combo_.entries.size()) return QVariant();
+    // An editable box asks for what is edited.
+    const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+    if (!isText || row >= combo_.entries.size()) return QVariant();
     return ShownText(combo_.entries[row].text);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/AboutForm.h"
+#include "forms/FSAircraftEditForm.h"
 #include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
@@ -18,6 +19,7 @@ struct Forms {
     AboutForm frmAbout;
     FlightEditForm frmFlightEdit;
     TTStatisticsForm frmTTStatistics;
+    FSAircraftEditForm frmFSAircraftEdit;
     TextEditForm frmTextEdit;
 };
 

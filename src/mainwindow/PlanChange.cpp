@@ -10,9 +10,10 @@
 namespace orlo {
 namespace {
 
-void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
+constexpr std::string_view kRefreshing = "Refreshing...";
+
+void ShowTreesAnew(Context& context) {
     MainForm& form = context.forms.frmMain;
-    if (!change.firstStage.empty()) busy.Stage("Refreshing...", change.stages - 1);
     {
         const FrozenForm frozen(form);
         FillAircraftTrees(form, context.session);
@@ -20,14 +21,19 @@ void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
     RefreshShuffleLabel(form);
 }
 
+void ResetViews(Context& context) {
+    ResetTimetableView(context);
+    ResetExportView(context);
+}
+
 std::string RunInFrame(Context& context, Form& form, const PlanChange& change) {
     BusyForm busy(context, form, change.stages);
     if (!change.firstStage.empty()) busy.Stage(change.firstStage, 1);
     if (change.takesSnapshot) TakeUndoSnapshot(context);
     std::string done = change.work(busy);
-    if (change.changesAircraft) ShowTreesAnew(context, change, busy);
-    ResetTimetableView(context);
-    ResetExportView(context);
+    if (change.changesAircraft && !change.firstStage.empty()) busy.Stage(kRefreshing, change.stages - 1);
+    if (change.changesAircraft) ShowTreesAnew(context);
+    ResetViews(context);
     if (change.changesAircraft) ResetMoverView(context);
     if (change.marksModified) MarkPlanModified(context);
     return done;
@@ -38,6 +44,14 @@ std::string RunInFrame(Context& context, Form& form, const PlanChange& change) {
 void ChangePlan(Context& context, Form& form, const PlanChange& change) {
     const std::string done = RunInFrame(context, form, change);
     if (!done.empty()) ShowMessage(context.services.messages, done, kMarkInformation, &form);
+}
+
+void ShowPlanAnew(Context& context) {
+    BusyForm busy(context, context.forms.frmMain, 1);
+    busy.Stage(kRefreshing, 1);
+    ShowTreesAnew(context);
+    ResetViews(context);
+    ResetMoverView(context);
 }
 
 void MarkPlanModified(Context& context) {

@@ -25,6 +25,10 @@ struct PlanChange {
 // and closes with the message.
 void ChangePlan(Context& context, Form& form, const PlanChange& change);
 
+// Fills the trees and all views of the open plan anew, over the main window, after its aircraft or the
+// installed ones have changed.
+void ShowPlanAnew(Context& context);
+
 // To be called after everything that changes flights or plan aircraft.
 void MarkPlanModified(Context& context);
 

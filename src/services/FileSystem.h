@@ -36,6 +36,12 @@ class OutputFile {
     virtual bool Commit() = 0;
 };
 
+// Bytes that are written over others of a file.
+struct FilePatch {
+    std::uint64_t position = 0;  // from the start of the file
+    std::string bytes;
+};
+
 struct FolderEntry {
     std::string name;  // without a path, as the folder spells it
     bool isFolder = false;
@@ -80,6 +86,10 @@ class FileSystem {
     // A new file written in place, in a folder where others may write too: what stands under its name, in any
     // case, is deleted, and no link is followed. Null where something still stands there then.
     virtual std::unique_ptr<OutputFile> CreateNew(const std::string& path) = 0;
+
+    // Writes over the file in place, in this order. False, with nothing changed, where it can't be opened for
+    // writing or a patch reaches beyond its end; false too where the disk failed in the middle.
+    virtual bool PatchFile(const std::string& path, std::span<const FilePatch> patches) = 0;
 
     virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole
     // Replaces `to`, which is spelled as given.

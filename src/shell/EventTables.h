@@ -12,6 +12,7 @@ EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
 EventTable TTStatisticsEvents();
+EventTable FSAircraftEditEvents();
 EventTable TextEditEvents();
 
 // Makes a table's procedure of one that doesn't need the event.

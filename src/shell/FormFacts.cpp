@@ -43,7 +43,8 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmAbout>(Only<AboutEvents>, kContents),
     FactsOf<&Forms::frmFlightEdit>(Only<FlightEditEvents>, "editor.html"),
     FactsOf<&Forms::frmTTStatistics>(Only<TTStatisticsEvents>, "statistics.html"),
-    FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, kContents),
+    FactsOf<&Forms::frmFSAircraftEdit>(Only<FSAircraftEditEvents>, "aircraft.html"),
+    FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, "aircraft.html"),
 };
 
 constexpr std::size_t ListedBytes() {

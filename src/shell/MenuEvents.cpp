@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "editors/FSAircraftEditor.h"
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
@@ -84,7 +85,7 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsCompile>, Click, Run<CompileFlightplan>},
     EventEntry{InMain<&M::mnuToolsDecompile>, Click, Run<DecompileFlightplan>},
     EventEntry{InMain<&M::mnuToolsEditPlanAircraft>, Click},
-    EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click},
+    EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click, Run<ShowFSAircraftEditor>},
     EventEntry{InMain<&M::mnuToolsAirportDistance>, Click},
     EventEntry{InMain<&M::mnuToolsAirportSearch>, Click},
     EventEntry{InMain<&M::mnuToolsResizeGates>, Click},

@@ -55,6 +55,20 @@ ClassMatch GetAircraftClass(const ClassLists& lists, std::string_view text) {
     return {};
 }
 
+ClassMatch ClassLookup::OfText(const std::string& text) {
+    if (text.empty()) return {};
+    if (const ClassMatch* known = known_.Find(text)) return *known;
+    const ClassMatch match = GetAircraftClass(lists_, text);
+    known_.Add(text, match);
+    return match;
+}
+
+ClassMatch ClassLookup::Find(const FSAircraft& aircraft) {
+    const ClassMatch ofFile = OfText(aircraft.ClassText);
+    if (ofFile.Class != kClassNone) return ofFile;
+    return OfText(aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel);
+}
+
 void ApplyAircraftClass(FSAircraft& aircraft, const ClassMatch& match, const ClassLists& lists) {
     aircraft.Class = match.Class;
     aircraft.ClassID = match.Entry != nullptr ? match.Entry->ID : std::string();

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "core/AircraftRecords.h"
+#include "core/KeyedIndex.h"
 
 namespace orlo {
 
@@ -17,9 +19,25 @@ struct ClassMatch {
 // case. An entry without an ID matches nothing.
 ClassMatch GetAircraftClass(const ClassLists& lists, std::string_view text);
 
+// The entries of many aircraft, each text looked up once. The lists must not change while it lives.
+class ClassLookup {
+  public:
+    explicit ClassLookup(const ClassLists& lists) : lists_(lists) {}
+
+    // By the model or type of [General]; where that gives no class, by the aircraft's own model, or by its
+    // type where it has none.
+    ClassMatch Find(const FSAircraft& aircraft);
+
+  private:
+    ClassMatch OfText(const std::string& text);
+
+    const ClassLists& lists_;
+    KeyedIndex<ClassMatch> known_;
+};
+
 // Sets the aircraft's class and the values that depend on it: those of the entry, or of the class profile
 // when the entry leaves levels and ranges unset. Without a class, and in Not Used, the limits are unset and
-// the cruise speed stays as the caller has set it, the file's.
+// the cruise speed is the file's.
 void ApplyAircraftClass(FSAircraft& aircraft, const ClassMatch& match, const ClassLists& lists);
 
 }  // namespace orlo

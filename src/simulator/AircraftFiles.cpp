@@ -71,6 +71,20 @@ std::string PartName(std::string_view part, std::string_view name) {
     return name.empty() ? std::string(part) : Concat(part, '.', NativePath(name));
 }
 
+bool SetConfigText(InitialisationFile& file, std::string_view section, std::string_view key,
+                   std::string_view text) {
+    const std::string old = file.Get(section, key).value_or("");
+    const std::string_view before = BeforeFirst(old, ";");
+    const std::string_view comment = std::string_view(old).substr(before.size());
+    const std::string_view blanks = before.substr(before.find_last_not_of(" \t") + 1);
+    if (comment.empty()) return file.Set(section, key, text);
+    return file.Set(section, key, text.empty() ? std::string(comment) : Concat(text, blanks, comment));
+}
+
+std::string AircraftFileProblem(const FSAircraft& aircraft, FileSystem& files) {
+    return FindProblem(aircraft, AircraftFolder(files, ParentFolder(aircraft.ConfigFile)), files);
+}
+
 void CheckAircraftFiles(Fleet& fleet, FileSystem& files) {
     std::optional<AircraftFolder> folder;
     for (FSAircraft& aircraft : fleet.FSAircrafts) {

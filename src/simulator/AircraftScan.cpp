@@ -60,10 +60,16 @@ class FolderReader {
   public:
     FolderReader(Fleet& fleet, const ClassLists& classes, FileSystem& files, const std::string& folder,
                  const InitialisationFile& file)
-        : fleet_(fleet), classLists_(classes), files_(files), folder_(folder), config_(file) {
+        : fleet_(fleet),
+          classLists_(classes),
+          files_(files),
+          folder_(folder),
+          config_(file),
+          classes_(classes) {
         common_.ConfigFile = JoinPath(folder, "aircraft.cfg");
         common_.ATCModel = config_.Text("General", "atc_model");
         common_.ATCType = config_.Text("General", "atc_type");
+        common_.ClassText = common_.ATCModel.empty() ? common_.ATCType : common_.ATCModel;
         common_.Performance = config_.Text("General", "Performance");
         const std::string speed = config_.Text("Reference Speeds", "cruise_speed");
         common_.FileCruiseSpeed = ParseWholeNumber(BeforeFirst(speed, ".")).value_or(-1);
@@ -86,7 +92,7 @@ class FolderReader {
         aircraft.Texture = config_.Text(section, "texture");
         if (detailed) ReadDetails(section, aircraft);
         ReadModelAndType(section, aircraft);
-        ApplyAircraftClass(aircraft, FindClass(aircraft), classLists_);
+        ApplyAircraftClass(aircraft, classes_.Find(aircraft), classLists_);
         const ModelRadius& model = FindModel(config_.Text(section, "model"));
         aircraft.ModelFile = model.Path;
         aircraft.ModelFormat = model.Format;
@@ -119,21 +125,6 @@ class FolderReader {
         }
     }
 
-    // By the model or type of [General]; where that gives no class, by the section's.
-    ClassMatch FindClass(const FSAircraft& aircraft) {
-        const ClassMatch ofFile = LookUpClass(common_);
-        return ofFile.Class != kClassNone ? ofFile : LookUpClass(aircraft);
-    }
-
-    ClassMatch LookUpClass(const FSAircraft& aircraft) {
-        const std::string& text = aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel;
-        if (text.empty()) return {};
-        if (const ClassMatch* known = classes_.Find(text)) return *known;
-        const ClassMatch match = GetAircraftClass(classLists_, text);
-        classes_.Add(text, match);
-        return match;
-    }
-
     const ModelRadius& FindModel(const std::string& name) {
         if (!models_.Contains(name)) models_.Add(name, ReadModelRadius(files_, folder_, name));
         return *models_.Find(name);
@@ -146,7 +137,7 @@ class FolderReader {
     ConfigFile config_;
     FSAircraft common_;
     std::size_t taken_ = 0;
-    KeyedIndex<ClassMatch> classes_;
+    ClassLookup classes_;
     KeyedIndex<ModelRadius> models_;
 };
 

@@ -53,6 +53,8 @@ TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
         "[fltsim.0]\r\n"
         "\tTitle = \"Jet\" \r"
         "title=second\n"
+        "panel =  \n"
+        "texture= 1\t\r\n"
         "\n"
         "[ General ] ; all\n"
         "; nothing\n"
@@ -63,11 +65,14 @@ TEST(InitialisationFile, AChangedValueTouchesItsOwnLineAlone) {
         std::string_view before, after;  // what the change replaces
     } cases[] = {
         {"FLTSIM.0", "title", "Jet", "", ""},
-        {"FLTSIM.0", "title", "Jumbo", "\tTitle = \"Jet\" \r", "Title=Jumbo\r"},
-        {"fltsim.0", "title", " 'a", "\tTitle = \"Jet\" \r", "Title=\" 'a\"\r"},
-        {"fltsim.0", "Title", "'a'", "\tTitle = \"Jet\" \r", "Title=\"'a'\"\r"},
-        {"fltsim.0", "sim", "c", "title=second\n", "title=second\nsim=c\n"},
+        {"FLTSIM.0", "title", "Jumbo", "\tTitle = \"Jet\" \r", "\tTitle = \"Jumbo\" \r"},
+        {"fltsim.0", "title", " 'a", "\tTitle = \"Jet\" \r", "\tTitle = \" 'a\" \r"},
+        {"fltsim.0", "Title", "'a'", "\tTitle = \"Jet\" \r", "\tTitle = \"'a'\" \r"},
+        {"fltsim.0", "sim", "c", "texture= 1\t\r\n", "texture= 1\t\r\nsim=c\n"},
         {"general", "atc_model", "A;B", "; all\n", "; all\natc_model=A;B\n"},
+        {"fltsim.0", "panel", "", "panel =  \n", "panel =  \n"},
+        {"fltsim.0", "panel", "1", "panel =  \n", "panel =  1\n"},
+        {"fltsim.0", "texture", " 2", "texture= 1\t\r\n", "texture= \" 2\"\t\r\n"},
         {"models", "normal", "", "sim=b", "sim=b\n[models]\nnormal=\n"},
     };
     for (const auto& c : cases) {

@@ -49,6 +49,20 @@ TEST_F(SystemFiles, AFileIsReadInPiecesToItsEndAndCanBeReplacedMeanwhile) {
     EXPECT_EQ(folder.Content("data.bin"), "longer");
 }
 
+TEST_F(SystemFiles, PatchesChangeTheirBytesInPlaceOrNothing) {
+    folder.Put("Model.mdl", "0123456789");
+    const std::vector<FilePatch> inside = {{8, "xy"}, {0, "ab"}};
+    EXPECT_TRUE(files.PatchFile(folder.Path("MODEL.MDL"), inside));
+    EXPECT_EQ(folder.Content("Model.mdl"), "ab234567xy");
+    const std::vector<FilePatch> beyond = {{0, "??"}, {9, "zz"}};
+    EXPECT_FALSE(files.PatchFile(folder.Path("Model.mdl"), beyond));
+    EXPECT_EQ(folder.Content("Model.mdl"), "ab234567xy");
+    EXPECT_FALSE(files.PatchFile(folder.Path("missing.mdl"), inside));
+    fs::permissions(folder.Path("Model.mdl"), fs::perms::owner_read);
+    EXPECT_FALSE(files.PatchFile(folder.Path("Model.mdl"), inside));
+    EXPECT_EQ(folder.Content("Model.mdl"), "ab234567xy");
+}
+
 TEST_F(SystemFiles, AReplacedFileIsSeenOnCommitAndNotBeforeAndKeepsItsSpelling) {
     folder.Put("Plan.txt", "old");
     const std::string large(200000, 'x');

@@ -62,6 +62,17 @@ class MemoryFileSystem : public FileSystem {
         files.erase(Resolve(path));
         return std::make_unique<Writer>(*this, path, true);
     }
+    bool PatchFile(const std::string& path, std::span<const FilePatch> patches) override {
+        const auto found = files.find(Resolve(path));
+        if (found == files.end() || failCreate) return false;
+        std::string patched = found->second;
+        for (const FilePatch& patch : patches) {
+            if (patch.position + patch.bytes.size() > patched.size()) return false;
+            patched.replace(patch.position, patch.bytes.size(), patch.bytes);
+        }
+        found->second = std::move(patched);
+        return true;
+    }
     bool CopyFile(const std::string& from, const std::string& to) override {
         if (!FileExists(from) || failCreate) return false;
         files[Resolve(to)] = std::string(files[Resolve(from)]);

@@ -89,6 +89,7 @@ class Photographer {
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
         ShowTab("TIMETABLE");
         TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
+        TakeModal(form_.mnuToolsAircraftEditor, program_.forms.frmFSAircraftEdit, "aircraft");
         TakeTextEditor();
         return AllTaken();
     }

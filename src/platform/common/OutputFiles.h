@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,6 +16,7 @@ namespace orlo {
 //   bool WriteAll(const Handle&, std::string_view bytes)            at the present place
 //   std::ptrdiff_t ReadSome(const Handle&, std::span<char> buffer)  0 at the end, negative after a failure
 //   std::optional<std::uint64_t> SizeOf(const Handle&)
+//   bool SetPlace(const Handle&, std::uint64_t place)               of the next write
 //   bool SetSize(const Handle&, std::uint64_t size)                 cuts, or adds zero bytes
 //   bool TakeRoom(const Handle&, std::uint64_t from, std::uint64_t to)
 //     has the disk set aside what the file grows by; false on a full disk
@@ -155,6 +157,19 @@ class InPlaceFile : public OutputFile {
   private:
     PieceWriter<Handle> writer_;
 };
+
+// Writes all patches, or none where one reaches beyond the end of the file.
+template <typename Handle>
+bool PatchBytes(const Handle& file, std::span<const FilePatch> patches) {
+    const std::uint64_t size = SizeOf(file).value_or(0);
+    for (const FilePatch& patch : patches) {
+        if (patch.position > size || size - patch.position < patch.bytes.size()) return false;
+    }
+    for (const FilePatch& patch : patches) {
+        if (!SetPlace(file, patch.position) || !WriteAll(file, patch.bytes)) return false;
+    }
+    return true;
+}
 
 // Copies the rest of `from`. False when it can't be read or written to its end.
 template <typename Handle>

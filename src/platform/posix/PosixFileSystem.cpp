@@ -102,6 +102,10 @@ std::unique_ptr<OutputFile> PosixFileSystem::CreateNew(const std::string& path) 
     return OpenNew(path);
 }
 
+bool PosixFileSystem::PatchFile(const std::string& path, std::span<const FilePatch> patches) {
+    return WritePatches(ResolveNames(path), patches);
+}
+
 bool PosixFileSystem::CopyFile(const std::string& from, const std::string& to) {
     if (!IsUsablePath(from)) return false;
     const PosixHandle source = OpenRegular(ResolveNames(from), O_RDONLY);

@@ -18,6 +18,7 @@ class PosixFileSystem : public FileSystem {
     std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) override;
     std::unique_ptr<OutputFile> CreateInPlace(const std::string& path) override;
     std::unique_ptr<OutputFile> CreateNew(const std::string& path) override;
+    bool PatchFile(const std::string& path, std::span<const FilePatch> patches) override;
     bool CopyFile(const std::string& from, const std::string& to) override;
     bool RenameFile(const std::string& from, const std::string& to) override;
     bool DeleteFile(const std::string& path) override;

@@ -82,6 +82,10 @@ std::optional<std::uint64_t> SizeOf(const PosixHandle& file) {
     return static_cast<std::uint64_t>(facts.st_size);
 }
 
+bool SetPlace(const PosixHandle& file, std::uint64_t place) {
+    return lseek(file.Descriptor(), static_cast<off_t>(place), SEEK_SET) >= 0;
+}
+
 bool SetSize(const PosixHandle& file, std::uint64_t size) {
     return ftruncate(file.Descriptor(), static_cast<off_t>(size)) == 0;
 }

@@ -49,6 +49,7 @@ ssize_t ReadSome(const PosixHandle& file, std::span<char> buffer);
 
 // See common/OutputFiles.h.
 std::optional<std::uint64_t> SizeOf(const PosixHandle& file);
+bool SetPlace(const PosixHandle& file, std::uint64_t place);
 bool SetSize(const PosixHandle& file, std::uint64_t size);
 bool TakeRoom(const PosixHandle& file, std::uint64_t from, std::uint64_t to);
 

@@ -85,6 +85,14 @@ std::unique_ptr<OutputFile> OpenInPlace(const std::string& path) {
     return std::make_unique<InPlaceFile<PosixHandle>>(std::move(file));
 }
 
+bool WritePatches(const std::string& path, std::span<const FilePatch> patches) {
+    if (!IsUsablePath(path)) return false;
+    const auto facts = FactsOfTarget(path);
+    if (!facts || IsReadOnly(path, *facts)) return false;
+    PosixHandle file = OpenRegular(path, O_WRONLY);
+    return file.IsOpen() && PatchBytes(file, patches) && file.Close();
+}
+
 std::unique_ptr<OutputFile> OpenNew(const std::string& path) {
     if (!IsUsablePath(path)) return nullptr;
     PosixHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));

@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <memory>
+#include <span>
 #include <string>
 
 #include "services/FileSystem.h"
@@ -18,5 +19,8 @@ std::unique_ptr<OutputFile> OpenInPlace(const std::string& path);
 
 // See FileSystem::CreateNew. Null where anything stands there.
 std::unique_ptr<OutputFile> OpenNew(const std::string& path);
+
+// See FileSystem::PatchFile.
+bool WritePatches(const std::string& path, std::span<const FilePatch> patches);
 
 }  // namespace orlo

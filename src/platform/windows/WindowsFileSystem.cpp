@@ -105,6 +105,10 @@ std::unique_ptr<OutputFile> WindowsFileSystem::CreateNew(const std::string& path
     return OpenNew(path);
 }
 
+bool WindowsFileSystem::PatchFile(const std::string& path, std::span<const FilePatch> patches) {
+    return WritePatches(path, patches);
+}
+
 bool WindowsFileSystem::CopyFile(const std::string& from, const std::string& to) {
     const WindowsHandle source = OpenOnDisk(from, OpenFor::Reading);
     if (!source.IsOpen()) return false;

@@ -114,6 +114,12 @@ std::optional<std::uint64_t> SizeOf(const WindowsHandle& file) {
     return static_cast<std::uint64_t>(size.QuadPart);
 }
 
+bool SetPlace(const WindowsHandle& file, std::uint64_t place) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = static_cast<LONGLONG>(place);
+    return SetFilePointerEx(file.Value(), distance, nullptr, FILE_BEGIN) != 0;
+}
+
 bool SetSize(const WindowsHandle& file, std::uint64_t size) {
     FILE_END_OF_FILE_INFO end{};
     end.EndOfFile.QuadPart = static_cast<LONGLONG>(size);

@@ -70,4 +70,9 @@ std::unique_ptr<OutputFile> OpenNew(const std::string& path) {
     return std::make_unique<InPlaceFile<WindowsHandle>>(std::move(file));
 }
 
+bool WritePatches(const std::string& path, std::span<const FilePatch> patches) {
+    WindowsHandle file = OpenOnDisk(path, OpenFor::Writing);
+    return file.IsOpen() && PatchBytes(file, patches) && file.Close();
+}
+
 }  // namespace orlo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 
 #include "services/FileSystem.h"
@@ -16,5 +17,8 @@ std::unique_ptr<OutputFile> OpenInPlace(const std::string& path);
 
 // See FileSystem::CreateNew. Null where anything stands there.
 std::unique_ptr<OutputFile> OpenNew(const std::string& path);
+
+// See FileSystem::PatchFile.
+bool WritePatches(const std::string& path, std::span<const FilePatch> patches);
 
 }  // namespace orlo

@@ -1,0 +1,141 @@
+#include "simulator/AircraftSave.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "core/FileBackup.h"
+#include "core/InitialisationFile.h"
+#include "core/Path.h"
+#include "core/TextLines.h"
+#include "simulator/AircraftFiles.h"
+#include "simulator/ModelRadius.h"
+
+namespace orlo {
+namespace {
+
+// One of the three is set.
+struct ConfigKey {
+    std::string_view key;
+    std::string FSAircraft::*text = nullptr;
+    bool FSAircraft::*flag = nullptr;
+    std::int32_t FSAircraft::*number = nullptr;
+    std::string_view section = {};  // empty: the variant's own
+};
+
+constexpr std::array kConfigKeys = {
+    ConfigKey{.key = "title", .text = &FSAircraft::Title},
+    ConfigKey{.key = "atc_id", .text = &FSAircraft::ATCID},
+    ConfigKey{.key = "atc_flight_number", .text = &FSAircraft::ATCFlightNumber},
+    ConfigKey{.key = "atc_airline", .text = &FSAircraft::Airline},
+    ConfigKey{.key = "ui_manufacturer", .text = &FSAircraft::UIManufacturer},
+    ConfigKey{.key = "ui_type", .text = &FSAircraft::UIType},
+    ConfigKey{.key = "ui_variation", .text = &FSAircraft::UIVariation},
+    ConfigKey{.key = "visual_damage", .flag = &FSAircraft::VisualDamage},
+    ConfigKey{.key = "atc_heavy", .flag = &FSAircraft::ATCHeavy},
+    ConfigKey{.key = "model", .text = &FSAircraft::Model},
+    ConfigKey{.key = "texture", .text = &FSAircraft::Texture},
+    ConfigKey{.key = "sim", .text = &FSAircraft::Sim},
+    ConfigKey{.key = "description", .text = &FSAircraft::Description},
+    ConfigKey{.key = "atc_model", .text = &FSAircraft::ATCModel, .section = "general"},
+    ConfigKey{.key = "atc_type", .text = &FSAircraft::ATCType, .section = "general"},
+    ConfigKey{.key = "Performance", .text = &FSAircraft::Performance, .section = "general"},
+    ConfigKey{.key = "cruise_speed", .number = &FSAircraft::FileCruiseSpeed, .section = "Reference Speeds"},
+};
+
+std::string ValueOf(const FSAircraft& aircraft, const ConfigKey& key) {
+    if (key.text != nullptr) return aircraft.*key.text;
+    if (key.flag != nullptr) return aircraft.*key.flag ? "1" : "0";
+    return std::to_string(aircraft.*key.number);
+}
+
+bool SetChangedKeys(InitialisationFile& file, const FSAircraft& aircraft, const FSAircraft& kept) {
+    for (const ConfigKey& key : kConfigKeys) {
+        const std::string value = ValueOf(aircraft, key);
+        if (value == ValueOf(kept, key)) continue;
+        const std::string_view section = key.section.empty() ? aircraft.Section : key.section;
+        if (!SetConfigText(file, section, key.key, value)) return false;
+    }
+    return true;
+}
+
+// The variants of one aircraft.cfg, which stand together.
+bool WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FSAircraft> kept, FileSystem& files,
+                 bool backup) {
+    const std::string& path = aircraft.front().ConfigFile;
+    const auto text = ReadWholeFile(files, path);
+    if (!text) return false;
+    InitialisationFile file(*text);
+    for (std::size_t i = 0; i < aircraft.size(); ++i) {
+        if (aircraft[i].Changed && !SetChangedKeys(file, aircraft[i], kept[i])) return false;
+    }
+    if (file.Text() == *text) return true;
+    return (!backup || BackUpOnce(files, path)) && ReplaceWholeFile(files, path, file.Text());
+}
+
+FilePatch RadiusPatch(const FSAircraft& aircraft) {
+    const auto radius = static_cast<std::uint32_t>(aircraft.Radius);
+    FilePatch patch;
+    patch.position = ModelRadiusPosition(aircraft.ModelFormat);
+    for (int shift = 0; shift < 32; shift += 8) patch.bytes.push_back(static_cast<char>(radius >> shift));
+    return patch;
+}
+
+// The model is looked at again: it may have been exchanged since the scan, and then other bytes stand there.
+bool WriteRadius(const FSAircraft& aircraft, FileSystem& files, bool backup) {
+    if (aircraft.ModelFormat == 0 || !files.FileExists(aircraft.ModelFile)) return true;
+    const ModelRadius found = ReadModelRadius(files, ParentFolder(aircraft.ConfigFile), aircraft.Model);
+    if (found.Path != aircraft.ModelFile || found.Format != aircraft.ModelFormat) return false;
+    if (found.Radius == aircraft.Radius) return true;
+    const FilePatch patch = RadiusPatch(aircraft);
+    return (!backup || BackUpOnce(files, aircraft.ModelFile)) &&
+           files.PatchFile(aircraft.ModelFile, {&patch, 1});
+}
+
+std::size_t EndOfFile(const std::vector<FSAircraft>& aircraft, std::size_t first) {
+    std::size_t end = first + 1;
+    while (end < aircraft.size() && aircraft[end].ConfigFile == aircraft[first].ConfigFile) ++end;
+    return end;
+}
+
+bool AnyChanged(std::span<const FSAircraft> aircraft) {
+    for (const FSAircraft& each : aircraft) {
+        if (each.Changed) return true;
+    }
+    return false;
+}
+
+// The variant's section is written; its model not yet.
+void KeepConfig(FSAircraft& aircraft, FSAircraft& kept) {
+    const std::int32_t radius = aircraft.RadiusChanged ? kept.Radius : aircraft.Radius;
+    aircraft.Changed = false;
+    kept = aircraft;
+    kept.Radius = radius;
+    kept.RadiusChanged = false;
+}
+
+}  // namespace
+
+std::string SaveAircraft(std::vector<FSAircraft>& aircraft, std::vector<FSAircraft>& kept, FileSystem& files,
+                         bool backup) {
+    for (std::size_t first = 0, end = 0; first < aircraft.size(); first = end) {
+        end = EndOfFile(aircraft, first);
+        const std::span variants(&aircraft[first], end - first);
+        if (AnyChanged(variants)) {
+            if (!WriteConfig(variants, std::span(&kept[first], end - first), files, backup))
+                return variants.front().ConfigFile;
+            for (std::size_t place = first; place < end; ++place) KeepConfig(aircraft[place], kept[place]);
+        }
+        for (std::size_t place = first; place < end; ++place) {
+            if (!aircraft[place].RadiusChanged) continue;
+            if (!WriteRadius(aircraft[place], files, backup)) return aircraft[place].ModelFile;
+            aircraft[place].RadiusChanged = false;
+            kept[place].Radius = aircraft[place].Radius;
+        }
+    }
+    return {};
+}
+
+}  // namespace orlo
