@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/AboutForm.h"
+#include "forms/AircraftEditForm.h"
 #include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
@@ -16,6 +17,7 @@ struct Forms {
     SplashForm frmSplash;
     AboutForm frmAbout;
     FlightEditForm frmFlightEdit;
+    AircraftEditForm frmAircraftEdit;
     TTStatisticsForm frmTTStatistics;
 };
 

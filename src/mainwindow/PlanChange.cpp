@@ -12,7 +12,7 @@ namespace {
 
 void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
     MainForm& form = context.forms.frmMain;
-    if (!change.firstStage.empty()) busy.Stage("Refreshing...", change.stages - 1);
+    if (change.stages > 0) busy.Stage("Refreshing...", change.stages - 1);
     {
         const FrozenForm frozen(form);
         FillAircraftTrees(form, context.session);

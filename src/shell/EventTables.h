@@ -11,6 +11,7 @@ EventTable MenuEvents();
 EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
+EventTable AircraftEditEvents();
 EventTable TTStatisticsEvents();
 
 // Makes a table's procedure of one that doesn't need the event.

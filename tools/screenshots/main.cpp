@@ -17,6 +17,7 @@
 #include <functional>
 #include <iostream>
 #include <set>
+#include <utility>
 
 #include "core/Path.h"
 #include "desktop/DesktopHost.h"
@@ -84,6 +85,7 @@ class Photographer {
         TakeProgress();
         TakeMessage();
         TakeModal(form_.mnuHelpAbout, program_.forms.frmAbout, "about");
+        TakePlanAircraft();
         ShowTab("EXPORT");
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
         ShowTab("TIMETABLE");
@@ -226,6 +228,14 @@ class Photographer {
         });
         Click(opens);
         while (form.visible) Settle();
+    }
+
+    // One of them isn't installed.
+    void TakePlanAircraft() {
+        std::string& title = program_.session.plan.PlanAircrafts[2].Title;
+        const std::string old = std::exchange(title, "Sample Jet 150 - not installed");
+        TakeModal(form_.mnuToolsEditPlanAircraft, program_.forms.frmAircraftEdit, "planaircraft");
+        title = old;
     }
 
     Program& program_;
