@@ -80,10 +80,11 @@ class PlanAircraftAdder {
 }  // namespace
 
 void AddPlanAircraft(Context& context) {
+    const AircraftEditForm& form = context.forms.frmAircraftEdit;
+    const ListView& list = form.lvFSAircraft;
     PlanAircraftAdder adder(context);
-    const ListView& list = context.forms.frmAircraftEdit.lvFSAircraft;
     for (const std::int32_t place : list.SelectedPlaces()) {
-        if (InstalledRows(context.forms.frmAircraftEdit).InPlan(place) &&
+        if (InstalledRows(form).InPlan(place) &&
             !UserAgrees(context,
                         Concat("Aircraft '", list.Text(place, 0),
                                "' already in your 'Aircraft.txt'. Would you like to add it anyway?")))
@@ -94,11 +95,12 @@ void AddPlanAircraft(Context& context) {
 }
 
 void AddMissingAircraft(Context& context) {
+    const AircraftEditForm& form = context.forms.frmAircraftEdit;
+    const ListView& list = form.lvFSAircraft;
     PlanAircraftAdder adder(context);
-    const ListView& list = context.forms.frmAircraftEdit.lvFSAircraft;
     for (std::int32_t at = 0; at < list.Count(); ++at) {
         const std::int32_t place = list.PlaceAt(at);
-        if (!InstalledRows(context.forms.frmAircraftEdit).InPlan(place)) adder.Add(place);
+        if (!InstalledRows(form).InPlan(place)) adder.Add(place);
     }
     adder.SelectAdded();
 }

@@ -76,9 +76,10 @@ void DropSelectedAircraft(Context& context) {
     const std::int32_t position = CurrentPositionWithoutSelected(list);
     std::vector<PlanAircraft>& aircrafts = context.session.plan.PlanAircrafts;
     std::vector<PlanAircraft> kept;
+    kept.reserve(aircrafts.size());
     for (std::size_t i = 0; i < aircrafts.size(); ++i) {
         if (list.Selected(static_cast<std::int32_t>(i))) {
-            InstalledRows(context.forms.frmAircraftEdit).DropTitle(aircrafts[i].Title);
+            InstalledRows(form).DropTitle(aircrafts[i].Title);
         } else {
             kept.push_back(std::move(aircrafts[i]));
         }
@@ -94,15 +95,16 @@ void DropSelectedAircraft(Context& context) {
 
 // Removes the selected aircraft with their flights; gives the number of flights.
 std::int32_t RemoveSelected(Context& context) {
-    const BusyForm busy(context, context.forms.frmAircraftEdit);
+    AircraftEditForm& form = context.forms.frmAircraftEdit;
+    const BusyForm busy(context, form);
     Plan& plan = context.session.plan;
     std::unordered_set<std::string_view> numbers;
-    for (const std::int32_t place : context.forms.frmAircraftEdit.lvAircrafts.SelectedPlaces())
+    for (const std::int32_t place : form.lvAircrafts.SelectedPlaces())
         numbers.insert(plan.PlanAircrafts[static_cast<std::size_t>(place)].ACNumber);
     if (numbers.empty()) return 0;
+    form.Changed = true;
     const std::int32_t count = RemoveFlightsOf(numbers, plan.Flights);
     DropSelectedAircraft(context);
-    context.forms.frmAircraftEdit.Changed = true;
     return count;
 }
 
@@ -142,11 +144,12 @@ void ChangeAircraftNumber(Context& context) {
     if (aircraft == nullptr) return;
     const auto acNumber = AskForFreeNumber(context, *aircraft);
     if (!acNumber) return;
-    const BusyForm busy(context, context.forms.frmAircraftEdit);
+    AircraftEditForm& form = context.forms.frmAircraftEdit;
+    const BusyForm busy(context, form);
+    form.Changed = true;
     RenumberFlights(aircraft->ACNumber, *acNumber, context.session.plan.Flights);
     aircraft->ACNumber = *acNumber;
-    context.forms.frmAircraftEdit.Changed = true;
-    context.forms.frmAircraftEdit.lvAircrafts.SourceChanged();
+    form.lvAircrafts.SourceChanged();
     FillSubstitutes(context);
 }
 
@@ -169,12 +172,13 @@ void ChangeAircraftTitle(Context& context) {
     const std::string typed = FieldText(answer.value_or(""));
     const std::string_view title = TrimBlanks(typed);
     if (title.empty() || title == aircraft->Title) return;
-    InstalledRows(context.forms.frmAircraftEdit).DropTitle(aircraft->Title);
-    InstalledRows(context.forms.frmAircraftEdit).AddTitle(title);
+    AircraftEditForm& form = context.forms.frmAircraftEdit;
+    form.Changed = true;
+    InstalledRows(form).DropTitle(aircraft->Title);
+    InstalledRows(form).AddTitle(title);
     aircraft->Title = title;
-    context.forms.frmAircraftEdit.Changed = true;
-    context.forms.frmAircraftEdit.lvAircrafts.SourceChanged();
-    context.forms.frmAircraftEdit.lvFSAircraft.SourceChanged();
+    form.lvAircrafts.SourceChanged();
+    form.lvFSAircraft.SourceChanged();
     FillSubstitutes(context);
 }
 

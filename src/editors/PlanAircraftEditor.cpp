@@ -42,7 +42,7 @@ void KeepCopies(AircraftEditForm& form, const Plan& plan) {
 }
 
 void PutBackOrForget(AircraftEditForm& form, Plan& plan) {
-    if (form.Changed && !form.Saved) {
+    if (!form.Saved) {
         plan.Flights = std::move(form.KeptFlights);
         plan.PlanAircrafts = std::move(form.KeptAircrafts);
     }

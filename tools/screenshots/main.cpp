@@ -230,12 +230,12 @@ class Photographer {
         while (form.visible) Settle();
     }
 
-    // One of them isn't installed.
+    // One of them isn't installed. The dialog puts a copy of the records back.
     void TakePlanAircraft() {
-        std::string& title = program_.session.plan.PlanAircrafts[2].Title;
-        const std::string old = std::exchange(title, "Sample Jet 150 - not installed");
+        std::vector<PlanAircraft>& aircraft = program_.session.plan.PlanAircrafts;
+        const std::string title = std::exchange(aircraft[2].Title, "Sample Jet 150 - not installed");
         TakeModal(form_.mnuToolsEditPlanAircraft, program_.forms.frmAircraftEdit, "planaircraft");
-        title = old;
+        aircraft[2].Title = title;
     }
 
     Program& program_;
