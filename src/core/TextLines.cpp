@@ -123,4 +123,11 @@ std::string_view CutComments(std::string_view line) {
     return BeforeFirst(BeforeFirst(line, ";"), "//");
 }
 
+std::string FieldText(std::string_view typed) {
+    std::string text = ReplaceAll(typed, "//", "  ");
+    std::replace_if(
+        text.begin(), text.end(), [](char mark) { return mark == ',' || mark == ';'; }, ' ');
+    return text;
+}
+
 }  // namespace orlo

@@ -50,4 +50,7 @@ bool ReplaceWholeFile(FileSystem& files, const std::string& path, std::string_vi
 // A line of the plan's text files without its comment: the text before the first ";" or "//".
 std::string_view CutComments(std::string_view line);
 
+// A text that was typed, as a field of such a line can hold it: ",", ";" and "//" become blanks.
+std::string FieldText(std::string_view typed);
+
 }  // namespace orlo

@@ -122,7 +122,7 @@ class GridRows {
             return grid_.addWidget(&widget, line_, column, 1, columns);
         auto* box = new QHBoxLayout;
         box->setContentsMargins(0, lowered, 0, 0);
-        box->addWidget(&widget);
+        box->addWidget(&widget, 1);
         if (item.button != nullptr) box->addWidget(&widgetOf_(*item.button));
         grid_.addLayout(box, line_, column, 1, columns);
     }

@@ -40,6 +40,11 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
         case Qt::ForegroundRole:
             if (const auto colour = ScreenColour(list_.RowColour(place))) return QBrush(*colour);
             return QVariant();
+        case Qt::AccessibleDescriptionRole: {
+            const Colour colour = list_.RowColour(place);
+            if (!list_.colourMarks || colour == Colour::WindowText || index.column() != 0) return QVariant();
+            return ToQString(ColourWord(colour));
+        }
         case Qt::ToolTipRole: {
             const std::string tip = list_.ToolTip(place);
             return tip.empty() ? QVariant() : QVariant(TipText(tip));

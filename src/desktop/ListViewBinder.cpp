@@ -13,6 +13,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include "desktop/ColourMark.h"
 #include "desktop/EmptyHint.h"
 #include "desktop/ScreenText.h"
 
@@ -25,7 +26,10 @@ constexpr int kHeaderRoom = 24;
 constexpr int kLeastWidth = 70;
 constexpr int kRowRoom = 4;
 constexpr int kCellRoom = 12;
-constexpr int kMostCharacters = 36;
+constexpr int kMarkGap = 6;
+constexpr int kMostHintCharacters = 75;
+constexpr std::int32_t kMostHintRows = 16;
+constexpr int kMostCellCharacters = 36;
 constexpr std::int32_t kRowsMeasured = 200;
 constexpr int kSortKey = Qt::Key_F3;  // sorts by the current cell's column
 
@@ -39,12 +43,17 @@ class RowDelegate : public QStyledItemDelegate {
         QStyledItemDelegate::initStyleOption(option, index);
         const bool selected = index.row() < list_.Count() && list_.Selected(list_.PlaceAt(index.row()));
         option->state.setFlag(QStyle::State_Selected, selected);
+        if (!HasMark(index)) return;
+        // An icon without a picture keeps the room.
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = ColourMarkSize(option->font);
     }
 
     // The row that keys act on has a line above and below while the list has the focus.
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         QStyledItemDelegate::paint(painter, option, index);
+        if (HasMark(index) && index.row() < list_.Count()) PaintMark(*painter, option, index);
         const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
         if (view == nullptr || !view->hasFocus() || view->currentIndex().row() != index.row()) return;
         if (index.row() >= list_.Count()) return;  // gone since the last drawing
@@ -56,6 +65,17 @@ class RowDelegate : public QStyledItemDelegate {
     }
 
   private:
+    bool HasMark(const QModelIndex& index) const { return list_.colourMarks && index.column() == 0; }
+
+    void PaintMark(QPainter& painter, QStyleOptionViewItem option, const QModelIndex& index) const {
+        initStyleOption(&option, index);
+        const std::int32_t place = list_.PlaceAt(index.row());
+        const QRect room =
+            option.widget->style()->subElementRect(QStyle::SE_ItemViewItemDecoration, &option, option.widget);
+        PaintColourMark(painter, room, list_.RowColour(place),
+                        list_.Selected(place) ? option.palette.color(QPalette::HighlightedText) : QColor());
+    }
+
     const ListView& list_;
 };
 
@@ -64,7 +84,17 @@ class ListTable : public QTableView {
   public:
     ListTable(QWidget* parent, const ListView& list) : QTableView(parent), list_(list) {}
     QItemSelectionModel::SelectionFlags LastCommand() const { return command_; }
+    void NeedColumns(int width) { columnsWidth_ = width; }
     void DrawHint() { hint_.Draw(*this, list_.Count() == 0 ? list_.emptyHint : std::string()); }
+
+    // Of a dialog's list when the window opens: its columns and rows whole, but for very many.
+    QSize sizeHint() const override {
+        const int most = kMostHintCharacters * fontMetrics().averageCharWidth();
+        const int edges = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+        const int rows = std::min(list_.Count(), kMostHintRows) * verticalHeader()->defaultSectionSize();
+        const int height = rows + horizontalHeader()->sizeHint().height() + edges;
+        return QTableView::sizeHint().expandedTo({std::min(columnsWidth_, most) + edges, height});
+    }
 
     // Scrolls sideways only for a key that moves from column to column.
     void scrollTo(const QModelIndex& index, ScrollHint hint) override {
@@ -124,6 +154,7 @@ class ListTable : public QTableView {
   private:
     const ListView& list_;
     EmptyHint hint_;
+    int columnsWidth_ = 0;       // that shows them whole
     bool alongColumns_ = false;  // while a key moves from column to column
     mutable QItemSelectionModel::SelectionFlags command_ = QItemSelectionModel::ClearAndSelect;
 };
@@ -133,6 +164,10 @@ std::vector<PositionRange> RangesOf(const QItemSelection& selection) {
     ranges.reserve(static_cast<std::size_t>(selection.size()));
     for (const QItemSelectionRange& range : selection) ranges.push_back({range.top(), range.bottom()});
     return ranges;
+}
+
+int MarkRoom(const QWidget& list) {
+    return ColourMarkSize(list.font()).width() + kMarkGap;
 }
 
 QItemSelection SelectionOf(const QAbstractItemModel& model, const std::vector<PositionRange>& ranges) {
@@ -236,8 +271,9 @@ void ListViewBinder::DrawRows() {
 void ListViewBinder::FitColumns(Fit fit) {
     const QFontMetrics headerMetrics(shown_.horizontalHeader()->font());
     const QFontMetrics metrics(shown_.font());
-    const int most = kMostCharacters * metrics.averageCharWidth();
+    const int most = kMostCellCharacters * metrics.averageCharWidth();
     const std::int32_t rows = std::min(list_.Count(), kRowsMeasured);
+    int total = 0;
     for (std::size_t i = 0; i < list_.columns.size(); ++i) {
         const auto column = static_cast<int>(i);
         const auto kept = list_.columnWidths.find(list_.columns[i].key);
@@ -248,14 +284,17 @@ void ListViewBinder::FitColumns(Fit fit) {
             const auto position = static_cast<std::int32_t>(std::int64_t{row} * list_.Count() / rows);
             const int text =
                 metrics.horizontalAdvance(ShownText(list_.Text(list_.PlaceAt(position), column)));
-            needed = std::max(needed, std::min(text, most) + kCellRoom);
+            const int mark = list_.colourMarks && column == 0 ? MarkRoom(shown_) : 0;
+            needed = std::max(needed, std::min(text, most) + mark + kCellRoom);
         }
         if (kept != list_.columnWidths.end()) {
             shown_.setColumnWidth(column, kept->second);
         } else if (fit == Fit::Anew || needed > shown_.columnWidth(column)) {
             shown_.setColumnWidth(column, needed);
         }
+        total += needed;
     }
+    static_cast<ListTable&>(shown_).NeedColumns(total);
 }
 
 void ListViewBinder::DrawHeader() {

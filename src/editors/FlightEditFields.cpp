@@ -7,6 +7,7 @@
 #include "core/ClockTime.h"
 #include "core/Number.h"
 #include "core/Text.h"
+#include "core/TextLines.h"
 #include "editors/FlightEditLegs.h"
 #include "editors/FlightEditTimes.h"
 
@@ -26,14 +27,6 @@ Leg* WorkingLeg(FlightEditForm& form) {
 std::optional<std::int32_t> NumberWithin(std::string_view text, std::int32_t least, std::int32_t most) {
     const auto number = ParseWholeNumber(text);
     return number && *number >= least && *number <= most ? number : std::nullopt;
-}
-
-// The text as a field of the plan's file can hold it: ",", ";" and "//" become blanks.
-std::string FieldText(std::string_view typed) {
-    std::string text = ReplaceAll(typed, "//", "  ");
-    std::replace_if(
-        text.begin(), text.end(), [](char mark) { return mark == ',' || mark == ';'; }, ' ');
-    return text;
 }
 
 void Refuse(Context& context, Event& event, std::string_view reason) {

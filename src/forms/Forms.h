@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/AboutForm.h"
+#include "forms/AircraftEditForm.h"
 #include "forms/FSAircraftEditForm.h"
 #include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
@@ -18,6 +19,7 @@ struct Forms {
     SplashForm frmSplash;
     AboutForm frmAbout;
     FlightEditForm frmFlightEdit;
+    AircraftEditForm frmAircraftEdit;
     TTStatisticsForm frmTTStatistics;
     FSAircraftEditForm frmFSAircraftEdit;
     TextEditForm frmTextEdit;

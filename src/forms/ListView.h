@@ -126,8 +126,10 @@ struct ListView : Control {
 
     std::string emptyHint;                             // drawn in the list while it has no rows
     std::map<std::string, std::int32_t> columnWidths;  // those that the user chose, by column key
-    bool ensureVisibleRequest = false;                 // of the current row; taken once by the front end
-    std::int64_t contentRevision = 0;                  // counts changes of columns, rows, texts and colours
+    bool colourMarks =
+        false;  // a red or blue row has a small mark in front, so that not the colour alone tells
+    bool ensureVisibleRequest = false;  // of the current row; taken once by the front end
+    std::int64_t contentRevision = 0;   // counts changes of columns, rows, texts and colours
     std::int64_t orderRevision = 0;
     std::int64_t selectionRevision = 0;
 

@@ -10,10 +10,9 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kRefreshing = "Refreshing...";
-
-void ShowTreesAnew(Context& context) {
+void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
     MainForm& form = context.forms.frmMain;
+    if (change.stages > 0) busy.Stage("Refreshing...", change.stages - 1);
     {
         const FrozenForm frozen(form);
         FillAircraftTrees(form, context.session);
@@ -21,19 +20,14 @@ void ShowTreesAnew(Context& context) {
     RefreshShuffleLabel(form);
 }
 
-void ResetViews(Context& context) {
-    ResetTimetableView(context);
-    ResetExportView(context);
-}
-
 std::string RunInFrame(Context& context, Form& form, const PlanChange& change) {
     BusyForm busy(context, form, change.stages);
     if (!change.firstStage.empty()) busy.Stage(change.firstStage, 1);
     if (change.takesSnapshot) TakeUndoSnapshot(context);
     std::string done = change.work(busy);
-    if (change.changesAircraft && !change.firstStage.empty()) busy.Stage(kRefreshing, change.stages - 1);
-    if (change.changesAircraft) ShowTreesAnew(context);
-    ResetViews(context);
+    if (change.changesAircraft) ShowTreesAnew(context, change, busy);
+    ResetTimetableView(context);
+    ResetExportView(context);
     if (change.changesAircraft) ResetMoverView(context);
     if (change.marksModified) MarkPlanModified(context);
     return done;
@@ -47,11 +41,13 @@ void ChangePlan(Context& context, Form& form, const PlanChange& change) {
 }
 
 void ShowPlanAnew(Context& context) {
-    BusyForm busy(context, context.forms.frmMain, 1);
-    busy.Stage(kRefreshing, 1);
-    ShowTreesAnew(context);
-    ResetViews(context);
-    ResetMoverView(context);
+    PlanChange change;
+    change.work = [](BusyForm&) { return std::string(); };
+    change.stages = 2;
+    change.changesAircraft = true;
+    change.takesSnapshot = false;
+    change.marksModified = false;
+    ChangePlan(context, context.forms.frmMain, change);
 }
 
 void MarkPlanModified(Context& context) {

@@ -13,8 +13,8 @@ namespace orlo {
 struct PlanChange {
     // Changes the plan and gives the closing message; an empty one is not shown.
     std::function<std::string(BusyForm&)> work;
-    std::string_view firstStage = {};  // empty: no progress window
-    int stages = 0;                    // maximum of the progress; `stages` - 1 shows the plan anew
+    std::string_view firstStage = {};  // empty: the work has none
+    int stages = 0;                    // maximum of the progress; `stages` - 1 shows the trees anew
     bool changesAircraft = false;      // PlanAircrafts too: the trees and the mover's view follow
     bool takesSnapshot = true;         // an undo step of its own
     bool marksModified = true;         // even if nothing changed

@@ -11,6 +11,7 @@ EventTable MenuEvents();
 EventTable SplashEvents();
 EventTable AboutEvents();
 EventTable FlightEditEvents();
+EventTable AircraftEditEvents();
 EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
 EventTable TextEditEvents();

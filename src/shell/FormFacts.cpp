@@ -42,6 +42,7 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmSplash>(Only<SplashEvents>, kContents),
     FactsOf<&Forms::frmAbout>(Only<AboutEvents>, kContents),
     FactsOf<&Forms::frmFlightEdit>(Only<FlightEditEvents>, "editor.html"),
+    FactsOf<&Forms::frmAircraftEdit>(Only<AircraftEditEvents>, "planaircraft.html"),
     FactsOf<&Forms::frmTTStatistics>(Only<TTStatisticsEvents>, "statistics.html"),
     FactsOf<&Forms::frmFSAircraftEdit>(Only<FSAircraftEditEvents>, "aircraft.html"),
     FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, "aircraft.html"),

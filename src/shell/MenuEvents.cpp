@@ -3,6 +3,7 @@
 #include <array>
 
 #include "editors/FSAircraftEditor.h"
+#include "editors/PlanAircraftEditor.h"
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
@@ -84,7 +85,7 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsCompileCurrent>, Click, Run<CompileCurrentFlightplan>},
     EventEntry{InMain<&M::mnuToolsCompile>, Click, Run<CompileFlightplan>},
     EventEntry{InMain<&M::mnuToolsDecompile>, Click, Run<DecompileFlightplan>},
-    EventEntry{InMain<&M::mnuToolsEditPlanAircraft>, Click},
+    EventEntry{InMain<&M::mnuToolsEditPlanAircraft>, Click, Run<OnEditPlanAircraft>},
     EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click, Run<ShowFSAircraftEditor>},
     EventEntry{InMain<&M::mnuToolsAirportDistance>, Click},
     EventEntry{InMain<&M::mnuToolsAirportSearch>, Click},

@@ -8,6 +8,7 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include "desktop/ColourMark.h"
 #include "desktop/ControlSizes.h"
 #include "qt/DesktopProgram.h"
 #include "shell/FormFacts.h"
@@ -192,6 +193,36 @@ TEST_F(Binders, ATextOfTheStatusBarKeepsItsDistanceFromTheEdges) {
     EXPECT_EQ(drawn(0, space), left);
     EXPECT_EQ(drawn(bar.width() - space, space), right);
     EXPECT_NE(drawn(0, bar.width()), all);
+}
+
+TEST_F(Binders, AMarkTellsRowsOfAListByItsShapeWhereTheirColourIsNotSeen) {
+    form.lvRows.colourMarks = true;
+    for (const Colour colour : {Colour::WindowText, Colour::Red, Colour::Blue})
+        form.lvRows.Add({"", "", "", colour, {"text", "b"}});
+    form.lvRows.SelectAll(false);
+    const auto& table = desktop.Find<QTableView>(form.lvRows);
+    // Pixels in front of the row's text that aren't of its ground; inside, those of the topmost line.
+    const auto marked = [&](int row, bool topOnly) {
+        desktop.CatchUp();
+        const QRect cell = table.visualRect(table.model()->index(row, 0));
+        const int text = ColourMarkSize(table.font()).width() + 4;
+        const QImage drawn =
+            table.viewport()->grab(QRect(cell.topLeft(), QSize(text, cell.height()))).toImage();
+        int count = 0;
+        for (int y = 2; y < drawn.height() - 2; ++y) {
+            for (int x = 1; x < drawn.width(); ++x)
+                count += drawn.pixel(x, y) != drawn.pixel(drawn.width() - 1, 2) ? 1 : 0;
+            if (topOnly && count > 0) break;
+        }
+        return count;
+    };
+    for (const bool selected : {false, true}) {
+        form.lvRows.SelectAll(selected);
+        EXPECT_EQ(marked(0, false), 0);
+        EXPECT_GT(marked(1, false), 10);
+        EXPECT_GT(marked(2, false), marked(1, false)) << "a disc fills more of its square than a triangle";
+        EXPECT_LT(marked(1, true), marked(2, true)) << "and has a broader top";
+    }
 }
 
 TEST_F(Binders, EveryControlOfEveryFormHasItsWidgetNameAndBuddy) {

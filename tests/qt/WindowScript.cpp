@@ -112,7 +112,7 @@ void WindowScript::Step() {
     waited_ = 0;
     // What was caused by the last command runs first, and is seen.
     host_.CatchUp(WindowOf(top));
-    if (step != step_ || !real_.program.pump.TakesInput(top)) return;
+    if (step != step_ || top.closeRequest || !real_.program.pump.TakesInput(top)) return;
     const QScopedValueRollback<const Form*> acting(actingIn_, &top);
     if (!host_.notBuilt.empty()) Fail(Concat(std::exchange(host_.notBuilt, {}), " is not built yet"));
     if (!fault_.empty()) return CloseAtOnce();

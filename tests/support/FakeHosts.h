@@ -40,7 +40,8 @@ class FakeMessages : public MessageHost {
 
 class FakeWindows : public WindowHost {
   public:
-    std::deque<std::string> paths;  // answers of file dialogs; without one they are cancelled
+    std::deque<std::string> paths;   // answers of file dialogs; without one they are cancelled
+    std::deque<std::string> inputs;  // answers of input boxes; without one they are cancelled
     std::vector<std::string> printed;
     bool keepsWindowPlace = false;
     int eventsProcessed = 0;
@@ -63,7 +64,10 @@ class FakeWindows : public WindowHost {
     std::string ShowOpenDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowSaveDialog(const FileDialog&) override { return Take(paths); }
     std::string ShowFolderDialog(std::string_view, const std::string&) override { return Take(paths); }
-    std::optional<std::string> InputBox(const InputQuestion&) override { return std::nullopt; }
+    std::optional<std::string> InputBox(const InputQuestion&) override {
+        if (inputs.empty()) return std::nullopt;
+        return Take(inputs);
+    }
     bool ShowPrintDialog(std::string_view) override { return true; }
     PrintOutcome Print(std::string_view text) override {
         printed.emplace_back(text);

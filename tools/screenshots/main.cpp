@@ -17,6 +17,7 @@
 #include <functional>
 #include <iostream>
 #include <set>
+#include <utility>
 
 #include "core/Path.h"
 #include "desktop/DesktopHost.h"
@@ -85,6 +86,7 @@ class Photographer {
         TakeProgress();
         TakeMessage();
         TakeModal(form_.mnuHelpAbout, program_.forms.frmAbout, "about");
+        TakePlanAircraft();
         ShowTab("EXPORT");
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
         ShowTab("TIMETABLE");
@@ -242,6 +244,14 @@ class Photographer {
         EditText(program_.context, "Edit Description",
                  "A regional jet with a hundred seats.\\n\\nCruise\\tFL350\\/Mach 0.74\\nRange\\t1,500 nm",
                  form_);
+    }
+
+    // One of them isn't installed. The dialog puts a copy of the records back.
+    void TakePlanAircraft() {
+        std::vector<PlanAircraft>& aircraft = program_.session.plan.PlanAircrafts;
+        const std::string title = std::exchange(aircraft[2].Title, "Sample Jet 150 - not installed");
+        TakeModal(form_.mnuToolsEditPlanAircraft, program_.forms.frmAircraftEdit, "planaircraft");
+        aircraft[2].Title = title;
     }
 
     Program& program_;
