@@ -62,9 +62,12 @@ struct FSAircraft {
     std::int32_t MinParkingRadius = -1;
     std::string ParkingTypes;
     std::int32_t IFRPercent = -1;
-    std::string ClassText;  // [General]'s model, or type, under which the class is looked up first
-    std::string ClassID;    // ID of the class entry that matched
-    std::string Problem;    // faults of the files, joined by " | "
+    std::string FileATCModel;  // those of [General] alone, under which the class is looked up first
+    std::string FileATCType;
+    std::string ClassID;  // ID of the class entry that matched
+    std::string Problem;  // faults of the files, joined by " | "
+
+    bool operator==(const FSAircraft&) const = default;
 };
 
 // An installed aircraft that the user checked for the plan.

@@ -8,6 +8,7 @@
 
 #include "core/PlanSideFiles.h"
 #include "core/Text.h"
+#include "core/TextLines.h"
 #include "editors/PlanAircraftEditor.h"
 #include "editors/PlanAircraftRows.h"
 
@@ -58,10 +59,15 @@ class PlanAircraftAdder {
         context_.session.plan.PlanAircrafts.push_back(std::move(aircraft));
         added_.push_back(form_.lvAircrafts.AddSourceRow());
         InstalledRows(form_).AddTitle(installed.Title);
+        if (unwritable_.empty() && FieldText(installed.Title) != installed.Title)
+            unwritable_ = installed.Title;
         form_.lvFSAircraft.SourceChanged();
     }
 
     void SelectAdded() {
+        context_.forms.frmMain.sbMain.text =
+            unwritable_.empty() ? std::string()
+                                : Concat("Aircraft.txt can't hold the title [", unwritable_, "].");
         if (added_.empty()) return;
         ListView& list = form_.lvAircrafts;
         list.SelectAll(false);
@@ -75,6 +81,7 @@ class PlanAircraftAdder {
     AircraftEditForm& form_;
     FreeNumbers numbers_;
     std::vector<std::int32_t> added_;
+    std::string unwritable_;  // the first title whose line would be read as something else
 };
 
 }  // namespace

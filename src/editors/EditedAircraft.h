@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,9 @@ namespace orlo {
 
 // The aircraft of the current row of frmFSAircraftEdit; null without one.
 FSAircraft* EditedAircraft(Context& context);
+
+// All variants of the aircraft.cfg that holds `aircraft`, one of the fleet; they stand together.
+std::span<FSAircraft> VariantsOfFile(Fleet& fleet, const FSAircraft& aircraft);
 
 // A typed text as a value of an aircraft.cfg: without blanks around it, and with a blank for each ";", which
 // would begin a comment.

@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "config/AircraftClasses.h"
 #include "core/Application.h"
 #include "core/FileBackup.h"
+#include "editors/EditedAircraft.h"
 #include "editors/FSAircraftClass.h"
 #include "editors/FSAircraftFields.h"
 #include "editors/FSAircraftParts.h"
@@ -31,6 +34,16 @@ void FillList(Context& context) {
     ListView& list = context.forms.frmFSAircraftEdit.lvAircrafts;
     const auto rows = std::make_shared<FSAircraftRows>(context.session.fleet, context.session.rules);
     list.ShowSource(rows, rows->Count());
+}
+
+// The row of the aircraft at that place in FSAircrafts; where it has none, the first row stays selected.
+void SelectAircraft(ListView& list, std::ptrdiff_t place) {
+    const auto& rows = static_cast<const FSAircraftRows&>(*list.Source());
+    for (std::int32_t row = 0; row < rows.Count(); ++row) {
+        if (rows.Place(row) != place) continue;
+        list.current = row;
+        list.SelectCurrentOnly();
+    }
 }
 
 void NothingToSave(FSAircraftEditForm& form) {
@@ -79,8 +92,8 @@ std::string SaveClasses(Context& context) {
     FileSystem& files = context.services.files;
     if (session.rules.Classes == form.KeptClasses) return {};
     std::string path = AircraftClassesPath(session);
-    const bool backedUp = !session.switches.BackupAircraft || BackUpOnce(files, path);
-    if (!backedUp || !WriteAircraftClasses(session, files)) return path;
+    if (session.switches.BackupAircraft && !BackUpOnce(files, path)) return BackupPath(path);
+    if (!WriteAircraftClasses(session, files)) return path;
     form.KeptClasses = session.rules.Classes;
     return {};
 }
@@ -103,6 +116,7 @@ void NoteProblems(Fleet& fleet) {
 void ShowFSAircraftEditor(Context& context) {
     Session& session = context.session;
     FSAircraftEditForm& form = context.forms.frmFSAircraftEdit;
+    const std::vector<FSAircraft> before = std::move(session.fleet.FSAircrafts);
     {
         BusyForm busy(context, context.forms.frmMain, kScanStages);
         busy.Stage("Detecting FS2002 Aircraft...", 1);
@@ -115,7 +129,8 @@ void ShowFSAircraftEditor(Context& context) {
     form.lvAircrafts.Clear();
     form.KeptAircraft = {};
     NoteProblems(session.fleet);
-    if (session.plan.PlanLoaded) ShowPlanAnew(context);
+    if (!session.plan.PlanLoaded) return;
+    ShowPlanAnew(context, session.fleet.FSAircrafts == before ? Views::Kept : Views::Reset);
 }
 
 bool SaveFSAircraft(Context& context) {
@@ -140,14 +155,11 @@ bool SaveFSAircraft(Context& context) {
 
 void UndoFSAircraft(Context& context) {
     FSAircraftEditForm& form = context.forms.frmFSAircraftEdit;
-    ListView& list = form.lvAircrafts;
-    const std::int32_t row = list.current;
+    const FSAircraft* edited = EditedAircraft(context);
+    const std::ptrdiff_t place = edited != nullptr ? edited - context.session.fleet.FSAircrafts.data() : -1;
     PutBackKept(context);
     FillList(context);
-    if (row >= 0 && row < list.Count()) {
-        list.current = row;
-        list.SelectCurrentOnly();
-    }
+    SelectAircraft(form.lvAircrafts, place);
     ShowAircraftFields(context);
     NothingToSave(form);
 }

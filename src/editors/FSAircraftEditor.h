@@ -5,7 +5,7 @@
 namespace orlo {
 
 // The menu entry: scans the simulator's aircraft anew and opens frmFSAircraftEdit on them. Afterwards the
-// trees and views of an open plan are filled anew.
+// trees of an open plan are filled anew, and its views are reset where an aircraft differs from before.
 void ShowFSAircraftEditor(Context& context);
 
 // Writes what was changed: the aircraft's files, and ORLO_AC.CFG where a class moved, each backed up once

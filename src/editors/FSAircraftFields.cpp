@@ -53,19 +53,6 @@ constexpr std::array kParts = {
     FieldRow<TextBox, std::string>{&F::txtSim, &A::Sim},
 };
 
-// All variants of the aircraft.cfg that holds `aircraft`; they stand together.
-std::span<FSAircraft> VariantsOfFile(Fleet& fleet, const FSAircraft& aircraft) {
-    const auto place = static_cast<std::size_t>(&aircraft - fleet.FSAircrafts.data());
-    std::size_t first = place;
-    std::size_t end = place + 1;
-    const auto isSame = [&](std::size_t at) {
-        return fleet.FSAircrafts[at].ConfigFile == aircraft.ConfigFile;
-    };
-    while (first > 0 && isSame(first - 1)) --first;
-    while (end < fleet.FSAircrafts.size() && isSame(end)) ++end;
-    return {&fleet.FSAircrafts[first], end - first};
-}
-
 template <typename Value>
 void Store(Fleet& fleet, FSAircraft& edited, Value A::*member, const Value& value, Reach reach) {
     const std::span reached = reach == Reach::File ? VariantsOfFile(fleet, edited) : std::span(&edited, 1);
@@ -181,9 +168,11 @@ void OnAircraftField(Context& context, Event& event) {
     } else if (!StoreText(context, *edited, kTexts, event.control)) {
         StoreText(context, *edited, kNames, event.control);
     }
-    if (event.control == &form.cmATCModel || event.control == &form.cmATCType) {
+    const bool isModel = event.control == &form.cmATCModel;
+    if (isModel || event.control == &form.cmATCType) {
         for (FSAircraft& aircraft : VariantsOfFile(context.session.fleet, *edited)) {
-            aircraft.ClassText = aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel;
+            (isModel ? aircraft.FileATCModel : aircraft.FileATCType) =
+                isModel ? aircraft.ATCModel : aircraft.ATCType;
         }
         LookUpAllClasses(context.session);
         ShowAircraftClass(context);

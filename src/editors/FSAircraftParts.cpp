@@ -86,17 +86,25 @@ NewPart PartOf(Context& context, TextBox FSAircraftEditForm::*field, std::string
     return typed;
 }
 
+// Reads the model's radius; one that is not saved yet, of another variant with that model, goes before it.
+void TakeModel(Context& context, FSAircraft& aircraft) {
+    const ModelRadius model = ReadModelRadius(context.services.files, FolderOf(aircraft), aircraft.Model);
+    aircraft.ModelFile = model.Path;
+    aircraft.ModelFormat = model.Format;
+    aircraft.Radius = model.Radius;
+    aircraft.RadiusChanged = false;
+    for (const FSAircraft& other : VariantsOfFile(context.session.fleet, aircraft)) {
+        if (!other.RadiusChanged || model.Path.empty() || other.ModelFile != model.Path) continue;
+        aircraft.Radius = other.Radius;
+        aircraft.RadiusChanged = true;
+    }
+}
+
 void TakePart(Context& context, const NewPart& typed, std::string FSAircraft::*part) {
     FSAircraft& aircraft = *typed.aircraft;
     aircraft.*part = typed.value;
     aircraft.Changed = true;
-    if (part == &FSAircraft::Model) {
-        const ModelRadius model = ReadModelRadius(context.services.files, FolderOf(aircraft), aircraft.Model);
-        aircraft.ModelFile = model.Path;
-        aircraft.ModelFormat = model.Format;
-        aircraft.Radius = model.Radius;
-        aircraft.RadiusChanged = false;
-    }
+    if (part == &FSAircraft::Model) TakeModel(context, aircraft);
     aircraft.Problem = AircraftFileProblem(aircraft, context.services.files);
     ShowAircraftChanged(context);
     ShowAircraftFields(context);

@@ -77,7 +77,7 @@ bool EditPlanAircraft(Context& context) {
 void OnEditPlanAircraft(Context& context) {
     if (!EditPlanAircraft(context)) return;
     MarkPlanModified(context);
-    ShowPlanAnew(context);
+    ShowPlanAnew(context, Views::Reset);
 }
 
 void SavePlanAircraft(Context& context) {

@@ -20,15 +20,19 @@ void ShowTreesAnew(Context& context, const PlanChange& change, BusyForm& busy) {
     RefreshShuffleLabel(form);
 }
 
+void ResetViews(Context& context, const PlanChange& change) {
+    ResetTimetableView(context);
+    ResetExportView(context);
+    if (change.changesAircraft) ResetMoverView(context);
+}
+
 std::string RunInFrame(Context& context, Form& form, const PlanChange& change) {
     BusyForm busy(context, form, change.stages);
     if (!change.firstStage.empty()) busy.Stage(change.firstStage, 1);
     if (change.takesSnapshot) TakeUndoSnapshot(context);
     std::string done = change.work(busy);
     if (change.changesAircraft) ShowTreesAnew(context, change, busy);
-    ResetTimetableView(context);
-    ResetExportView(context);
-    if (change.changesAircraft) ResetMoverView(context);
+    if (change.resetsViews) ResetViews(context, change);
     if (change.marksModified) MarkPlanModified(context);
     return done;
 }
@@ -40,13 +44,14 @@ void ChangePlan(Context& context, Form& form, const PlanChange& change) {
     if (!done.empty()) ShowMessage(context.services.messages, done, kMarkInformation, &form);
 }
 
-void ShowPlanAnew(Context& context) {
+void ShowPlanAnew(Context& context, Views views) {
     PlanChange change;
     change.work = [](BusyForm&) { return std::string(); };
     change.stages = 2;
     change.changesAircraft = true;
     change.takesSnapshot = false;
     change.marksModified = false;
+    change.resetsViews = views == Views::Reset;
     ChangePlan(context, context.forms.frmMain, change);
 }
 

@@ -18,6 +18,7 @@ struct PlanChange {
     bool changesAircraft = false;      // PlanAircrafts too: the trees and the mover's view follow
     bool takesSnapshot = true;         // an undo step of its own
     bool marksModified = true;         // even if nothing changed
+    bool resetsViews = true;
 };
 
 // Runs the change in the frame of a bulk operation over the form: disables it under the hourglass, shows the
@@ -25,9 +26,12 @@ struct PlanChange {
 // and closes with the message.
 void ChangePlan(Context& context, Form& form, const PlanChange& change);
 
-// Fills the trees and all views of the open plan anew, over the main window, after its aircraft or the
-// installed ones have changed.
-void ShowPlanAnew(Context& context);
+// Whether search, timetable and mover keep what they show.
+enum class Views { Kept, Reset };
+
+// Fills the trees of the open plan anew, over the main window, after its aircraft or the installed ones have
+// changed.
+void ShowPlanAnew(Context& context, Views views);
 
 // To be called after everything that changes flights or plan aircraft.
 void MarkPlanModified(Context& context);

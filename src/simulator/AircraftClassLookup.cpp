@@ -55,7 +55,8 @@ ClassMatch GetAircraftClass(const ClassLists& lists, std::string_view text) {
     return {};
 }
 
-ClassMatch ClassLookup::OfText(const std::string& text) {
+ClassMatch ClassLookup::OfText(const std::string& model, const std::string& type) {
+    const std::string& text = model.empty() ? type : model;
     if (text.empty()) return {};
     if (const ClassMatch* known = known_.Find(text)) return *known;
     const ClassMatch match = GetAircraftClass(lists_, text);
@@ -64,9 +65,8 @@ ClassMatch ClassLookup::OfText(const std::string& text) {
 }
 
 ClassMatch ClassLookup::Find(const FSAircraft& aircraft) {
-    const ClassMatch ofFile = OfText(aircraft.ClassText);
-    if (ofFile.Class != kClassNone) return ofFile;
-    return OfText(aircraft.ATCModel.empty() ? aircraft.ATCType : aircraft.ATCModel);
+    const ClassMatch ofFile = OfText(aircraft.FileATCModel, aircraft.FileATCType);
+    return ofFile.Class != kClassNone ? ofFile : OfText(aircraft.ATCModel, aircraft.ATCType);
 }
 
 void ApplyAircraftClass(FSAircraft& aircraft, const ClassMatch& match, const ClassLists& lists) {

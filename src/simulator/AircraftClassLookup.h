@@ -29,7 +29,7 @@ class ClassLookup {
     ClassMatch Find(const FSAircraft& aircraft);
 
   private:
-    ClassMatch OfText(const std::string& text);
+    ClassMatch OfText(const std::string& model, const std::string& type);
 
     const ClassLists& lists_;
     KeyedIndex<ClassMatch> known_;

@@ -51,6 +51,18 @@ std::string ValueOf(const FSAircraft& aircraft, const ConfigKey& key) {
     return std::to_string(aircraft.*key.number);
 }
 
+// Where [General] has no model, a variant's own model and type are read, so these change with the file's.
+bool SetOwnModelAndType(InitialisationFile& file, const FSAircraft& aircraft) {
+    if (!ConfigText(file.Get("general", "atc_model").value_or("")).empty()) return true;
+    const std::pair<std::string_view, const std::string&> values[] = {{"atc_model", aircraft.ATCModel},
+                                                                      {"atc_type", aircraft.ATCType}};
+    for (const auto& [key, value] : values) {
+        const bool isOwn = !ConfigText(file.Get(aircraft.Section, key).value_or("")).empty();
+        if (isOwn && !SetConfigText(file, aircraft.Section, key, value)) return false;
+    }
+    return true;
+}
+
 bool SetChangedKeys(InitialisationFile& file, const FSAircraft& aircraft, const FSAircraft& kept) {
     for (const ConfigKey& key : kConfigKeys) {
         const std::string value = ValueOf(aircraft, key);
@@ -58,21 +70,25 @@ bool SetChangedKeys(InitialisationFile& file, const FSAircraft& aircraft, const 
         const std::string_view section = key.section.empty() ? aircraft.Section : key.section;
         if (!SetConfigText(file, section, key.key, value)) return false;
     }
-    return true;
+    return SetOwnModelAndType(file, aircraft);
 }
 
-// The variants of one aircraft.cfg, which stand together.
-bool WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FSAircraft> kept, FileSystem& files,
-                 bool backup) {
+// The variants of one aircraft.cfg, which stand together. The path of the file, or of its backup, where it
+// can't be written; else empty. A file is backed up only where it can be written.
+std::string WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FSAircraft> kept,
+                        FileSystem& files, bool backup) {
     const std::string& path = aircraft.front().ConfigFile;
     const auto text = ReadWholeFile(files, path);
-    if (!text) return false;
+    if (!text) return path;
     InitialisationFile file(*text);
     for (std::size_t i = 0; i < aircraft.size(); ++i) {
-        if (aircraft[i].Changed && !SetChangedKeys(file, aircraft[i], kept[i])) return false;
+        if (aircraft[i].Changed && !SetChangedKeys(file, aircraft[i], kept[i])) return path;
     }
-    if (file.Text() == *text) return true;
-    return (!backup || BackUpOnce(files, path)) && ReplaceWholeFile(files, path, file.Text());
+    if (file.Text() == *text) return {};
+    const auto output = files.CreateReplacing(path);
+    if (!output) return path;
+    if (backup && !BackUpOnce(files, path)) return BackupPath(path);
+    return output->Write(file.Text()) && output->Commit() ? std::string() : path;
 }
 
 FilePatch RadiusPatch(const FSAircraft& aircraft) {
@@ -84,14 +100,17 @@ FilePatch RadiusPatch(const FSAircraft& aircraft) {
 }
 
 // The model is looked at again: it may have been exchanged since the scan, and then other bytes stand there.
-bool WriteRadius(const FSAircraft& aircraft, FileSystem& files, bool backup) {
-    if (aircraft.ModelFormat == 0 || !files.FileExists(aircraft.ModelFile)) return true;
+// Gives what WriteConfig does.
+std::string WriteRadius(const FSAircraft& aircraft, FileSystem& files, bool backup) {
+    const std::string& path = aircraft.ModelFile;
+    if (aircraft.ModelFormat == 0 || !files.FileExists(path)) return {};
     const ModelRadius found = ReadModelRadius(files, ParentFolder(aircraft.ConfigFile), aircraft.Model);
-    if (found.Path != aircraft.ModelFile || found.Format != aircraft.ModelFormat) return false;
-    if (found.Radius == aircraft.Radius) return true;
+    if (found.Path != path || found.Format != aircraft.ModelFormat) return path;
+    if (found.Radius == aircraft.Radius) return {};
+    if (!files.PatchFile(path, {})) return path;
+    if (backup && !BackUpOnce(files, path)) return BackupPath(path);
     const FilePatch patch = RadiusPatch(aircraft);
-    return (!backup || BackUpOnce(files, aircraft.ModelFile)) &&
-           files.PatchFile(aircraft.ModelFile, {&patch, 1});
+    return files.PatchFile(path, {&patch, 1}) ? std::string() : path;
 }
 
 std::size_t EndOfFile(const std::vector<FSAircraft>& aircraft, std::size_t first) {
@@ -108,12 +127,12 @@ bool AnyChanged(std::span<const FSAircraft> aircraft) {
 }
 
 // The variant's section is written; its model not yet.
-void KeepConfig(FSAircraft& aircraft, FSAircraft& kept) {
-    const std::int32_t radius = aircraft.RadiusChanged ? kept.Radius : aircraft.Radius;
+void KeepConfig(FSAircraft& aircraft, FSAircraft& kept, FileSystem& files) {
     aircraft.Changed = false;
     kept = aircraft;
-    kept.Radius = radius;
+    if (!aircraft.RadiusChanged) return;
     kept.RadiusChanged = false;
+    kept.Radius = ReadModelRadius(files, ParentFolder(aircraft.ConfigFile), aircraft.Model).Radius;
 }
 
 }  // namespace
@@ -124,13 +143,15 @@ std::string SaveAircraft(std::vector<FSAircraft>& aircraft, std::vector<FSAircra
         end = EndOfFile(aircraft, first);
         const std::span variants(&aircraft[first], end - first);
         if (AnyChanged(variants)) {
-            if (!WriteConfig(variants, std::span(&kept[first], end - first), files, backup))
-                return variants.front().ConfigFile;
-            for (std::size_t place = first; place < end; ++place) KeepConfig(aircraft[place], kept[place]);
+            std::string failed = WriteConfig(variants, std::span(&kept[first], end - first), files, backup);
+            if (!failed.empty()) return failed;
+            for (std::size_t place = first; place < end; ++place)
+                KeepConfig(aircraft[place], kept[place], files);
         }
         for (std::size_t place = first; place < end; ++place) {
             if (!aircraft[place].RadiusChanged) continue;
-            if (!WriteRadius(aircraft[place], files, backup)) return aircraft[place].ModelFile;
+            std::string failed = WriteRadius(aircraft[place], files, backup);
+            if (!failed.empty()) return failed;
             aircraft[place].RadiusChanged = false;
             kept[place].Radius = aircraft[place].Radius;
         }

@@ -14,8 +14,9 @@ namespace orlo {
 // file is backed up once before it is written. What is written loses its marks Changed and RadiusChanged and
 // goes to `kept`.
 //
-// Files are written in the order of the list, an aircraft.cfg whole. The first one that can't be written ends
-// the save: its path is the result, and what comes behind keeps its marks. Empty where all is written.
+// Files are written in the order of the list, an aircraft.cfg whole. The first one that can't be written, or
+// backed up, ends the save: its path, or that of the backup, is the result, and what comes behind keeps its
+// marks. Empty where all is written.
 std::string SaveAircraft(std::vector<FSAircraft>& aircraft, std::vector<FSAircraft>& kept, FileSystem& files,
                          bool backup);
 

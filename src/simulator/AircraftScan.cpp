@@ -69,7 +69,8 @@ class FolderReader {
         common_.ConfigFile = JoinPath(folder, "aircraft.cfg");
         common_.ATCModel = config_.Text("General", "atc_model");
         common_.ATCType = config_.Text("General", "atc_type");
-        common_.ClassText = common_.ATCModel.empty() ? common_.ATCType : common_.ATCModel;
+        common_.FileATCModel = common_.ATCModel;
+        common_.FileATCType = common_.ATCType;
         common_.Performance = config_.Text("General", "Performance");
         const std::string speed = config_.Text("Reference Speeds", "cruise_speed");
         common_.FileCruiseSpeed = ParseWholeNumber(BeforeFirst(speed, ".")).value_or(-1);

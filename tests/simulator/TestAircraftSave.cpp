@@ -60,6 +60,8 @@ TEST_F(AircraftSave, AChangedValueChangesItsLineAloneAndASecondSaveNothing) {
          "[fltsim.0]\r\ntitle=A\r\natc_heavy=1\r\n[fltsim.0]\r\ntitle=B\r\n"},
         {"[fltsim.0]\ntitle=A\n", [](FSAircraft& a) { a.FileCruiseSpeed = 250; },
          "[fltsim.0]\ntitle=A\n[Reference Speeds]\ncruise_speed=250\n"},
+        {"[fltsim.0]\ntitle=A\natc_type=own\n[General]\natc_type=x\n", [](FSAircraft& a) { a.ATCType = "T"; },
+         "[fltsim.0]\ntitle=A\natc_type=T\n[General]\natc_type=T\n"},
         {"[fltsim.0]\rtitle=A\r[GENERAL]\ratc_type=x\r", [](FSAircraft& a) { a.ATCModel = "M"; },
          "[fltsim.0]\rtitle=A\r[GENERAL]\ratc_type=x\ratc_model=M\r"},
     };
@@ -155,6 +157,10 @@ TEST_F(AircraftSave, TheFirstFileThatCantBeWrittenEndsTheSaveAndKeepsTheMarksBeh
     files.files.erase(In("b", "aircraft.cfg"));
     EXPECT_EQ(Save(), In("b", "aircraft.cfg"));
     EXPECT_FALSE(files.FileExists(In("b", "aircraft.cfg")));
+    files.failCreate = true;
+    Edit(0).Title = "Newer A";
+    EXPECT_EQ(Save(), In("a", "aircraft.cfg"));
+    EXPECT_FALSE(files.FileExists(In("a", "aircraft.cfg.orlo.bak")));
 }
 
 }  // namespace
