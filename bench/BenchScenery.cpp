@@ -14,6 +14,7 @@
 #include "simulator/AfdCache.h"
 #include "simulator/AircraftScan.h"
 #include "simulator/BglAirport.h"
+#include "simulator/GateResize.h"
 #include "simulator/Scenery.h"
 
 namespace orlo {
@@ -143,6 +144,32 @@ void BM_ReadCache(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
+// All parkings of one type in a copy of the whole scenery, without backups.
+void BM_ResizeGates(benchmark::State& state) {
+    PosixFileSystem files;
+    const std::string from = SceneryFolder(SimulatorFolder());
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "orlo-bench-gates";
+    std::filesystem::create_directories(folder);
+    std::vector<std::string> paths;
+    for (const std::string& name : SceneryFileNames(files, from)) {
+        paths.push_back((folder / name).string());
+        files.CopyFile(JoinPath(from, name), paths.back());
+    }
+    if (paths.empty()) return state.SkipWithError("no scenery lies beside the checkout");
+    GateResize resize{
+        .Class = static_cast<std::int32_t>(state.range(0)), .Radius = 20, .Search = {}, .ICAO = {}};
+    std::int32_t gates = 0;
+    const double start = SecondsNow();
+    for (auto _ : state) {
+        resize.Radius += 1;
+        gates = ResizeAllFiles(files, folder.string(), resize, false).count;
+    }
+    ReportRatio(state, SecondsNow() - start, paths);
+    state.counters["gates"] = gates;
+    std::filesystem::remove_all(folder);
+}
+
+BENCHMARK(BM_ResizeGates)->ArgName("class")->Arg(4)->Arg(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanScenery)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanRealAircraft)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanAircraft)->Unit(benchmark::kMillisecond);

@@ -6,6 +6,7 @@
 #include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
+#include "forms/ResizeGatesForm.h"
 #include "forms/SplashForm.h"
 #include "forms/TTStatisticsForm.h"
 #include "forms/TextEditForm.h"
@@ -23,6 +24,7 @@ struct Forms {
     TTStatisticsForm frmTTStatistics;
     FSAircraftEditForm frmFSAircraftEdit;
     TextEditForm frmTextEdit;
+    ResizeGatesForm frmResizeGates;
 };
 
 }  // namespace orlo

@@ -14,6 +14,7 @@ EventTable FlightEditEvents();
 EventTable AircraftEditEvents();
 EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
+EventTable ResizeGatesEvents();
 EventTable TextEditEvents();
 
 // Makes a table's procedure of one that doesn't need the event.

@@ -46,6 +46,7 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmTTStatistics>(Only<TTStatisticsEvents>, "statistics.html"),
     FactsOf<&Forms::frmFSAircraftEdit>(Only<FSAircraftEditEvents>, "aircraft.html"),
     FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, "aircraft.html"),
+    FactsOf<&Forms::frmResizeGates>(Only<ResizeGatesEvents>, "gates.html"),
 };
 
 constexpr std::size_t ListedBytes() {

@@ -4,6 +4,7 @@
 
 #include "editors/FSAircraftEditor.h"
 #include "editors/PlanAircraftEditor.h"
+#include "editors/ResizeGates.h"
 #include "mainwindow/SavePlan.h"
 #include "operations/AirlineSkeleton.h"
 #include "operations/CorrectFlightLevels.h"
@@ -89,7 +90,7 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click, Run<ShowFSAircraftEditor>},
     EventEntry{InMain<&M::mnuToolsAirportDistance>, Click},
     EventEntry{InMain<&M::mnuToolsAirportSearch>, Click},
-    EventEntry{InMain<&M::mnuToolsResizeGates>, Click},
+    EventEntry{InMain<&M::mnuToolsResizeGates>, Click, Run<ShowResizeGates>},
     EventEntry{InMain<&M::mnuReportsNotFound>, Click, Report<SearchMode::AircraftNotFound>},
     EventEntry{InMain<&M::mnuReportsDuplicateFlights>, Click, Report<SearchMode::DuplicateFlights>},
     EventEntry{InMain<&M::mnuReportsUnknownAirports>, Click, Report<SearchMode::UnknownAirports>},

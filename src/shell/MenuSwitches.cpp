@@ -41,8 +41,7 @@ void ChooseSimulatorFolder(Context& context) {
 }
 
 void DeleteSceneryCache(Context& context) {
-    context.services.files.DeleteFile(JoinPath(context.session.ProgramFolder, kAFDCacheName));
-    context.session.scenery.Airports = {};
+    ForgetScenery(context.session, context.services.files);
 }
 
 }  // namespace orlo

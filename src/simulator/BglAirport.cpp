@@ -145,32 +145,6 @@ void ReadSubRecord(const BglSubRecord& subRecord, AirportRecord& record) {
     }
 }
 
-// Sets a level of the hierarchy and clears the lower ones. False for an entry that is no level.
-bool EnterLevel(const BglEntry& entry, AirportRecord& place) {
-    switch (entry.Type) {
-        case kBglRegion:
-            place.Region = entry.Text;
-            place.Country.clear();
-            place.State.clear();
-            place.City.clear();
-            return true;
-        case kBglCountry:
-            place.Country = entry.Text;
-            place.State.clear();
-            place.City.clear();
-            return true;
-        case kBglState:
-            place.State = entry.Text;
-            place.City.clear();
-            return true;
-        case kBglCity:
-            place.City = entry.Text;
-            return true;
-        default:
-            return false;
-    }
-}
-
 SurfaceClass ClassOfSurface(std::int32_t code) {
     switch (code) {
         case 1:
@@ -195,6 +169,31 @@ bool IsWholeRadius(float radius) {
 }
 
 }  // namespace
+
+bool EnterLevel(const BglEntry& entry, AirportRecord& place) {
+    switch (entry.Type) {
+        case kBglRegion:
+            place.Region = entry.Text;
+            place.Country.clear();
+            place.State.clear();
+            place.City.clear();
+            return true;
+        case kBglCountry:
+            place.Country = entry.Text;
+            place.State.clear();
+            place.City.clear();
+            return true;
+        case kBglState:
+            place.State = entry.Text;
+            place.City.clear();
+            return true;
+        case kBglCity:
+            place.City = entry.Text;
+            return true;
+        default:
+            return false;
+    }
+}
 
 bool ReadAFDFile(FileSystem& files, const std::string& path, std::vector<AirportRecord>& records) {
     const auto bytes = ReadWholeFile(files, path);

@@ -17,6 +17,10 @@ namespace orlo {
 bool ReadAFDFile(FileSystem& files, const std::string& path, std::vector<AirportRecord>& records);
 bool ReadAFDBytes(std::string_view bytes, std::vector<AirportRecord>& records);
 
+// For a walk over a file's entries: sets the level that the entry tells, clears the lower ones and gives
+// true. False, with the place as it was, for an entry that is no level.
+bool EnterLevel(const BglEntry& entry, AirportRecord& place);
+
 // Fills what an airport's body tells: code, reference point, runways, parkings and frequencies. A missing
 // body leaves the record as it is.
 void ReadAirportBody(BglFile& file, std::uint32_t bodyPosition, AirportRecord& record);

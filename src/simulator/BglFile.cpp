@@ -68,7 +68,8 @@ BglParkingBlock FindParkingEntries(const BglSubRecord& subRecord) {
     reader.Skip(4);
     const std::uint32_t count = reader.Dword();
     if (!reader.Ok()) return {};
-    return {reader.Position(), std::min<std::size_t>(count, reader.Left() / kBglParkingEntrySize)};
+    const std::size_t held = std::min<std::size_t>(count, reader.Left() / kBglParkingEntrySize);
+    return {reader.Position(), held, held == count};
 }
 
 }  // namespace orlo

@@ -47,6 +47,7 @@ struct BglSubRecord {
 struct BglParkingBlock {
     std::size_t Start = 0;  // of the first entry, counted from the sub-record's start
     std::size_t Count = 0;  // whole entries that the sub-record really holds
+    bool Complete = false;  // as many as it tells
 };
 
 // A longer text is cut: texts of the hierarchy are copied into each airport below them.

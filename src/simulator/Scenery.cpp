@@ -36,6 +36,11 @@ std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& 
     return names;
 }
 
+void ForgetScenery(Session& session, FileSystem& files) {
+    files.DeleteFile(JoinPath(session.ProgramFolder, kAFDCacheName));
+    session.scenery.Airports = {};
+}
+
 bool ReadScenery(Session& session, Services& services) {
     if (!session.scenery.Airports.empty()) return true;
     const std::string cachePath = JoinPath(session.ProgramFolder, kAFDCacheName);

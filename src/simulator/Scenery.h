@@ -17,6 +17,9 @@ std::string SceneryFolder(const std::string& simulatorFolder);
 // Names of the files in it that may hold airport data: those longer than 3 characters that end in "BGL".
 std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& sceneryFolder);
 
+// Deletes the cache and empties the airports in memory: the next use reads the scenery anew.
+void ForgetScenery(Session& session, FileSystem& files);
+
 // Fills session.scenery.Airports, unless it is filled, from the cache; where that is missing, of another
 // version or damaged, from the simulator's scenery, and then writes the cache. False, with no cache written,
 // when there are no airports afterwards. An unknown simulator is told to the user.

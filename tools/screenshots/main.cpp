@@ -92,6 +92,7 @@ class Photographer {
         ShowTab("TIMETABLE");
         TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
         TakeModal(form_.mnuToolsAircraftEditor, program_.forms.frmFSAircraftEdit, "aircraft");
+        TakeModal(form_.mnuToolsResizeGates, program_.forms.frmResizeGates, "gates");
         TakeTextEditor();
         return AllTaken();
     }

@@ -16,7 +16,7 @@ namespace orlo {
 //   bool WriteAll(const Handle&, std::string_view bytes)            at the present place
 //   std::ptrdiff_t ReadSome(const Handle&, std::span<char> buffer)  0 at the end, negative after a failure
 //   std::optional<std::uint64_t> SizeOf(const Handle&)
-//   bool SetPlace(const Handle&, std::uint64_t place)               of the next write
+//   bool WriteAllAt(const Handle&, std::uint64_t place, std::string_view bytes)
 //   bool SetSize(const Handle&, std::uint64_t size)                 cuts, or adds zero bytes
 //   bool TakeRoom(const Handle&, std::uint64_t from, std::uint64_t to)
 //     has the disk set aside what the file grows by; false on a full disk
@@ -166,7 +166,7 @@ bool PatchBytes(const Handle& file, std::span<const FilePatch> patches) {
         if (patch.position > size || size - patch.position < patch.bytes.size()) return false;
     }
     for (const FilePatch& patch : patches) {
-        if (!SetPlace(file, patch.position) || !WriteAll(file, patch.bytes)) return false;
+        if (!WriteAllAt(file, patch.position, patch.bytes)) return false;
     }
     return true;
 }

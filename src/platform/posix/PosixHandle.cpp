@@ -82,8 +82,16 @@ std::optional<std::uint64_t> SizeOf(const PosixHandle& file) {
     return static_cast<std::uint64_t>(facts.st_size);
 }
 
-bool SetPlace(const PosixHandle& file, std::uint64_t place) {
-    return lseek(file.Descriptor(), static_cast<off_t>(place), SEEK_SET) >= 0;
+bool WriteAllAt(const PosixHandle& file, std::uint64_t place, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = pwrite(file.Descriptor(), bytes.data(),
+                                       std::min(bytes.size(), kLargestTransfer), static_cast<off_t>(place));
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        place += static_cast<std::uint64_t>(written);
+    }
+    return true;
 }
 
 bool SetSize(const PosixHandle& file, std::uint64_t size) {

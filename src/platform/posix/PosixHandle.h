@@ -49,7 +49,7 @@ ssize_t ReadSome(const PosixHandle& file, std::span<char> buffer);
 
 // See common/OutputFiles.h.
 std::optional<std::uint64_t> SizeOf(const PosixHandle& file);
-bool SetPlace(const PosixHandle& file, std::uint64_t place);
+bool WriteAllAt(const PosixHandle& file, std::uint64_t place, std::string_view bytes);
 bool SetSize(const PosixHandle& file, std::uint64_t size);
 bool TakeRoom(const PosixHandle& file, std::uint64_t from, std::uint64_t to);
 

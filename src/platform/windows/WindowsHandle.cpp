@@ -114,10 +114,10 @@ std::optional<std::uint64_t> SizeOf(const WindowsHandle& file) {
     return static_cast<std::uint64_t>(size.QuadPart);
 }
 
-bool SetPlace(const WindowsHandle& file, std::uint64_t place) {
+bool WriteAllAt(const WindowsHandle& file, std::uint64_t place, std::string_view bytes) {
     LARGE_INTEGER distance{};
     distance.QuadPart = static_cast<LONGLONG>(place);
-    return SetFilePointerEx(file.Value(), distance, nullptr, FILE_BEGIN) != 0;
+    return SetFilePointerEx(file.Value(), distance, nullptr, FILE_BEGIN) != 0 && WriteAll(file, bytes);
 }
 
 bool SetSize(const WindowsHandle& file, std::uint64_t size) {

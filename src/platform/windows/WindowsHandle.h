@@ -47,7 +47,7 @@ WindowsHandle OpenOnDisk(const std::string& path, OpenFor purpose);
 bool WriteAll(const WindowsHandle& file, std::string_view bytes);
 std::ptrdiff_t ReadSome(const WindowsHandle& file, std::span<char> buffer);
 std::optional<std::uint64_t> SizeOf(const WindowsHandle& file);
-bool SetPlace(const WindowsHandle& file, std::uint64_t place);
+bool WriteAllAt(const WindowsHandle& file, std::uint64_t place, std::string_view bytes);
 bool SetSize(const WindowsHandle& file, std::uint64_t size);
 bool TakeRoom(const WindowsHandle& file, std::uint64_t from, std::uint64_t to);
 
