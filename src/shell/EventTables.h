@@ -15,6 +15,9 @@ EventTable AircraftEditEvents();
 EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
 EventTable TextEditEvents();
+EventTable DistanceEvents();
+EventTable AirportSearchEvents();
+EventTable AirportInfoEvents();
 
 // Makes a table's procedure of one that doesn't need the event.
 template <auto Procedure>
