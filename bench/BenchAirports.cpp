@@ -29,7 +29,9 @@ std::vector<AirportRecord> ReadAirports() {
     const std::string folder = SceneryFolder((bench::RealWorldFolder() / "simulator").string());
     for (const std::string& name : SceneryFileNames(files, folder))
         ReadAFDFile(files, JoinPath(folder, name), airports);
-    AirportRecord made{.Name = "An Airport of the World", .Latitude = "N47*27.5712'"};
+    AirportRecord made;
+    made.Name = "An Airport of the World";
+    made.Latitude = "N47*27.5712'";
     made.Longitude = "W122*18.1234'";
     made.Region = "North America";
     made.Country = "United States of America";

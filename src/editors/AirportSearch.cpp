@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "core/Number.h"
 #include "core/PlaceIndex.h"
 #include "core/Text.h"
 #include "editors/AirportInfo.h"

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/Event.h"
 #include "mainwindow/Context.h"
 
 namespace orlo {
