@@ -126,10 +126,6 @@ void ConsoleHost::UnloadForm(Form& form) {
     if (program_ != nullptr) program_->pump.Windows().Unload(form);
 }
 
-void ConsoleHost::ShowNotBuilt(std::string_view controlName) {
-    throw ScriptEnd{Concat(controlName, " is not built yet")};
-}
-
 void ConsoleHost::StartTimer(std::string_view name, int) {
     timers_.insert(UpperText(name));
 }

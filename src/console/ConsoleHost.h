@@ -46,7 +46,6 @@ class ConsoleHost : public FrontEnd {
     void ShowModal(Form& form, Form* owner) override;
     void UnloadForm(Form& form) override;
     bool KeepsWindowPlace() const override { return false; }
-    void ShowNotBuilt(std::string_view controlName) override;
     void StartTimer(std::string_view name, int milliseconds) override;
     void StopTimer(std::string_view name) override;
     bool TimerArmed(std::string_view name) const override;

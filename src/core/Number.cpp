@@ -98,7 +98,7 @@ std::string FormatDigits(std::int64_t value, int digits) {
 std::string FormatFixed(double value, int decimals) {
     char buffer[400];
     const double scale = std::pow(10.0, decimals);
-    const double rounded = std::round(value * scale) / scale;
+    const double rounded = std::round(value * scale) / scale + 0.0;  // turns a -0 into 0
     const auto result =
         std::to_chars(buffer, buffer + sizeof buffer, std::isfinite(rounded) ? rounded : value,
                       std::chars_format::fixed, decimals);

@@ -11,6 +11,7 @@ namespace orlo {
 namespace {
 
 constexpr int kLeastCharacters = 12;
+constexpr int kWideCharacters = 56;
 constexpr int kMostShown = 20;  // entries, without scrolling
 
 }  // namespace
@@ -40,7 +41,7 @@ ComboBoxBinder::ComboBoxBinder(ComboBox& combo, QWidget& parent, EventSink& sink
       model_(combo) {
     // The width isn't fitted to the entries: it takes long to measure many. The wheel gives no focus.
     shown_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    shown_.setMinimumContentsLength(kLeastCharacters);
+    shown_.setMinimumContentsLength(combo.wide ? kWideCharacters : kLeastCharacters);
     shown_.setFocusPolicy(Qt::StrongFocus);
     shown_.setMaxVisibleItems(kMostShown);
     shown_.setModel(&model_);

@@ -183,10 +183,6 @@ MessageAnswer DesktopHost::ShowMessage(std::string_view text, int flags, std::st
     return answer;
 }
 
-void DesktopHost::ShowNotBuilt(std::string_view controlName) {
-    ShowMessage(Concat(controlName, " is not built yet"), kMarkInformation, kApplicationTitle, nullptr);
-}
-
 std::string DesktopHost::ShowOpenDialog(const FileDialog& dialog) {
     const DialogRound round(*this);
     QFileDialog shown(OwnerWindow(nullptr), ToQString(dialog.title));

@@ -68,7 +68,6 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     void ShowModal(Form& form, Form* owner) override;
     void UnloadForm(Form& form) override;
     bool KeepsWindowPlace() const override { return true; }
-    void ShowNotBuilt(std::string_view controlName) override;
     void StartTimer(std::string_view name, int milliseconds) override;
     void StopTimer(std::string_view name) override;
     bool TimerArmed(std::string_view name) const override;

@@ -28,8 +28,10 @@ constexpr int kRowRoom = 4;
 constexpr int kCellRoom = 12;
 constexpr int kMarkGap = 6;
 constexpr int kMostHintCharacters = 75;
+constexpr int kWideHintCharacters = 105;
 constexpr std::int32_t kMostHintRows = 16;
 constexpr int kMostCellCharacters = 36;
+constexpr int kWideCellCharacters = 64;  // of the first column of a wide list
 constexpr std::int32_t kRowsMeasured = 200;
 constexpr int kSortKey = Qt::Key_F3;  // sorts by the current cell's column
 
@@ -89,11 +91,14 @@ class ListTable : public QTableView {
 
     // Of a dialog's list when the window opens: its columns and rows whole, but for very many.
     QSize sizeHint() const override {
-        const int most = kMostHintCharacters * fontMetrics().averageCharWidth();
+        const int character = fontMetrics().averageCharWidth();
+        const int width = list_.wide ? kWideHintCharacters * character
+                                     : std::min(columnsWidth_, kMostHintCharacters * character);
         const int edges = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-        const int rows = std::min(list_.Count(), kMostHintRows) * verticalHeader()->defaultSectionSize();
-        const int height = rows + horizontalHeader()->sizeHint().height() + edges;
-        return QTableView::sizeHint().expandedTo({std::min(columnsWidth_, most) + edges, height});
+        const std::int32_t rows = list_.wide ? kMostHintRows : std::min(list_.Count(), kMostHintRows);
+        const int height =
+            rows * verticalHeader()->defaultSectionSize() + horizontalHeader()->sizeHint().height() + edges;
+        return QTableView::sizeHint().expandedTo({width + edges, height});
     }
 
     // Scrolls sideways only for a key that moves from column to column.
@@ -271,12 +276,13 @@ void ListViewBinder::DrawRows() {
 void ListViewBinder::FitColumns(Fit fit) {
     const QFontMetrics headerMetrics(shown_.horizontalHeader()->font());
     const QFontMetrics metrics(shown_.font());
-    const int most = kMostCellCharacters * metrics.averageCharWidth();
     const std::int32_t rows = std::min(list_.Count(), kRowsMeasured);
     int total = 0;
     for (std::size_t i = 0; i < list_.columns.size(); ++i) {
         const auto column = static_cast<int>(i);
         const auto kept = list_.columnWidths.find(list_.columns[i].key);
+        const int characters = list_.wide && column == 0 ? kWideCellCharacters : kMostCellCharacters;
+        const int most = characters * metrics.averageCharWidth();
         int needed = std::max(
             kLeastWidth, headerMetrics.horizontalAdvance(ToQString(list_.columns[i].caption)) + kHeaderRoom);
         for (std::int32_t row = 0; row < rows; ++row) {

@@ -1,10 +1,14 @@
 #include "desktop/TextBoxBinder.h"
 
 #include <QFontDatabase>
+#include <QPlainTextEdit>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "core/Text.h"
 #include "desktop/ScreenText.h"
@@ -17,26 +21,63 @@ struct PageSize {
     int columns;
     int lines;
 };
-constexpr PageSize kReport{64, 26};
-constexpr PageSize kNote{60, 12};
+constexpr PageSize PageOf(bool isReport) {
+    return isReport ? PageSize{64, 26} : PageSize{60, 12};
+}
+constexpr int kMostColumns = 92;
+constexpr int kTabStop = 8;  // as on paper
 
-class PageEdit : public QPlainTextEdit {
-  public:
-    PageEdit(QWidget& parent, PageSize page) : QPlainTextEdit(&parent), page_(page) {}
-    QSize sizeHint() const override {
-        const QFontMetrics metrics(font());
-        return {metrics.horizontalAdvance('0') * page_.columns, metrics.lineSpacing() * page_.lines};
+// The columns of the text's longest line.
+int ColumnsOf(const QString& text) {
+    int most = 0;
+    int columns = 0;
+    for (const QChar character : text) {
+        columns = character == '\n'   ? 0
+                  : character == '\t' ? (columns / kTabStop + 1) * kTabStop
+                                      : columns + 1;
+        most = std::max(most, columns);
     }
-
-  private:
-    PageSize page_;
-};
+    return most;
+}
 
 Qt::CursorShape FieldCursor(PointerShape shape) {
     return shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::IBeamCursor;
 }
 
 }  // namespace
+
+// A report that is wider than a page gets room for its lines.
+class PageEdit : public QPlainTextEdit {
+  public:
+    PageEdit(QWidget& parent, bool isReport)
+        : QPlainTextEdit(&parent), isReport_(isReport), columns_(PageOf(isReport).columns) {
+        setTabChangesFocus(true);
+        if (!isReport) return;
+        setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        setLineWrapMode(QPlainTextEdit::NoWrap);
+        setTabStopDistance(kTabStop * QFontMetricsF(font()).horizontalAdvance(' '));
+    }
+    void ShowText(const QString& text) {
+        setPlainText(text);
+        if (!isReport_) return;
+        columns_ = std::clamp(ColumnsOf(text), PageOf(isReport_).columns, kMostColumns);
+        updateGeometry();
+    }
+    QSize sizeHint() const override {
+        const QFontMetricsF metrics(font());
+        const double width = metrics.horizontalAdvance('0') * columns_ + (isReport_ ? Edges() : 0);
+        return {static_cast<int>(std::ceil(width)),
+                static_cast<int>(metrics.lineSpacing() * PageOf(isReport_).lines)};
+    }
+
+  private:
+    double Edges() const {
+        return 2 * frameWidth() + 2 * document()->documentMargin() + verticalScrollBar()->sizeHint().width();
+    }
+
+    bool isReport_;
+    int columns_;
+};
 
 LineBinder::LineBinder(TextBox& box, QWidget& parent, EventSink& sink)
     : Binder(box, *new QLineEdit(&parent), sink), box_(box), shown_(static_cast<QLineEdit&>(Widget())) {
@@ -75,6 +116,7 @@ void LineBinder::ShowText() {
 }
 
 void LineBinder::TakeRequests() {
+    if (std::exchange(box_.goToEndRequest, false)) shown_.end(false);
     if (!box_.selectAllRequest) return;
     box_.selectAllRequest = false;
     // Only where the selection is seen. The Tab key selects all by itself.
@@ -82,14 +124,9 @@ void LineBinder::TakeRequests() {
 }
 
 TextBinder::TextBinder(TextBox& box, QWidget& parent, EventSink& sink)
-    : Binder(box, *new PageEdit(parent, box.style == TextBoxStyle::FixedFont ? kReport : kNote), sink),
+    : Binder(box, *new PageEdit(parent, box.style == TextBoxStyle::FixedFont), sink),
       box_(box),
-      shown_(static_cast<QPlainTextEdit&>(Widget())) {
-    shown_.setTabChangesFocus(true);
-    if (box.style == TextBoxStyle::FixedFont) {
-        shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        shown_.setLineWrapMode(QPlainTextEdit::NoWrap);
-    }
+      shown_(static_cast<PageEdit&>(Widget())) {
     QObject::connect(&shown_, &QPlainTextEdit::textChanged, &life, [this] {
         UserActs(EventKind::Change, [&] {
             box_.text = ReplaceAll(FromQString(shown_.toPlainText()), "\n", "\r\n");
@@ -115,13 +152,14 @@ void TextBinder::GoBack() {
 void TextBinder::ShowText() {
     const QSignalBlocker blocker(shown_);
     const int at = shown_.textCursor().position();
-    shown_.setPlainText(ToQString(RemoveAll(box_.text, '\r')));
+    shown_.ShowText(ToQString(RemoveAll(box_.text, '\r')));
     QTextCursor cursor = shown_.textCursor();
     cursor.setPosition(std::min(at, shown_.document()->characterCount() - 1));
     shown_.setTextCursor(cursor);
 }
 
 void TextBinder::TakeRequests() {
+    if (std::exchange(box_.goToEndRequest, false)) shown_.moveCursor(QTextCursor::End);
     if (!box_.selectAllRequest) return;
     box_.selectAllRequest = false;
     shown_.selectAll();

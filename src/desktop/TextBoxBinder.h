@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 #include "desktop/Binder.h"
 
@@ -27,6 +26,8 @@ class LineBinder : public Binder {
     bool drawing_ = false;
 };
 
+class PageEdit;
+
 // A text box of several lines. They end with CR LF in the form, with LF in the widget.
 class TextBinder : public Binder {
   public:
@@ -42,7 +43,7 @@ class TextBinder : public Binder {
     void ShowText();
 
     TextBox& box_;
-    QPlainTextEdit& shown_;
+    PageEdit& shown_;
     DrawnText text_;
 };
 

@@ -3,7 +3,7 @@
 #include "core/Text.h"
 #include "editors/FlightEditTimes.h"
 #include "mainwindow/PrintedLeg.h"
-#include "mainwindow/StatusTexts.h"
+#include "mainwindow/ReportWindow.h"
 
 namespace orlo {
 namespace {
@@ -23,11 +23,8 @@ std::string PrintedFlight(const FlightEditForm& form, const Session& session) {
 }  // namespace
 
 void PrintFlightEdit(Context& context) {
-    WindowHost& windows = context.services.windows;
-    if (!windows.ShowPrintDialog("Flight Editor - Print")) return;
-    ForgetNotWritten(context);
-    const std::string text = PrintedFlight(context.forms.frmFlightEdit, context.session);
-    if (windows.Print(text) == PrintOutcome::Failed) ReportNotPrinted(context);
+    AskAndPrint(context, "Flight Editor - Print",
+                PrintedFlight(context.forms.frmFlightEdit, context.session));
 }
 
 }  // namespace orlo

@@ -29,13 +29,6 @@ void ShowInstalledAircraft(Context& context) {
     list.SelectCurrentOnly();
 }
 
-// Each showing starts in the order of the records.
-void SortNothing(ListView& list) {
-    list.sorted = false;
-    list.sortColumn = 0;
-    list.ascending = true;
-}
-
 void KeepCopies(AircraftEditForm& form, const Plan& plan) {
     form.KeptFlights = plan.Flights;
     form.KeptAircrafts = plan.PlanAircrafts;
@@ -61,7 +54,8 @@ void Close(Context& context, bool saved) {
 bool EditPlanAircraft(Context& context) {
     AircraftEditForm& form = context.forms.frmAircraftEdit;
     KeepCopies(form, context.session.plan);
-    for (ListView* list : {&form.lvAircrafts, &form.lvFSAircraft}) SortNothing(*list);
+    // Each showing starts in the order of the records.
+    for (ListView* list : {&form.lvAircrafts, &form.lvFSAircraft}) list->ForgetSorting();
     ShowInstalledAircraft(context);
     ShowPlanAircraft(context);
     form.SetFocus(form.lvAircrafts);

@@ -97,6 +97,7 @@ struct TextBox : Control {
     std::string text;
     bool readOnly = false;
     bool selectAllRequest = false;  // taken once by the front end
+    bool goToEndRequest = false;    // moves the cursor behind the last character; taken once too
 };
 
 struct CheckBox : Control {
@@ -127,6 +128,7 @@ struct ComboBox : Control {
     ComboBox(Container in, std::string_view nameOf, ComboStyle styleOf = ComboStyle::List)
         : Control(ControlKind::ComboBox, in.form, in.parent, nameOf, ""), style(styleOf) {}
     ComboStyle style;
+    bool wide = false;  // its entries are long: it asks for room for them
     std::vector<ComboEntry> entries;
     std::int32_t index = -1;    // of the selected entry, -1 for none
     std::string typed;          // text in the field of an editable one while no entry is selected

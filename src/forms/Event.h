@@ -53,12 +53,12 @@ struct Event {
 
 struct Context;
 
-// What runs when. A procedure that isn't built yet is null: choosing it says so.
+// What runs when.
 struct EventEntry {
     ControlGetter control = nullptr;  // null for events of the form itself
     EventKind kind = EventKind::Click;
-    void (*procedure)(Context& context, Event& event) = nullptr;
-    std::string_view timer = {};  // for a Timer: its name
+    void (*procedure)(Context& context, Event& event);  // never null
+    std::string_view timer = {};                        // for a Timer: its name
 };
 
 using EventTable = std::span<const EventEntry>;

@@ -2,6 +2,9 @@
 
 #include "forms/AboutForm.h"
 #include "forms/AircraftEditForm.h"
+#include "forms/AirportInfoForm.h"
+#include "forms/AirportSearchForm.h"
+#include "forms/DistanceForm.h"
 #include "forms/FSAircraftEditForm.h"
 #include "forms/FlightEditForm.h"
 #include "forms/MainForm.h"
@@ -25,6 +28,9 @@ struct Forms {
     FSAircraftEditForm frmFSAircraftEdit;
     TextEditForm frmTextEdit;
     ResizeGatesForm frmResizeGates;
+    DistanceForm frmDistance;
+    AirportSearchForm frmAirportSearch;
+    AirportInfoForm frmAirportInfo;
 };
 
 }  // namespace orlo

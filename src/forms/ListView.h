@@ -118,6 +118,7 @@ struct ListView : Control {
     // list is sorted by it, ascending.
     void SortByColumn(std::int32_t column);
     void SwitchSorting(bool on);  // off: the order stays; on: sorts by the column chosen last
+    void ForgetSorting();         // for rows to come: they stay as they are added, until a column is clicked
 
     // The captions of the columns and the selected rows in displayed order, as a screen shows them: a line
     // each, with TAB between the columns and CR LF at the end; a TAB or line break inside a text becomes a
@@ -128,6 +129,9 @@ struct ListView : Control {
     std::map<std::string, std::int32_t> columnWidths;  // those that the user chose, by column key
     bool colourMarks =
         false;  // a red or blue row has a small mark in front, so that not the colour alone tells
+    // The first column holds long texts, and the rows come while the window is open: the list asks for room
+    // for them from the start.
+    bool wide = false;
     bool ensureVisibleRequest = false;  // of the current row; taken once by the front end
     std::int64_t contentRevision = 0;   // counts changes of columns, rows, texts and colours
     std::int64_t orderRevision = 0;

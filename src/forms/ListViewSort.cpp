@@ -181,6 +181,12 @@ void ListView::SwitchSorting(bool on) {
     if (on) Sort();
 }
 
+void ListView::ForgetSorting() {
+    sorted = false;
+    sortColumn = 0;
+    ascending = true;
+}
+
 // Behind equal ones; `place` itself isn't displayed yet.
 std::size_t ListView::SortedPosition(std::int32_t place) const {
     const std::string text = Text(place, sortColumn);

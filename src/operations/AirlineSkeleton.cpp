@@ -8,8 +8,8 @@
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/GetScenery.h"
 #include "mainwindow/StatusTexts.h"
-#include "simulator/Scenery.h"
 
 namespace orlo {
 namespace {
@@ -79,8 +79,7 @@ void GenerateAirlineConfig(Context& context) {
     {
         BusyForm busy(context, context.forms.frmMain, 1);
         if (session.scenery.Airports.empty()) {
-            busy.Stage("Getting FS2002 Scenery...", 0);
-            ReadScenery(session, context.services);
+            GetScenery(context, busy, 0);
             busy.CloseProgress();
         }
         if (!session.scenery.Airports.empty()) written = WriteSkeleton(context);

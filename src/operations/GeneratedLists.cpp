@@ -8,10 +8,10 @@
 #include "core/TextLines.h"
 #include "mainwindow/AircraftTrees.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/GetScenery.h"
 #include "mainwindow/StatusTexts.h"
 #include "simulator/AircraftTypesFile.h"
 #include "simulator/AirportLists.h"
-#include "simulator/Scenery.h"
 
 namespace orlo {
 namespace {
@@ -38,10 +38,7 @@ void GenerateFromScenery(Context& context, const std::string& folder, std::strin
     ForgetNotWritten(context);
     {
         BusyForm busy(context, form, 2);
-        if (airports.empty()) {
-            busy.Stage("Getting FS2002 Scenery...", 0);
-            ReadScenery(context.session, context.services);
-        }
+        if (airports.empty()) GetScenery(context, busy, 0);
         if (!airports.empty()) WriteList(context, folder, name, format(busy));
     }
     if (airports.empty()) {

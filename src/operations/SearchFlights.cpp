@@ -7,6 +7,7 @@
 #include "core/Number.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/GetScenery.h"
 #include "mainwindow/PlanViews.h"
 #include "operations/CheckFlightTimes.h"
 #include "operations/DuplicateFlights.h"
@@ -15,7 +16,6 @@
 #include "simulator/FlightLevelMaths.h"
 #include "simulator/MatchedAircraft.h"
 #include "simulator/PlanPositions.h"
-#include "simulator/Scenery.h"
 
 namespace orlo {
 namespace {
@@ -134,10 +134,7 @@ void FillList(Context& context, const MatchedAircraft& matched, bool withErrors)
 bool SearchByFields(Context& context, BusyForm& busy, std::string_view departure, std::string_view leg,
                     const MatchedAircraft& matched) {
     const SearchFields fields = ReadFields(context, departure, leg);
-    if (fields.AskForScenery()) {
-        busy.Stage("Getting FS2002 Scenery...", 1);
-        if (!ReadScenery(context.session, context.services)) return false;
-    }
+    if (fields.AskForScenery() && !GetScenery(context, busy, 1)) return false;
     if (!fields.Airline.empty()) busy.Stage(kMatchingAircraft, 1);
     const FieldSearch search(fields, context.session, matched);
     busy.Stage(kSearching, 2);

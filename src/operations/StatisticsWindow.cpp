@@ -7,6 +7,7 @@
 #include "core/Text.h"
 #include "core/TextLines.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/ReportWindow.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
 #include "operations/TimetableRows.h"
@@ -47,11 +48,6 @@ ReportHead HeadOf(const MainForm& form) {
     return head;
 }
 
-// As it is saved and printed.
-std::string TextOf(const TTStatisticsForm& form) {
-    return Concat(kApplicationTitle, " - ", form.caption, "\r\n\r\n", form.txtInfo.text);
-}
-
 }  // namespace
 
 void ShowTimetableStatistics(Context& context) {
@@ -67,15 +63,10 @@ void ShowTimetableStatistics(Context& context) {
 }
 
 void PrintTimetableStatistics(Context& context) {
-    Services& services = context.services;
     TTStatisticsForm& form = context.forms.frmTTStatistics;
-    if (!services.windows.ShowPrintDialog(form.caption)) return;
-    ForgetNotWritten(context);
-    const PrintOutcome outcome = services.windows.Print(TextOf(form));
-    if (outcome == PrintOutcome::Failed) ReportNotPrinted(context);
-    if (outcome != PrintOutcome::Printed) return;
-    ShowMessage(services.messages, "Successfully printed the Airport Timetable Statistics.", kMarkInformation,
-                &form);
+    if (!AskAndPrint(context, form.caption, ReportText(form, form.txtInfo))) return;
+    ShowMessage(context.services.messages, "Successfully printed the Airport Timetable Statistics.",
+                kMarkInformation, &form);
 }
 
 void SaveTimetableStatistics(Context& context) {
@@ -85,7 +76,7 @@ void SaveTimetableStatistics(Context& context) {
         AskForSavePath(context, "Save Airport Timetable Statistics", "Airport Timetable Statistics.txt");
     if (path.empty()) return;
     ForgetNotWritten(context);
-    const bool written = ReplaceWholeFile(services.files, path, TextOf(form));
+    const bool written = ReplaceWholeFile(services.files, path, ReportText(form, form.txtInfo));
     ShowMessage(services.messages,
                 written ? "Successfully saved the Airport Timetable Statistics."
                         : "An error occured during writing the Airport Timetable Statistics.",

@@ -48,9 +48,6 @@ class WindowHost {
     // Whether the places of this front end's windows on the screen are kept from one start to the next.
     virtual bool KeepsWindowPlace() const = 0;
 
-    // Tells the user that the chosen command is not built yet.
-    virtual void ShowNotBuilt(std::string_view controlName) = 0;
-
     // Fires once after `milliseconds`, and runs the event procedure of that timer name.
     virtual void StartTimer(std::string_view name, int milliseconds) = 0;
     virtual void StopTimer(std::string_view name) = 0;

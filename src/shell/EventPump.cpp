@@ -99,11 +99,6 @@ void EventPump::Run(Event& event) {
             event.form->closeRequest = true;
         return;
     }
-    if (entry->procedure == nullptr) {
-        context_.services.windows.ShowNotBuilt(event.control != nullptr ? event.control->name
-                                                                        : event.form->name);
-        return;
-    }
     ++running_;
     try {
         entry->procedure(context_, event);

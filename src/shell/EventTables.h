@@ -16,6 +16,9 @@ EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
 EventTable ResizeGatesEvents();
 EventTable TextEditEvents();
+EventTable DistanceEvents();
+EventTable AirportSearchEvents();
+EventTable AirportInfoEvents();
 
 // Makes a table's procedure of one that doesn't need the event.
 template <auto Procedure>

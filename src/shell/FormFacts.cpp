@@ -47,6 +47,9 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmFSAircraftEdit>(Only<FSAircraftEditEvents>, "aircraft.html"),
     FactsOf<&Forms::frmTextEdit>(Only<TextEditEvents>, "aircraft.html"),
     FactsOf<&Forms::frmResizeGates>(Only<ResizeGatesEvents>, "gates.html"),
+    FactsOf<&Forms::frmDistance>(Only<DistanceEvents>, "airports.html"),
+    FactsOf<&Forms::frmAirportSearch>(Only<AirportSearchEvents>, "airports.html"),
+    FactsOf<&Forms::frmAirportInfo>(Only<AirportInfoEvents>, "airports.html"),
 };
 
 constexpr std::size_t ListedBytes() {

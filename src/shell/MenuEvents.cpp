@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "editors/AirportDistance.h"
+#include "editors/AirportSearch.h"
 #include "editors/FSAircraftEditor.h"
 #include "editors/PlanAircraftEditor.h"
 #include "editors/ResizeGates.h"
@@ -88,8 +90,8 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuToolsDecompile>, Click, Run<DecompileFlightplan>},
     EventEntry{InMain<&M::mnuToolsEditPlanAircraft>, Click, Run<OnEditPlanAircraft>},
     EventEntry{InMain<&M::mnuToolsAircraftEditor>, Click, Run<ShowFSAircraftEditor>},
-    EventEntry{InMain<&M::mnuToolsAirportDistance>, Click},
-    EventEntry{InMain<&M::mnuToolsAirportSearch>, Click},
+    EventEntry{InMain<&M::mnuToolsAirportDistance>, Click, Run<ShowAirportDistance>},
+    EventEntry{InMain<&M::mnuToolsAirportSearch>, Click, Run<ShowAirportSearch>},
     EventEntry{InMain<&M::mnuToolsResizeGates>, Click, Run<ShowResizeGates>},
     EventEntry{InMain<&M::mnuReportsNotFound>, Click, Report<SearchMode::AircraftNotFound>},
     EventEntry{InMain<&M::mnuReportsDuplicateFlights>, Click, Report<SearchMode::DuplicateFlights>},

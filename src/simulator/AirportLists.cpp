@@ -5,21 +5,15 @@
 
 #include "core/CodeNumbers.h"
 #include "core/KeyedIndex.h"
-#include "core/Number.h"
 #include "core/Text.h"
+#include "simulator/Feet.h"
 
 namespace orlo {
 namespace {
 
-// The scenery stores whole metres.
-std::int64_t FeetOf(std::int32_t elevation) {
-    constexpr double kFeetPerMetre = 3.281;
-    return static_cast<std::int64_t>(RoundHalfEven(elevation * kFeetPerMetre));
-}
-
 void AppendAirport(std::string& out, std::string_view code, const AirportRecord& airport) {
-    out.append(
-        Concat(code, ",", airport.Latitude, ",", airport.Longitude, ",", FeetOf(airport.Elevation), "\r\n"));
+    out.append(Concat(code, ",", airport.Latitude, ",", airport.Longitude, ",", WholeFeet(airport.Elevation),
+                      "\r\n"));
 }
 
 // The codes that stand in a list, as one text: "|EDDF||EDDM|". A code counts as listed where it stands in

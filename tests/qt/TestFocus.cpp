@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTabBar>
 
 #include "qt/DesktopProgram.h"
@@ -147,6 +149,16 @@ TEST_F(Focus, RequestsAreTakenOnceAndWaitForAControlThatIsHidden) {
     EXPECT_EQ(other.selectedText(), "other");
     EXPECT_EQ(name.selectedText(), "");
     EXPECT_FALSE(form.txtOther.selectAllRequest);
+    // A text that grows is seen at its end.
+    auto& notes = desktop.Find<QPlainTextEdit>(form.txtNotes);
+    form.txtOther.text = std::string(500, 'o');
+    for (int i = 0; i < 100; ++i) form.txtNotes.text.append("line\r\n");
+    form.txtOther.goToEndRequest = form.txtNotes.goToEndRequest = true;
+    desktop.CatchUp();
+    EXPECT_EQ(other.cursorPosition(), 500);
+    EXPECT_EQ(notes.verticalScrollBar()->value(), notes.verticalScrollBar()->maximum());
+    EXPECT_GT(notes.verticalScrollBar()->value(), 0);
+    EXPECT_FALSE(form.txtOther.goToEndRequest || form.txtNotes.goToEndRequest);
     // The focus moved by code: no handler ran.
     form.SetFocus(form.cmZone);
     desktop.CatchUp();

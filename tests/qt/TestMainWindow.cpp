@@ -137,7 +137,7 @@ TEST(MainWindow, ADialogOutlivesTheSplash) {
         stands = box != nullptr && !desktop.splash.visible;
         if (box != nullptr) box->close();
     });
-    desktop.host.ShowNotBuilt("cmdMove");
+    desktop.host.ShowMessage("Said.", kMarkInformation, "Orlo", nullptr);
     EXPECT_TRUE(stands);
 }
 

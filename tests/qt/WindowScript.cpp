@@ -114,7 +114,6 @@ void WindowScript::Step() {
     host_.CatchUp(WindowOf(top));
     if (step != step_ || top.closeRequest || !real_.program.pump.TakesInput(top)) return;
     const QScopedValueRollback<const Form*> acting(actingIn_, &top);
-    if (!host_.notBuilt.empty()) Fail(Concat(std::exchange(host_.notBuilt, {}), " is not built yet"));
     if (!fault_.empty()) return CloseAtOnce();
     try {
         if (&top == &real_.form) TurnBack();

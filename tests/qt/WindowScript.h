@@ -23,7 +23,6 @@ class ScriptHost : public DesktopHost {
   public:
     QueuedAnswers answers;
     std::ostringstream said;  // to the user, and shown by the script, as the console prints it
-    std::string notBuilt;     // the control whose command isn't built yet, once one was chosen
 
     std::optional<std::string> TakePath();
     void FireTimer(const std::string& name);
@@ -32,7 +31,6 @@ class ScriptHost : public DesktopHost {
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
-    void ShowNotBuilt(std::string_view controlName) override { notBuilt = controlName; }
 
   private:
     std::string printPath_;

@@ -57,7 +57,6 @@ class FakeWindows : public WindowHost {
     }
     void UnloadForm(Form&) override {}
     bool KeepsWindowPlace() const override { return keepsWindowPlace; }
-    void ShowNotBuilt(std::string_view) override {}
     void StartTimer(std::string_view, int) override {}
     void StopTimer(std::string_view) override {}
     bool TimerArmed(std::string_view) const override { return false; }

@@ -94,6 +94,7 @@ class Photographer {
         TakeModal(form_.mnuToolsAircraftEditor, program_.forms.frmFSAircraftEdit, "aircraft");
         TakeModal(form_.mnuToolsResizeGates, program_.forms.frmResizeGates, "gates");
         TakeTextEditor();
+        TakeAirportTools();
         return AllTaken();
     }
 
@@ -224,17 +225,23 @@ class Photographer {
         answering_.stop();
     }
 
+    // Before its picture is taken.
+    template <typename Act>
+    void WhenOpen(Act act) {
+        QTimer::singleShot(2 * kSettle, act);
+    }
+
     // When it has opened; then it is closed.
-    void PhotographModal(Form& form, const QString& name) {
-        QTimer::singleShot(4 * kSettle, [this, &form, name] {
+    void PhotographModal(Form& form, const QString& name, int settles = 4) {
+        QTimer::singleShot(settles * kSettle, [this, &form, name] {
             Save(WindowOf(form), name);
             taken_.insert(&form);
             host_.Post({&form, nullptr, EventKind::Close});
         });
     }
 
-    void TakeModal(Control& opens, Form& form, const QString& name) {
-        PhotographModal(form, name);
+    void TakeModal(Control& opens, Form& form, const QString& name, int settles = 4) {
+        PhotographModal(form, name, settles);
         Click(opens);
         while (form.visible) Settle();
     }
@@ -245,6 +252,34 @@ class Photographer {
         EditText(program_.context, "Edit Description",
                  "A regional jet with a hundred seats.\\n\\nCruise\\tFL350\\/Mach 0.74\\nRange\\t1,500 nm",
                  form_);
+    }
+
+    void TakeAirportTools() {
+        DistanceForm& distance = program_.forms.frmDistance;
+        WhenOpen([&distance, this] {
+            for (const std::int32_t index : {1, 3, 2, 1}) {
+                distance.cmDest.index = index;
+                Click(distance.cmdDistance);
+            }
+        });
+        TakeModal(form_.mnuToolsAirportDistance, distance, "distance", 8);
+        AirportSearchForm& search = program_.forms.frmAirportSearch;
+        const auto searchAll = [&search, this] {
+            search.txtSearch.text = "united kingdom";
+            search.ckAPOnly.checked = false;
+            host_.Post({&search, &search.cmdSearch, EventKind::Click});
+        };
+        WhenOpen(searchAll);
+        TakeModal(form_.mnuToolsAirportSearch, search, "airportsearch");
+        // Its report, from the search opened once more.
+        WhenOpen([&search, &searchAll, this] {
+            searchAll();
+            host_.Post({&search, &search.lvSearch, EventKind::DoubleClick, 1});
+        });
+        PhotographModal(program_.forms.frmAirportInfo, "airportinfo");
+        PhotographModal(search, "airportsearch", 8);
+        Click(form_.mnuToolsAirportSearch);
+        while (search.visible) Settle();
     }
 
     // One of them isn't installed. The dialog puts a copy of the records back.
