@@ -54,7 +54,7 @@ struct OpenWorld {
     PosixFileSystem files;
     test::FakeWorld fakes{{.files = &files}};
     Services& services = fakes.services;
-    Program program{services, "."};
+    Program program{services, ".", "kept"};
     std::string plan;
 
     explicit OpenWorld(std::int64_t flights) : plan((FolderOf(flights) / "FlightPlans.txt").string()) {

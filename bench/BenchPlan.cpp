@@ -90,7 +90,7 @@ void BM_WriteFlightplan(benchmark::State& state) {
     const FlightList flights = ListOf(state.range(0));
     PosixFileSystem files;
     const std::string path = PlanOf(state.range(0)) + ".written";
-    for (auto _ : state) WriteFlightplan(files, path, flights, false);
+    for (auto _ : state) WriteFlightplan(files, path, flights);
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(*files.FileSize(path)));
     files.DeleteFile(path);
 }

@@ -162,7 +162,7 @@ void BM_ResizeGates(benchmark::State& state) {
     const double start = SecondsNow();
     for (auto _ : state) {
         resize.Radius += 1;
-        gates = ResizeAllFiles(files, folder.string(), resize, false).count;
+        gates = ResizeAllFiles(files, folder.string(), resize, nullptr).count;
     }
     ReportRatio(state, SecondsNow() - start, paths);
     state.counters["gates"] = gates;

@@ -32,6 +32,8 @@ ConsoleOptions ParseConsoleOptions(const std::vector<std::string>& arguments) {
             options.simulator = value();
         } else if (argument == "--settings") {
             options.settings = value();
+        } else if (argument == "--state") {
+            options.state = value();
         } else if (argument == "--seed") {
             const auto text = value();
             if (text) options.seed = ParseSeed(*text);
@@ -56,7 +58,8 @@ ConsoleOptions ParseConsoleOptions(const std::vector<std::string>& arguments) {
 }
 
 std::string ConsoleHelp() {
-    return R"(orlo-console [--program DIR] [--simulator DIR] [--settings FILE] [--seed N] [--strict] [--trace] [SCRIPT]
+    return R"(orlo-console [--program DIR] [--simulator DIR] [--settings FILE] [--state DIR] [--seed N] [--strict] [--trace]
+             [SCRIPT]
 
 Runs the planner by a script: from the file SCRIPT, or from standard input; one command a line, blank lines and
 lines that start with # are skipped. A word with blanks stands in double quotes, with "" for a quote inside.
@@ -64,6 +67,7 @@ lines that start with # are skipped. A word with blanks stands in double quotes,
   --program DIR    the program folder with the rule files
   --simulator DIR  the simulator's folder, in place of the machine-wide setting
   --settings FILE  the settings file
+  --state DIR      the folder of the kept files; by default "kept" beside the file of --settings
   --seed N         makes every random draw repeatable
   --strict         ends with status 2 on a question, dialog or input box without a queued answer, and on answers
                    left over at the end
@@ -87,7 +91,8 @@ lines that start with # are skipped. A word with blanks stands in double quotes,
   show NAME    rows LIST    entries COMBO    hover NAME [NODE]    popup NAME    props NAME
   enabled NAME    windows    echo TEXT    quit
 
-Exit status: 0; 1 when the start-up failed; 2 when the script could not go on (a line on standard error says why).
+Exit status: 0; 1 when the start-up failed; 2 when the script could not go on (a line on standard error says why);
+128 and its number when a signal ended the program.
 )";
 }
 

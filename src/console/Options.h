@@ -12,6 +12,7 @@ struct ConsoleOptions {
     std::optional<std::string> program;
     std::optional<std::string> simulator;
     std::optional<std::string> settings;
+    std::optional<std::string> state;  // none: beside the settings, or where the system has it
     std::optional<std::uint64_t> seed;
     bool strict = false;
     bool trace = false;

@@ -20,12 +20,13 @@ std::optional<std::string> Optional(const std::vector<std::string>& words) {
 }  // namespace
 
 ScriptCommands::ScriptCommands(Program& program, ScriptActs& acts, QueuedAnswers& answers,
-                               std::istream& script, std::ostream& out)
-    : program_(program), acts_(acts), answers_(answers), script_(script), out_(out) {}
+                               std::istream& script, std::ostream& out, const EndRequest* end)
+    : program_(program), acts_(acts), answers_(answers), script_(script), out_(out), end_(end) {}
 
 bool ScriptCommands::RunNextLine() {
     std::string line;
-    if (!ReadLine(line)) return false;
+    // A line that was begun when the end was asked for may not be whole.
+    if (!ReadLine(line) || (end_ != nullptr && end_->ExitStatus())) return false;
     ++lineNumber_;
     if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
     const std::size_t first = line.find_first_not_of(" \t");

@@ -9,6 +9,7 @@
 
 #include "console/ScriptActs.h"
 #include "console/ScriptAnswers.h"
+#include "services/EndRequest.h"
 #include "shell/Program.h"
 
 namespace orlo {
@@ -17,12 +18,12 @@ namespace orlo {
 // for. What they do to the controls is up to the front end (ScriptActs).
 class ScriptCommands {
   public:
-    // All that is given must outlive this.
+    // All that is given must outlive this. `end` may be null.
     ScriptCommands(Program& program, ScriptActs& acts, QueuedAnswers& answers, std::istream& script,
-                   std::ostream& out);
+                   std::ostream& out, const EndRequest* end = nullptr);
 
-    // Runs the next line; a blank line and a comment do nothing. False at the end of the script. Throws
-    // ScriptEnd where the line can't be run.
+    // Runs the next line; a blank line and a comment do nothing. False at the end of the script, and when
+    // the program is to end. Throws ScriptEnd where the line can't be run.
     bool RunNextLine();
     // "line N: " with the reason, where N is the line read last, counted from 1; UTF-8.
     std::string Fault(const ScriptEnd& end) const;
@@ -89,6 +90,7 @@ class ScriptCommands {
     QueuedAnswers& answers_;
     std::istream& script_;
     std::ostream& out_;
+    const EndRequest* end_;
     int lineNumber_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "console/ConsoleHost.h"
 #include "console/ScriptActs.h"
 #include "console/ScriptCommands.h"
+#include "services/EndRequest.h"
 #include "shell/Program.h"
 #include "shell/UserHands.h"
 
@@ -16,17 +17,21 @@ namespace orlo {
 // Runs a script on a program. While a modal form is open, the lines run within the ShowModal that opened it.
 class ScriptRunner : private ScriptActs {
   public:
-    // All that is given must outlive this. `strict`: answers left over at the end are a failure.
+    // All that is given must outlive this. `strict`: answers left over at the end are a failure. `end` may be
+    // null.
     ScriptRunner(Program& program, ConsoleHost& host, std::istream& script, std::ostream& out,
-                 std::ostream& errors, bool strict);
+                 std::ostream& errors, bool strict, const EndRequest* end = nullptr);
 
-    // Runs the script; its end closes the main window as the user would. Gives the exit status: 0, or 2 with
-    // the reason on `errors` where the script could not go on.
+    // Runs the script; its end closes the main window as the user would. Gives the exit status: 0; 2 with the
+    // reason on `errors` where the script could not go on; that of `end`, before the next line, where the
+    // program is to end.
     int Run();
 
   private:
     void RunUntilClosed(Form& form);
     bool RunNextLine();
+    bool MustEnd() const { return end_ != nullptr && end_->ExitStatus().has_value(); }
+    int EndAtOnce();
     bool Kept(const Control& field);  // prints that the field refused; always false
 
     bool Reach(Control& control) override;
@@ -62,6 +67,7 @@ class ScriptRunner : private ScriptActs {
     std::ostream& out_;
     std::ostream& errors_;
     bool strict_;
+    const EndRequest* end_;
     bool quitting_ = false;  // the modal forms close one by one
     bool scriptEnded_ = false;
     bool quitCancelled_ = false;

@@ -9,6 +9,8 @@
 #include "console/ConsoleHost.h"
 #include "console/Options.h"
 #include "console/ScriptRunner.h"
+#include "core/Application.h"
+#include "core/Path.h"
 #include "core/Version.h"
 #include "platform/Platform.h"
 #include "platform/SystemServices.h"
@@ -45,7 +47,14 @@ class HeldSettings : public SettingsStore {
     bool flushed_ = false;
 };
 
-int RunScript(const ConsoleOptions& options, std::istream& script, SystemServices& system) {
+// The folder of the kept files.
+std::string StateFolder(const ConsoleOptions& options) {
+    if (options.state) return *options.state;
+    return options.settings ? JoinPath(ParentFolder(*options.settings), kKeptFolderName) : UserStateFolder();
+}
+
+int RunScript(const ConsoleOptions& options, std::istream& script, SystemServices& system,
+              const EndRequest& end) {
     auto held = std::make_unique<HeldSettings>(std::move(system.userSettings));
     HeldSettings& userSettings = *held;
     system.userSettings = std::move(held);
@@ -53,8 +62,9 @@ int RunScript(const ConsoleOptions& options, std::istream& script, SystemService
     if (ErrorsAreOnTerminal()) host.DrawBarOn(&std::cerr);
     Services services = system.Behind(host);
 
-    Program program(services, options.program ? *options.program : FindProgramFolder(*system.files));
-    ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict);
+    Program program(services, options.program ? *options.program : FindProgramFolder(*system.files),
+                    StateFolder(options));
+    ScriptRunner runner(program, host, script, std::cout, std::cerr, options.strict, &end);
     if (!StartUp(program.context)) {
         std::cout << std::flush;
         return kStartUpFailed;
@@ -62,20 +72,25 @@ int RunScript(const ConsoleOptions& options, std::istream& script, SystemService
     // The option counts before the user's own setting, which the start has read.
     if (options.simulator) program.session.SimulatorFolder.clear();
     const int status = runner.Run();
-    if (status == 0 && !userSettings.WriteHeld())
+    if (status != kScriptFailed && !userSettings.WriteHeld())
         std::cerr << "orlo-console: the settings could not be written\n";
     return status;
 }
 
 int RunConsole(const ConsoleOptions& options) {
     SystemServices system(options.settings, options.simulator.value_or(std::string()), options.seed);
-    if (!options.script) return RunScript(options, std::cin, system);
+    const auto end = WatchForEnd();
+    if (!options.script) {
+        std::istream script(&end->Input());
+        script.tie(&std::cout);
+        return RunScript(options, script, system, *end);
+    }
     std::ifstream script(ScriptPath(*options.script), std::ios::binary);
     if (!script || !system.files->FileExists(*options.script)) {
         std::cerr << "orlo-console: script '" << *options.script << "' can't be read\n";
         return kScriptFailed;
     }
-    return RunScript(options, script, system);
+    return RunScript(options, script, system, *end);
 }
 
 int Main(const std::vector<std::string>& arguments) {

@@ -8,6 +8,7 @@ namespace orlo {
 
 inline constexpr std::string_view kApplicationTitle = "Orlo";
 inline constexpr std::string_view kBackupSuffix = ".orlo.bak";
+inline constexpr std::string_view kKeptFolderName = "kept";  // of the kept files (core/KeptFiles.h)
 
 // A message under the application's title; without an owner the front end takes its topmost window.
 inline MessageAnswer ShowMessage(MessageHost& messages, std::string_view text, int flags,

@@ -1,6 +1,8 @@
 #include "core/ClockTime.h"
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 
 #include "core/Number.h"
 #include "core/Text.h"
@@ -53,6 +55,17 @@ void AppendClockTime(std::int64_t seconds, std::string& out) {
     const auto rest = digits(time % kSecondsPerMinute);
     const std::array text = {hours[0], hours[1], ':', minutes[0], minutes[1], ':', rest[0], rest[1]};
     out.append(text.data(), text.size());
+}
+
+std::string FormatDateTime(std::int64_t seconds) {
+    using namespace std::chrono;
+    constexpr auto kFirst = sys_seconds(sys_days(year(0) / January / 1)).time_since_epoch();
+    constexpr auto kBehindLast = sys_seconds(sys_days(year(10000) / January / 1)).time_since_epoch();
+    seconds = std::clamp<std::int64_t>(seconds, kFirst.count(), kBehindLast.count() - 1);
+    const year_month_day date(floor<days>(sys_seconds(std::chrono::seconds(seconds))));
+    return Concat(FormatDigits(static_cast<int>(date.year()), 4), "-",
+                  FormatDigits(static_cast<unsigned>(date.month()), 2), "-",
+                  FormatDigits(static_cast<unsigned>(date.day()), 2), " ", FormatClockTime(seconds));
 }
 
 std::optional<WeekTime> ParseWeekTime(std::string_view text) {

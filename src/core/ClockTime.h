@@ -25,6 +25,9 @@ std::optional<std::int32_t> ParseClockTime(std::string_view text);
 std::string FormatClockTime(std::int64_t seconds);
 // The same, behind `out`.
 void AppendClockTime(std::int64_t seconds, std::string& out);
+// "YYYY-MM-DD HH:MM:SS" of a moment in seconds since 1970-01-01 00:00:00, from the year 0 to 9999; what lies
+// beyond counts as the first or last of these moments.
+std::string FormatDateTime(std::int64_t seconds);
 
 // A time of a weekly flight: "d/HH:MM:SS" with d from 0 for Sunday to 6.
 struct WeekTime {

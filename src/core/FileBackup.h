@@ -1,10 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "services/FileSystem.h"
 
 namespace orlo {
+
+// Makes a file safe before it is written; false where it must stay as it is.
+using BackUpFile = std::function<bool(const std::string& path)>;
 
 std::string BackupPath(const std::string& path);
 

@@ -6,7 +6,6 @@
 
 #include "core/Application.h"
 #include "core/FieldScan.h"
-#include "core/FileBackup.h"
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -57,12 +56,25 @@ class LinePacker {
   public:
     explicit LinePacker(FlightList& flights) : flights_(flights) {}
 
+    // Whether the flights so far would be written as their lines were, but for blanks.
+    bool Whole() const { return whole_; }
+
     bool Append(std::string_view line) {
-        if (line.empty() || line.front() == ';' || line.substr(0, 2) == "//") return false;
+        if (line.empty()) return false;
+        const bool taken = Take(line);
+        whole_ = whole_ && (taken || TrimBlanks(line).empty());
+        return taken;
+    }
+
+  private:
+    bool Take(std::string_view line) {
+        if (line.front() == ';' || line.substr(0, 2) == "//") return false;
         if (line.size() > kLongestLine) return false;
         fields_.Scan(line);
         if (fields_.Count() < kFewestFields) return false;
         const std::size_t legs = (fields_.Count() - kFlightFields) / kLegFields;
+        if (fields_.Length() != line.size() || fields_.Count() != kFlightFields + legs * kLegFields)
+            whole_ = false;
         if (!fields_.HasBlanks() && IsNormal(line, fields_, legs)) {
             const std::size_t kept = kFlightFields + legs * kLegFields;
             flights_.AppendLine(line.substr(0, fields_.End(kept - 1)), static_cast<std::int32_t>(legs));
@@ -72,7 +84,6 @@ class LinePacker {
         return true;
     }
 
-  private:
     void AppendNormalised(std::string_view line, std::size_t legs) {
         const auto field = [&](std::size_t index) { return TrimBlanks(FieldOf(line, fields_, index)); };
         const std::string_view percent = field(kPercentField);
@@ -88,18 +99,25 @@ class LinePacker {
             const bool fixed = eta.starts_with(kFixedMark);
             if (fixed) eta.remove_prefix(1);
             levels_[leg] = NormalLevel(field(i + 2));
-            flight_.Legs[leg] = {field(i),     eta,          fixed,
-                                 levels_[leg], field(i + 3), field(i + 4).substr(0, kLongestNumber),
-                                 field(i + 5)};
+            const std::string_view number = field(i + 4).substr(0, kLongestNumber);
+            flight_.Legs[leg] = {field(i), eta, fixed, levels_[leg], field(i + 3), number, field(i + 5)};
+            whole_ = whole_ && levels_[leg] == field(i + 2) && number == field(i + 4);
         }
+        whole_ = whole_ && KeepsPercent(percent);
         flights_.Append(flight_);
     }
 
+    bool whole_ = true;
     FlightList& flights_;
     FieldScan fields_;
     LentFlight flight_;
     std::vector<std::string> levels_;  // of its legs
 };
+
+void AppendLine(const FlightList& flights, std::int32_t index, std::string& text) {
+    flights.WriteLine(index, text);
+    text.append("\r\n");
+}
 
 // Collects flights as lines and hands them on in large pieces.
 class LineWriter {
@@ -107,8 +125,7 @@ class LineWriter {
     explicit LineWriter(OutputFile& file) : file_(file) { buffer_.reserve(kPiece + kPiece / 4); }
 
     void Add(const FlightList& flights, std::int32_t index) {
-        flights.WriteLine(index, buffer_);
-        buffer_.append("\r\n");
+        AppendLine(flights, index, buffer_);
         if (buffer_.size() >= kPiece) Flush();
     }
     bool Finish() {
@@ -172,15 +189,26 @@ void ReadFlightplan(Plan& plan, Services& services) {
         }
         packer.Append(*line);
     }
+    plan.Known.Know(services.files, plan.FlightplanPath, packer.Whole());
 }
 
-PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
-                                bool backup) {
-    if (backup) BackUpOnce(files, path);
+std::string RemovedFlightsPath(const std::string& path) {
+    return JoinPath(ParentFolder(path), kRemovedFlightsName);
+}
+
+std::string FormatFlights(const FlightList& flights, bool removed) {
+    std::string text;
+    for (std::int32_t i = 0; i < flights.Count(); ++i) {
+        if (flights.Removed(i) == removed) AppendLine(flights, i, text);
+    }
+    return text;
+}
+
+PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights) {
     PlanWriteResult result;
     for (std::int32_t i = 0; i < flights.Count(); ++i) result.RemovedCount += flights.Removed(i) ? 1 : 0;
 
-    const std::string removedPath = JoinPath(ParentFolder(path), kRemovedFlightsName);
+    const std::string removedPath = RemovedFlightsPath(path);
     // The removed flights first, so that a kill between the two files loses none of them.
     if (result.RemovedCount > 0) result.RemovedWritten = WriteLines(files, removedPath, flights, true);
     result.PlanWritten = WriteLines(files, path, flights, false);

@@ -25,6 +25,9 @@ bool AppendFlightplanLine(std::string_view line, FlightList& flights);
 // critical message and leaves Flights empty. Progress runs from 0 to 100.
 void ReadFlightplan(Plan& plan, Services& services);
 
+// The lines of the flights with or without the Removed mark, as WriteFlightplan writes them.
+std::string FormatFlights(const FlightList& flights, bool removed);
+
 struct PlanWriteResult {
     bool PlanWritten = false;
     bool RemovedWritten = false;  // also true when there was none to write and an old file is gone
@@ -33,10 +36,11 @@ struct PlanWriteResult {
     bool Complete() const { return PlanWritten && RemovedWritten; }
 };
 
-// Writes the flights with the Removed mark to "Removed Flights.txt" in the folder of `path` (without any,
-// that file is deleted), all others to `path`. With `backup` BackUpOnce(path) comes first. A file that can't
-// be written leaves the old one whole.
-PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights,
-                                bool backup);
+// "Removed Flights.txt" in the folder of a plan.
+std::string RemovedFlightsPath(const std::string& path);
+
+// Writes the flights with the Removed mark to RemovedFlightsPath (without any, that file is deleted), all
+// others to `path`. A file that can't be written leaves the old one whole.
+PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, const FlightList& flights);
 
 }  // namespace orlo

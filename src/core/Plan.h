@@ -6,6 +6,7 @@
 
 #include "core/FlightList.h"
 #include "core/KeyedIndex.h"
+#include "core/KnownFiles.h"
 #include "core/PlanRecords.h"
 
 namespace orlo {
@@ -20,6 +21,8 @@ struct Plan {
     std::int32_t MaxACNumber = 0;               // largest number behind "AC#" in Aircraft.txt
     bool PlanLoaded = false;                    // it was read to its end
     bool PlanModified = false;                  // it has changes that were not saved
+    bool DiffersFromFile = false;               // the last save could not be written whole
+    KnownFiles Known;                           // the plan's files as this session read or wrote them
 
     std::int32_t FlightCount() const { return Flights.Count(); }
     std::int32_t PlanAircraftCount() const { return static_cast<std::int32_t>(PlanAircrafts.size()); }

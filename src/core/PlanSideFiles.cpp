@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/Application.h"
-#include "core/FileBackup.h"
 #include "core/FlightplanFile.h"
 #include "core/Number.h"
 #include "core/Path.h"
@@ -17,20 +16,31 @@ constexpr std::size_t kNumberStart = 3;          // behind "AC#"
 constexpr std::uint64_t kUsualAirportLine = 32;  // bytes
 constexpr std::uint64_t kMostReserved = 64 * 1024;
 
-// Hands each line that is no comment and has exactly `fieldCount` fields to `take`. False when the file can't
-// be opened.
+enum class Reading {
+    Failed,  // the file can't be opened
+    Whole,   // all of it was handed on, but for blank lines
+    Parts,
+};
+
+// Hands each line that is no comment and has exactly `fieldCount` fields to `take`.
 template <typename Take>
-bool ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCount, Take take) {
+Reading ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCount, Take take) {
     const auto file = files.OpenForReading(path);
-    if (!file) return false;
+    if (!file) return Reading::Failed;
+    Reading reading = Reading::Whole;
     LineReader lines(*file);
     while (const auto line = lines.Next()) {
-        const std::string_view text = CutComments(TrimBlanks(*line));
+        const std::string_view trimmed = TrimBlanks(*line);
+        const std::string_view text = CutComments(trimmed);
+        if (text.size() != trimmed.size()) reading = Reading::Parts;
         if (text.empty()) continue;
-        if (static_cast<std::size_t>(std::count(text.begin(), text.end(), ',')) + 1 != fieldCount) continue;
+        if (static_cast<std::size_t>(std::count(text.begin(), text.end(), ',')) + 1 != fieldCount) {
+            reading = Reading::Parts;
+            continue;
+        }
         take(SplitText(text, ','));
     }
-    return true;
+    return reading;
 }
 
 // Quotes go before blanks, so a quote behind a leading blank stays.
@@ -61,7 +71,8 @@ std::int32_t AircraftNumber(std::string_view acNumber) {
 void ReadPlanAircraft(Plan& plan, Services& services) {
     plan.PlanAircrafts.clear();
     plan.MaxACNumber = 0;
-    const bool found = ReadRecords(services.files, PlanAircraftPath(plan), 3, [&](const auto& fields) {
+    const std::string path = PlanAircraftPath(plan);
+    const Reading reading = ReadRecords(services.files, path, 3, [&](const auto& fields) {
         PlanAircraft aircraft;
         aircraft.ACNumber = TrimBlanks(fields[0]);
         aircraft.CruiseSpeed = TrimBlanks(fields[1]);
@@ -69,7 +80,9 @@ void ReadPlanAircraft(Plan& plan, Services& services) {
         plan.MaxACNumber = std::max(plan.MaxACNumber, AircraftNumber(fields[0]));
         plan.PlanAircrafts.push_back(std::move(aircraft));
     });
-    if (!found) {
+    if (reading != Reading::Failed) {
+        plan.Known.Know(services.files, path, reading == Reading::Whole);
+    } else {
         ShowMessage(services.messages,
                     "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder.",
                     kMarkCritical);
@@ -81,7 +94,7 @@ void ReadPlanAirports(Plan& plan, Services& services) {
     plan.PlanAirportIndex.Clear();
     const std::uint64_t size = services.files.FileSize(PlanAirportsPath(plan)).value_or(0);
     plan.PlanAirportIndex.Reserve(std::min<std::uint64_t>(size / kUsualAirportLine, kMostReserved));
-    const bool found = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
+    const Reading reading = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
         PlanAirport airport;
         airport.ICAO = TrimBlanks(fields[0]);
         airport.Latitude = TrimBlanks(fields[1]);
@@ -90,21 +103,23 @@ void ReadPlanAirports(Plan& plan, Services& services) {
         plan.PlanAirportIndex.Add(airport.ICAO, plan.PlanAirportCount());
         plan.PlanAirports.push_back(std::move(airport));
     });
-    if (!found) {
+    if (reading == Reading::Failed) {
         ShowMessage(services.messages,
                     "File 'AIRPORTS.TXT' not found. Please copy the file to the Flightplan folder.",
                     kMarkCritical);
     }
 }
 
-bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup) {
-    const std::string path = PlanAircraftPath(plan);
-    if (backup) BackUpOnce(files, path);
+std::string FormatPlanAircraft(const Plan& plan) {
     std::string text;
     for (const PlanAircraft& aircraft : plan.PlanAircrafts) {
         text.append(Concat(aircraft.ACNumber, ",", aircraft.CruiseSpeed, ",\"", aircraft.Title, "\"\r\n"));
     }
-    return ReplaceWholeFile(files, path, text);
+    return text;
+}
+
+bool WritePlanAircraft(const Plan& plan, FileSystem& files) {
+    return ReplaceWholeFile(files, PlanAircraftPath(plan), FormatPlanAircraft(plan));
 }
 
 }  // namespace orlo

@@ -19,9 +19,11 @@ void ReadPlanAircraft(Plan& plan, Services& services);
 // Replaces PlanAirports and PlanAirportIndex. A missing file gives a critical message and an empty list.
 void ReadPlanAirports(Plan& plan, Services& services);
 
-// Writes PlanAircrafts; with `backup` BackUpOnce comes first. False when the file could not be written; the
-// old one then stands whole.
-bool WritePlanAircraft(const Plan& plan, FileSystem& files, bool backup);
+// What WritePlanAircraft writes.
+std::string FormatPlanAircraft(const Plan& plan);
+
+// Writes PlanAircrafts. False when the file could not be written; the old one then stands whole.
+bool WritePlanAircraft(const Plan& plan, FileSystem& files);
 
 // The number behind "AC#"; 0 where none reads.
 std::int32_t AircraftNumber(std::string_view acNumber);

@@ -9,6 +9,7 @@
 #include "core/AirlineRecords.h"
 #include "core/AirportRecord.h"
 #include "core/FlightList.h"
+#include "core/KnownFiles.h"
 #include "core/Plan.h"
 #include "core/ProjectRecords.h"
 #include "core/RuleRecords.h"
@@ -66,6 +67,8 @@ struct ProjectState {
     bool ProjectBegun = false;                 // a project was begun or opened since the start
     bool ProjectLoaded = false;
     bool ProjectModified = false;
+    bool DiffersFromFile = false;  // the last save could not be written
+    KnownFiles Known;              // its file as this session read or wrote it
 
     std::int32_t ProjectEntryCount() const { return static_cast<std::int32_t>(ProjectEntries.size()); }
 };
@@ -74,6 +77,12 @@ struct ProjectState {
 struct ToolState {
     std::string Running;          // its file's name; empty where none runs
     bool CloseRequested = false;  // the user has pressed the main window's close box since it was asked last
+};
+
+// Files that the running event has kept a copy of, for the status bar (mainwindow/KeepAside.h).
+struct KeptState {
+    std::vector<std::string> Kept;  // full paths, in the order in which they were kept
+    std::string Told;               // the text about it at the end of the status bar
 };
 
 // The state of the running program.
@@ -87,8 +96,11 @@ struct Session {
     SearchState search;
     ProjectState project;
     ToolState tool;
+    KeptState kept;
+    KnownFiles known;  // other files that this session has written
 
     std::string ProgramFolder;
+    std::string StateFolder;                       // of the kept files, made when first needed; empty: none
     std::string SimulatorFolder;                   // chosen by the user; empty: the machine's setting holds
     std::array<std::string, 5> RecentFlightplans;  // the newest first
     std::array<std::string, 5> RecentProjects;

@@ -201,7 +201,7 @@ std::string DesktopHost::ShowSaveDialog(const FileDialog& dialog) {
     SetUp(shown, dialog, saveFolder_);
     std::string path = ChosenPath(shown, saveFolder_);
     while (!path.empty() && dialog.overwritePrompt && !MayReplace(shown, path))
-        path = ChosenPath(shown, saveFolder_);
+        path = endTimer_.isActive() ? std::string() : ChosenPath(shown, saveFolder_);
     return path;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/DesktopHost.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
 #include <QPrinter>
 #include <QWindow>
@@ -14,6 +15,7 @@ namespace orlo {
 namespace {
 
 constexpr qint64 kDrawMilliseconds = 40;  // 25 times a second
+constexpr int kEndMilliseconds = 20;      // between two tries to close what is open
 constexpr int kAboveCentre = 32;          // pixels from the owner's centre up to that of the progress window
 
 const QEvent::Type kRunQueued = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -52,6 +54,7 @@ class DesktopHost::ModalRound {
 DesktopHost::DesktopHost() {
     drawTimer_.setSingleShot(true);
     QObject::connect(&drawTimer_, &QTimer::timeout, this, [this] { DrawAll(); });
+    QObject::connect(&endTimer_, &QTimer::timeout, this, [this] { CloseTopmost(); });
     QGuiApplication::setQuitOnLastWindowClosed(false);
     qApp->installEventFilter(&filter_);
 }
@@ -67,6 +70,7 @@ void DesktopHost::Attach(EventPump& pump, ProgressForm& progress) {
 
 void DesktopHost::Detach() {
     drawTimer_.stop();
+    endTimer_.stop();
     timers_.clear();
     // The last one first: a parent deletes its children.
     while (!windows_.empty()) {
@@ -155,6 +159,26 @@ void DesktopHost::RunUntilClosed(Form& form) {
     const Running running{loops_};
     ScheduleDraw();
     if (!form.closeRequest) loop.exec();
+}
+
+// Again and again, since an operation may go on behind a form or dialog that was closed, and open another.
+void DesktopHost::EndUnasked() {
+    endTimer_.start(kEndMilliseconds);
+}
+
+void DesktopHost::CloseTopmost() {
+    QWidget* shown = QApplication::activePopupWidget();
+    if (shown == nullptr) shown = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (shown != nullptr) {
+        shown->close();
+        return;
+    }
+    if (pump_ == nullptr || pump_->OperationRuns()) return;
+    if (loops_.empty() || loops_.front().form->closeRequest) return;
+    Form* top = pump_->Windows().TopModal();
+    endedUnasked_ = top == nullptr;
+    (top == nullptr ? loops_.front().form : top)->closeRequest = true;
+    EndClosedLoop();
 }
 
 FormWindow* DesktopHost::Find(const Form& form) const {

@@ -39,6 +39,13 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     // Runs events until the form's close request.
     void RunUntilClosed(Form& form);
 
+    // Ends the outermost RunUntilClosed without a question: at once, or when the operation that runs has
+    // ended. What is open above its form closes from the top, as by Escape, but no procedure is asked: what
+    // the user has not accepted there is dropped.
+    void EndUnasked();
+    // Whether that has ended it, and not the user.
+    bool EndedUnasked() const { return endedUnasked_; }
+
     // Runs the form's close box with its questions at once. True where the form is to close. False where the
     // user cancels, and, without a question, while an operation runs or a modal window is open.
     bool AskToClose(Form& form);
@@ -91,6 +98,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     };
     void PumpRan();
     void EndClosedLoop();
+    void CloseTopmost();
     void FireTimer(const std::string& name);
     FormWindow* Find(const Form& form) const;
     FormWindow& Open(Form& form, QWidget* parent, Qt::WindowFlags flags);
@@ -112,6 +120,8 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     QTimer drawTimer_;
     QElapsedTimer lastDrawn_;
     bool drawing_ = false;
+    QTimer endTimer_;
+    bool endedUnasked_ = false;
     // Stands for the toolkit's dialogs among the pump's modal forms.
     Form dialogForm_{"", ""};
     int dialogsShown_ = 0;

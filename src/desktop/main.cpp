@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 #include <QSessionManager>
+#include <QSocketNotifier>
 #include <exception>
 #include <memory_resource>
 
@@ -17,6 +18,7 @@
 #include "platform/SystemServices.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
+#include "shell/SystemEnd.h"
 
 namespace orlo {
 namespace {
@@ -50,12 +52,24 @@ void NameApplication() {
     QApplication::setWindowIcon(ApplicationIcon());
 }
 
+// Hands the system's request to end on to the loop of events.
+void PassOn(const EndWatch& end, DesktopHost& host) {
+    if (end.Descriptor() < 0) return;
+    auto* notifier = new QSocketNotifier(end.Descriptor(), QSocketNotifier::Read, &host);
+    QObject::connect(notifier, &QSocketNotifier::activated, &host, [&host, notifier] {
+        notifier->setEnabled(false);
+        host.EndUnasked();
+    });
+}
+
 int RunDesktop(DesktopApplication& application) {
+    const auto end = WatchForEnd();
     SystemServices system;
     DesktopHost host;
+    PassOn(*end, host);
     Services services = system.Behind(host);
 
-    Program program(services, FindProgramFolder(*system.files));
+    Program program(services, FindProgramFolder(*system.files), UserStateFolder());
     const AttachedHost attached(application, host, program);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return kStartUpFailed;
@@ -66,7 +80,9 @@ int RunDesktop(DesktopApplication& application) {
         manager.release();
     });
     host.RunUntilClosed(program.forms.frmMain);
-    return 0;
+    if (!host.EndedUnasked()) return 0;
+    if (!EndBySystem(program.context)) qWarning("The changes could not be kept.");
+    return end->ExitStatus().value_or(0);
 }
 
 }  // namespace

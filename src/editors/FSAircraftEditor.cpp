@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "editors/FSAircraftParts.h"
 #include "editors/FSAircraftRows.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/PlanChange.h"
 #include "mainwindow/StatusTexts.h"
 #include "simulator/AircraftSave.h"
@@ -24,6 +26,7 @@ namespace orlo {
 namespace {
 
 constexpr int kScanStages = 3;
+constexpr std::string_view kSaveReason = "Aircraft Editor";
 
 void FillNames(ComboBox& combo, const NameList& list) {
     combo.Clear();
@@ -87,21 +90,27 @@ bool TakesTypedValue(Context& context) {
 
 // The path of the file where it can't be written; empty where no class has moved, too.
 std::string SaveClasses(Context& context) {
-    const Session& session = context.session;
+    Session& session = context.session;
     FSAircraftEditForm& form = context.forms.frmFSAircraftEdit;
     FileSystem& files = context.services.files;
     if (session.rules.Classes == form.KeptClasses) return {};
     std::string path = AircraftClassesPath(session);
-    if (session.switches.BackupAircraft && !BackUpOnce(files, path)) return BackupPath(path);
+    const bool isDue = session.switches.BackupAircraft && !files.FileExists(BackupPath(path));
+    const bool backedUp = isDue && BackUpOnce(files, path);
+    if (!backedUp && !KeepWhatGoes(context, session.known, kSaveReason, path)) return path;
     if (!WriteAircraftClasses(session, files)) return path;
+    session.known.Know(files, path, true);
     form.KeptClasses = session.rules.Classes;
     return {};
 }
 
 std::string SaveAll(Context& context) {
     Session& session = context.session;
+    BackUpFile backUp;
+    if (session.switches.BackupAircraft)
+        backUp = [&context](const std::string& path) { return BackUpOrKeep(context, kSaveReason, path); };
     std::string failed = SaveAircraft(session.fleet.FSAircrafts, context.forms.frmFSAircraftEdit.KeptAircraft,
-                                      context.services.files, session.switches.BackupAircraft);
+                                      context.services.files, backUp);
     return failed.empty() ? SaveClasses(context) : failed;
 }
 

@@ -9,15 +9,16 @@
 #include "core/Number.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/StatusTexts.h"
 #include "simulator/AircraftScan.h"
+#include "simulator/Feet.h"
 #include "simulator/GateResize.h"
 #include "simulator/Scenery.h"
 
 namespace orlo {
 namespace {
 
-constexpr double kFeetPerMetre = 3.281;
 constexpr std::string_view kSizeCaption = "New &Size (m)";
 
 // Metres; nothing for what is no size.
@@ -46,10 +47,12 @@ ResizeOutcome ResizeScenery(Context& context, double size) {
     resize.Radius = static_cast<float>(size);
     resize.Search = form.txtSearch.text;
     resize.ICAO = form.txtICAO.text;
-    ResizeOutcome outcome =
-        ResizeAllFiles(context.services.files, SceneryFolder(simulator), resize, form.ckBackup.checked);
+    BackUpFile backUp;
+    if (form.ckBackup.checked)
+        backUp = [&context](const std::string& path) { return BackUpOrKeep(context, "Resize Gates", path); };
+    // The cache goes first: it would be wrong after a run that ends in the middle.
     ForgetScenery(session, context.services.files);
-    return outcome;
+    return ResizeAllFiles(context.services.files, SceneryFolder(simulator), resize, backUp);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "forms/DistanceForm.h"
 #include "forms/FSAircraftEditForm.h"
 #include "forms/FlightEditForm.h"
+#include "forms/KeptFilesForm.h"
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
 #include "forms/ResizeGatesForm.h"
@@ -31,6 +32,7 @@ struct Forms {
     DistanceForm frmDistance;
     AirportSearchForm frmAirportSearch;
     AirportInfoForm frmAirportInfo;
+    KeptFilesForm frmKeptFiles;
 };
 
 }  // namespace orlo

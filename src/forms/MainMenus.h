@@ -94,6 +94,7 @@ struct MainMenus {
     MenuEntry mnuHelp;
     MenuEntry mnuHelpContents{mnuHelp, "mnuHelpContents", "&Contents"};
     MenuEntry mnuHelpSearchForHelpOn{mnuHelp, "mnuHelpSearchForHelpOn", "&Search..."};
+    MenuEntry mnuHelpKeptFiles{mnuHelp, "mnuHelpKeptFiles", "&Kept Files..."};
     MenuEntry mnuHelpAbout{mnuHelp, "mnuHelpAbout", "&About "};
 
     // The pop-up menu of both trees and lvExPreview.

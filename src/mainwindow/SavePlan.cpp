@@ -1,24 +1,73 @@
 #include "mainwindow/SavePlan.h"
 
+#include <vector>
+
 #include "core/Application.h"
-#include "core/Path.h"
+#include "core/FileBackup.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
+#include "mainwindow/KeepAside.h"
+#include "mainwindow/KeepInMemory.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/StatusTexts.h"
 
 namespace orlo {
 
+namespace {
+
+constexpr std::string_view kSaveReason = "Save Flightplan";
+
+// Makes the backups that are due, and keeps what would be lost otherwise. False where neither can be done.
+bool SecureOldFiles(Context& context) {
+    const Plan& plan = context.session.plan;
+    FileSystem& files = context.services.files;
+    std::vector<std::string> going;
+    for (const std::string& path : {plan.FlightplanPath, PlanAircraftPath(plan)}) {
+        const bool isDue = context.session.switches.BackupPlan && files.FileExists(path) &&
+                           !files.FileExists(BackupPath(path));
+        const bool backedUp = isDue && BackUpOnce(files, path);
+        if (!backedUp && (isDue || !plan.Known.MayGo(files, path))) going.push_back(path);
+    }
+    const std::string removed = RemovedFlightsPath(plan.FlightplanPath);
+    if (!plan.Known.MayGo(files, removed)) going.push_back(removed);
+    return going.empty() || KeepAside(context, kSaveReason, going);
+}
+
+// Whether all could be written.
+bool WritePlanFiles(Context& context) {
+    Plan& plan = context.session.plan;
+    FileSystem& files = context.services.files;
+    const std::string aircraftPath = PlanAircraftPath(plan);
+    if (!SecureOldFiles(context)) {
+        ReportNotWritten(context, plan.FlightplanPath);
+        return false;
+    }
+    const PlanWriteResult written = WriteFlightplan(files, plan.FlightplanPath, plan.Flights);
+    const bool aircraftWritten = WritePlanAircraft(plan, files);
+    if (written.Complete() && !aircraftWritten) ReportNotWritten(context, aircraftPath);
+    ReportPlanNotWritten(context, plan.FlightplanPath, written);
+    if (written.PlanWritten) plan.Known.Know(files, plan.FlightplanPath, true);
+    if (written.RemovedWritten) plan.Known.Know(files, RemovedFlightsPath(plan.FlightplanPath), true);
+    if (aircraftWritten) plan.Known.Know(files, aircraftPath, true);
+    return written.Complete() && aircraftWritten;
+}
+
+}  // namespace
+
 std::string AskForSavePath(Context& context, std::string_view title, std::string_view startFile,
-                           std::string_view filter) {
+                           std::string_view filter, ChosenFile chosen) {
     FileDialog dialog;
     dialog.title = title;
     dialog.startFile = startFile;
     dialog.filter = filter;
     dialog.overwritePrompt = true;
-    const std::string path = context.services.windows.ShowSaveDialog(dialog);
-    return path.empty() ? path : context.services.files.FullPath(path);
+    std::string path = context.services.windows.ShowSaveDialog(dialog);
+    if (path.empty()) return path;
+    path = context.services.files.FullPath(path);
+    if (chosen == ChosenFile::IsKeptByCaller || KeepAside(context, title, path)) return path;
+    ReportNotWritten(context, path);
+    return {};
 }
 
 MessageAnswer AskToSave(Context& context, std::string_view question) {
@@ -34,23 +83,27 @@ void ReportPlanNotWritten(Context& context, const std::string& path, const PlanW
     if (!written.PlanWritten) {
         ReportNotWritten(context, path);
     } else if (!written.RemovedWritten) {
-        ReportNotWritten(context, JoinPath(ParentFolder(path), kRemovedFlightsName));
+        ReportNotWritten(context, RemovedFlightsPath(path));
     }
 }
 
 void SaveFlightplan(Context& context) {
-    Session& session = context.session;
-    FileSystem& files = context.services.files;
+    Plan& plan = context.session.plan;
     ForgetNotWritten(context);
-    const PlanWriteResult plan = WriteFlightplan(files, session.plan.FlightplanPath, session.plan.Flights,
-                                                 session.switches.BackupPlan);
-    const bool aircraftWritten = WritePlanAircraft(session.plan, files, session.switches.BackupPlan);
-    if (plan.Complete() && !aircraftWritten) ReportNotWritten(context, PlanAircraftPath(session.plan));
-    ReportPlanNotWritten(context, session.plan.FlightplanPath, plan);
-    session.plan.PlanModified = false;
+    plan.DiffersFromFile = !WritePlanFiles(context);
+    plan.PlanModified = false;
     EnableMenus(context);
     ShowMessage(context.services.messages, "Successfully saved modified Flightplan.", kMarkInformation,
                 &context.forms.frmMain);
+}
+
+bool IsUnsaved(const Plan& plan) {
+    return plan.PlanModified || plan.DiffersFromFile;
+}
+
+bool SaveBeforeItGoes(Context& context) {
+    SaveFlightplan(context);
+    return !context.session.plan.DiffersFromFile || KeepPlanInMemory(context, kSaveReason);
 }
 
 void SaveFlightplanCommand(Context& context) {
@@ -65,7 +118,8 @@ void SaveFlightplanAs(Context& context) {
         return;
     }
     const std::string path =
-        AskForSavePath(context, "Save Flightplan as...", context.session.plan.FlightplanPath);
+        AskForSavePath(context, "Save Flightplan as...", context.session.plan.FlightplanPath, kTextFileFilter,
+                       ChosenFile::IsKeptByCaller);
     if (path.empty()) return;
     context.session.plan.FlightplanPath = path;
     AddRecentFlightplan(context, context.session.plan.FlightplanPath);

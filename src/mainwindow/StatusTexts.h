@@ -10,7 +10,11 @@ namespace orlo {
 void ReportNotWritten(Context& context, std::string_view path);
 // The same for a print that failed.
 void ReportNotPrinted(Context& context);
-// Clears such a text from the status bar, before the next try.
+// Clears such a text, and what was told of kept files, from the status bar before the next try.
 void ForgetNotWritten(Context& context);
+
+// Puts what the event has kept (mainwindow/KeepAside.h) behind the text of the status bar, in place of what
+// was told so before. Without kept files nothing changes.
+void TellKept(Context& context);
 
 }  // namespace orlo

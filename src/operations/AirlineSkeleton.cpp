@@ -6,9 +6,9 @@
 #include "core/KeyedIndex.h"
 #include "core/Path.h"
 #include "core/Text.h"
-#include "core/TextLines.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/GetScenery.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/StatusTexts.h"
 
 namespace orlo {
@@ -41,9 +41,8 @@ void AppendSections(std::string& out, std::string_view level, const FirstAppeara
 
 bool WriteSkeleton(Context& context) {
     const std::string path = JoinPath(context.session.ProgramFolder, kSkeletonName);
-    if (ReplaceWholeFile(context.services.files, path,
-                         FormatAirlineSkeleton(context.session.scenery.Airports)))
-        return true;
+    const std::string text = FormatAirlineSkeleton(context.session.scenery.Airports);
+    if (ReplaceAndKeep(context, "Generated list", path, text)) return true;
     ReportNotWritten(context, path);
     return false;
 }

@@ -90,7 +90,15 @@ void EditFlight(Context& context) {
     const std::int32_t place = list.current;
     if (place < 0 || place >= session.search.SearchResultCount) return;
     TakeFirstUndoSnapshot(context);
-    if (EditFlight(context, place, true, 0).empty()) return;
+    // Edited is the flight as it is now; a cancel leaves what the list shows.
+    const Flight shown = session.search.SearchResults.Unpack(place);
+    session.search.SearchResults.Replace(
+        place,
+        session.plan.Flights.Unpack(session.search.SearchResultIndex[static_cast<std::size_t>(place)]));
+    if (EditFlight(context, place, true, 0).empty()) {
+        session.search.SearchResults.Replace(place, shown);
+        return;
+    }
     session.plan.Flights.Replace(session.search.SearchResultIndex[static_cast<std::size_t>(place)],
                                  session.search.SearchResults.Unpack(place));
     ShowResult(context, place);

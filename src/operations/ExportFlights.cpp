@@ -6,6 +6,7 @@
 #include "core/FlightplanFile.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
 
@@ -13,10 +14,11 @@ namespace orlo {
 namespace {
 
 void WriteExport(Context& context, const std::string& path, const FlightList& flights) {
+    FileSystem& files = context.services.files;
     ForgetNotWritten(context);
-    const PlanWriteResult written =
-        WriteFlightplan(context.services.files, path, flights, context.session.switches.BackupPlan);
-    ReportPlanNotWritten(context, path, written);
+    const bool kept = KeepWhatGoes(context, context.session.plan.Known, "Export", RemovedFlightsPath(path)) &&
+                      (!context.session.switches.BackupPlan || BackUpOrKeep(context, "Export", path));
+    ReportPlanNotWritten(context, path, kept ? WriteFlightplan(files, path, flights) : PlanWriteResult());
 }
 
 void SayExported(Context& context, std::int32_t count) {

@@ -5,10 +5,10 @@
 
 #include "core/Path.h"
 #include "core/Text.h"
-#include "core/TextLines.h"
 #include "mainwindow/AircraftTrees.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/GetScenery.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/StatusTexts.h"
 #include "simulator/AircraftTypesFile.h"
 #include "simulator/AirportLists.h"
@@ -22,7 +22,7 @@ constexpr std::string_view kAircraftTypesName = "New AircraftTypes.dat";
 
 void WriteList(Context& context, const std::string& folder, std::string_view name, std::string_view text) {
     const std::string path = JoinPath(folder, name);
-    if (!ReplaceWholeFile(context.services.files, path, text)) ReportNotWritten(context, path);
+    if (!ReplaceAndKeep(context, "Generated list", path, text)) ReportNotWritten(context, path);
 }
 
 void SayGenerated(Context& context, std::string_view name, Form& owner) {

@@ -3,10 +3,12 @@
 #include <memory>
 #include <memory_resource>
 #include <optional>
+#include <streambuf>
 #include <string>
 #include <vector>
 
 #include "services/Clock.h"
+#include "services/EndRequest.h"
 #include "services/FileSystem.h"
 #include "services/ProcessService.h"
 #include "services/SettingsStore.h"
@@ -31,6 +33,24 @@ std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem& files, const std:
 // The folder that holds the rule files, the scenery cache and the manual (see common/ProgramFolder.h), filled
 // from the installation, or from the checkout beside a build's folder. Empty where there is none.
 std::string FindProgramFolder(FileSystem& files);
+
+// The folder of the user's own where copies of files are kept. Nothing is made; empty where there is no home.
+std::string UserStateFolder();
+
+// The request to end, as this system makes it: a signal, or an event of the console.
+class EndWatch : public EndRequest {
+  public:
+    // Standard input. It also ends when the end is asked for, while it waits for bytes too.
+    virtual std::streambuf& Input() = 0;
+    // What can be read from when the end was asked for, for a loop of events; -1 where the system has no
+    // such.
+    virtual int Descriptor() const = 0;
+};
+
+// From now on such a request ends nothing by itself and is only noted. What the program's own parent has told
+// to ignore stays ignored. A second one of the same kind ends the program at once, but for a terminal that
+// closes, which tells so twice. One lives at a time; when it goes, all is as before.
+std::unique_ptr<EndWatch> WatchForEnd();
 
 // The memory resource that serves large lists best. It lives to the end of the program.
 std::pmr::memory_resource& ListMemory();

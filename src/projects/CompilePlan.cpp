@@ -1,11 +1,13 @@
 #include "projects/CompilePlan.h"
 
 #include <string>
+#include <vector>
 
 #include "core/Application.h"
 #include "core/Path.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
 #include "projects/OutsideTools.h"
@@ -18,6 +20,11 @@ constexpr std::string_view kNoCompiler =
     "File 'TCOMPILER.EXE' not found. Please copy the file to the ORLO program folder.";
 constexpr std::string_view kNoDecompiler =
     "File 'TDECOMPILER.EXE' not found. Copy the file to the ORLO program folder.";
+
+bool SaveInFrame(Context& context) {
+    const BusyForm busy(context, context.forms.frmMain);
+    return SaveBeforeItGoes(context);
+}
 
 void TellOutcome(Context& context, bool done, std::string_view success, std::string_view failure) {
     ShowMessage(context.services.messages, done ? success : failure, done ? kMarkInformation : kMarkCritical,
@@ -38,7 +45,7 @@ bool HasSideFiles(Context& context, const std::string& folder) {
 }
 
 std::int32_t RunCompilerOn(Context& context, const std::string& flightplan, const std::string& folder) {
-    CompilerFolder compiler(context);
+    CompilerFolder compiler(context, folder);
     compiler.CopyCompiler();
     compiler.Copy(flightplan, kFlightPlansName);
     for (const std::string_view name : {kAircraftName, kAirportsName})
@@ -62,12 +69,30 @@ void NameOutput(Context& context, const std::string& folder, const std::string& 
     if (!context.services.files.RenameFile(output, chosen)) ReportNotWritten(context, chosen);
 }
 
+// The chosen file, and what the tool writes beside it. Without them nothing is deleted or run.
+bool KeepLists(Context& context, const std::string& chosen, const std::string& folder) {
+    std::vector<std::string> paths;
+    for (const std::string_view name : {kFlightPlansName, kAircraftName, kAirportsName})
+        paths.push_back(JoinPath(folder, name));
+    if (!EqualNoCase(chosen, paths.front())) paths.push_back(chosen);
+    return KeepAside(context, "Decompile", paths);
+}
+
+void TellDecompiled(Context& context, bool done) {
+    TellOutcome(context, done, "Successfully decompiled AI Traffic.",
+                "Errors occured during decompiling AI Traffic.");
+}
+
 void Decompile(Context& context, const std::string& chosen) {
     FileSystem& files = context.services.files;
     const std::string folder = ParentFolder(chosen);
     const std::string tool = JoinPath(folder, kDecompiler);
     ForgetNotWritten(context);
     const BusyForm busy(context, context.forms.frmMain);
+    if (!KeepLists(context, chosen, folder)) {
+        ReportNotWritten(context, chosen);
+        return TellDecompiled(context, false);
+    }
     files.DeleteFile(chosen);
     const bool stands = files.FileExists(tool);
     const bool copied = !stands && CopyToolInto(context, kDecompiler, folder);
@@ -75,8 +100,7 @@ void Decompile(Context& context, const std::string& chosen) {
     const std::int32_t exitCode = stands || copied ? RunAndWait(context, start) : 0;
     NameOutput(context, folder, chosen);
     if (copied) files.DeleteFile(tool);
-    TellOutcome(context, exitCode == 0, "Successfully decompiled AI Traffic.",
-                "Errors occured during decompiling AI Traffic.");
+    TellDecompiled(context, exitCode == 0);
 }
 
 }  // namespace
@@ -98,18 +122,19 @@ void CompileFlightplan(Context& context) {
 void CompileCurrentFlightplan(Context& context) {
     if (!ToolIsReady(context, kCompiler, kNoCompiler)) return;
     ForgetNotWritten(context);
-    if (context.session.plan.PlanModified) {
+    if (IsUnsaved(context.session.plan)) {
         const MessageAnswer answer =
             AskToSave(context, "Save modified Flightplan before starting compiling?");
         if (answer == MessageAnswer::Cancel) return;
-        if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
+        if (answer == MessageAnswer::Yes && !SaveInFrame(context)) return;
     }
     Compile(context, context.session.plan.FlightplanPath);
 }
 
 void DecompileFlightplan(Context& context) {
     if (!ToolIsReady(context, kDecompiler, kNoDecompiler)) return;
-    const std::string path = AskForSavePath(context, "Decompile - Choose Output File", kFlightPlansName);
+    const std::string path = AskForSavePath(context, "Decompile - Choose Output File", kFlightPlansName,
+                                            kTextFileFilter, ChosenFile::IsKeptByCaller);
     if (!path.empty()) Decompile(context, path);
 }
 

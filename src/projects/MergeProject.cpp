@@ -9,6 +9,7 @@
 #include "core/Path.h"
 #include "core/Text.h"
 #include "mainwindow/BusyForm.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/StatusTexts.h"
 #include "projects/OutsideTools.h"
 #include "projects/PlanMerger.h"
@@ -26,7 +27,7 @@ class MergeRun {
           files_(context.services.files),
           project_(context.session.project),
           folder_(ParentFolder(project_.ProjectPath)) {
-        if (!mergeOnly) compiler_.emplace(context);
+        if (!mergeOnly) compiler_.emplace(context, folder_);
     }
 
     bool Run() {
@@ -38,7 +39,7 @@ class MergeRun {
         if (const auto missing = Merge()) {
             busy_.CloseProgress();
             Tell(Concat("File '", *missing, "' not found."));
-            if (!compiler_) DeleteOutputs();
+            if (!compiler_ && kept_) DeleteOutputs();
             return false;
         }
         if (compiler_) return Compile();
@@ -80,6 +81,7 @@ class MergeRun {
     std::optional<std::string> Merge() {
         LineFile aircraft;
         LineFile flights;
+        if (!KeepOutputs()) return std::nullopt;
         Create(flights, kFlightPlansName);
         Create(aircraft, kAircraftName);
         std::optional<std::string> missing;
@@ -100,6 +102,16 @@ class MergeRun {
             if (!merger.AddFlights(UsablePath(files_, entry.Flightplan))) return entry.Flightplan;
         }
         return std::nullopt;
+    }
+
+    // Those of an earlier merge. Where they can't be kept nothing is created.
+    bool KeepOutputs() {
+        if (compiler_) return true;
+        const std::string outputs[] = {JoinPath(folder_, kFlightPlansName), JoinPath(folder_, kAircraftName)};
+        if (KeepAside(context_, "Merge", outputs)) return true;
+        ReportNotWritten(context_, outputs[0]);
+        kept_ = false;
+        return false;
     }
 
     void Create(LineFile& output, std::string_view name) {
@@ -131,6 +143,7 @@ class MergeRun {
     FileSystem& files_;
     const ProjectState& project_;
     std::string folder_;                      // of the project
+    bool kept_ = true;                        // the outputs may be created, and deleted after a fault
     std::optional<CompilerFolder> compiler_;  // none where the merge is all
 };
 

@@ -5,6 +5,7 @@
 #include "core/Application.h"
 #include "core/Path.h"
 #include "core/Text.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/StatusTexts.h"
 #include "projects/RunTool.h"
 
@@ -23,6 +24,13 @@ bool CopyAll(InputFile& source, OutputFile& target) {
         if (!target.Write({buffer.data(), size})) return false;
     }
     return target.Commit();
+}
+
+bool IsSameFolder(FileSystem& files, const std::string& a, const std::string& b) {
+    const auto full = [&files](const std::string& path) {
+        return std::string(WithoutTrailingSeparator(files.Resolve(files.FullPath(path))));
+    };
+    return full(a) == full(b);
 }
 
 }  // namespace
@@ -60,28 +68,42 @@ bool IsThere(FileSystem& files, const std::string& path) {
     return files.OpenForReading(path) != nullptr;
 }
 
-CompilerFolder::CompilerFolder(Context& context)
-    : context_(context), folder_(context.services.processes.TemporaryFolder()) {}
+CompilerFolder::CompilerFolder(Context& context, const std::string& ownFolder)
+    : context_(context),
+      folder_(context.services.processes.TemporaryFolder()),
+      isOwn_(IsSameFolder(context.services.files, folder_, ownFolder)) {}
 
 CompilerFolder::~CompilerFolder() {
     for (const std::string_view name : names_) context_.services.files.DeleteFile(JoinPath(folder_, name));
 }
 
-void CompilerFolder::Copy(const std::string& from, std::string_view name) {
+// From now on the name is deleted at the end.
+bool CompilerFolder::MayPut(std::string_view name) {
+    const std::string path = JoinPath(folder_, name);
+    const bool stands = context_.services.files.FileExists(path);
+    if (stands && (isOwn_ || !KeepAside(context_, "Compile", path))) {
+        ReportNotWritten(context_, folder_);
+        return false;
+    }
     names_.push_back(name);
-    CopyInto(context_, from, folder_, name);
+    return true;
+}
+
+void CompilerFolder::Copy(const std::string& from, std::string_view name) {
+    // The plan's own file is where it has to be.
+    if (isOwn_ && EqualNoCase(FileName(from), name)) return;
+    if (MayPut(name)) CopyInto(context_, from, folder_, name);
 }
 
 std::unique_ptr<OutputFile> CompilerFolder::Create(std::string_view name) {
-    names_.push_back(name);
+    if (!MayPut(name)) return nullptr;
     auto file = context_.services.files.CreateNew(JoinPath(folder_, name));
     if (file == nullptr) ReportNotWritten(context_, folder_);
     return file;
 }
 
 void CompilerFolder::CopyCompiler() {
-    names_.push_back(kCompiler);
-    hasCompiler_ = CopyToolInto(context_, kCompiler, folder_);
+    hasCompiler_ = MayPut(kCompiler) && CopyToolInto(context_, kCompiler, folder_);
 }
 
 // What stands there instead of a copy that failed is another user's.

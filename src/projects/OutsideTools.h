@@ -32,10 +32,13 @@ bool CopyInto(Context& context, const std::string& from, const std::string& fold
 bool CopyToolInto(Context& context, std::string_view tool, const std::string& folder);
 
 // What the compiler works on in the system's temporary folder, and the compiler itself. What was put there
-// is deleted when this ends. The status bar names the folder where something can't be put there.
+// is deleted when this ends. A file that stands there under such a name is kept first, as another program's;
+// one of the plan's or project's own folder is neither overwritten nor deleted. The status bar names the
+// folder where something can't be put there.
 class CompilerFolder {
   public:
-    explicit CompilerFolder(Context& context);
+    // `ownFolder` is that of the plan or project.
+    CompilerFolder(Context& context, const std::string& ownFolder);
     ~CompilerFolder();
     CompilerFolder(const CompilerFolder&) = delete;
     CompilerFolder& operator=(const CompilerFolder&) = delete;
@@ -49,8 +52,11 @@ class CompilerFolder {
     std::int32_t Run();
 
   private:
+    bool MayPut(std::string_view name);
+
     Context& context_;
     std::string folder_;
+    bool isOwn_;  // the user's files stand in it
     std::vector<std::string_view> names_;
     bool hasCompiler_ = false;
 };

@@ -5,9 +5,11 @@
 #include "forms/EmptyHints.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
+#include "mainwindow/KeepAside.h"
 #include "mainwindow/RecentLists.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
+#include "projects/KeepProject.h"
 #include "projects/ProjectEntries.h"
 #include "projects/ProjectFile.h"
 
@@ -16,12 +18,26 @@ namespace {
 
 constexpr std::string_view kProjectFilter = "ORLO Project (*.orp)|*.orp";
 
+constexpr std::string_view kSaveReason = "Save Project";
+
+bool WriteKnownProject(Context& context) {
+    ProjectState& project = context.session.project;
+    FileSystem& files = context.services.files;
+    const std::string& path = project.ProjectPath;
+    if (path.empty() || !KeepWhatGoes(context, project.Known, kSaveReason, path) ||
+        !WriteProject(project, files, path))
+        return false;
+    project.Known.Know(files, path, true);
+    return true;
+}
+
 void WriteProjectFile(Context& context) {
     ProjectState& project = context.session.project;
     TakeProjectDescription(context);
     ForgetNotWritten(context);
     // One that was never saved is written nowhere.
-    if (!project.ProjectPath.empty() && !WriteProject(project, context.services.files, project.ProjectPath))
+    project.DiffersFromFile = !WriteKnownProject(context);
+    if (project.DiffersFromFile && !project.ProjectPath.empty())
         ReportNotWritten(context, project.ProjectPath);
     project.ProjectModified = false;
     EnableMenus(context);
@@ -34,9 +50,14 @@ void WriteInFrame(Context& context) {
     WriteProjectFile(context);
 }
 
+// False where what stands in no file can't be kept either.
+bool KeepUnwritten(Context& context) {
+    return !context.session.project.DiffersFromFile || KeepProjectInMemory(context, kSaveReason);
+}
+
 // No where there is nothing to save.
 MessageAnswer AskToSaveProject(Context& context) {
-    if (!context.session.project.ProjectModified) return MessageAnswer::No;
+    if (!IsUnsaved(context.session.project)) return MessageAnswer::No;
     return AskToSave(context, "Save the modified Project?");
 }
 
@@ -75,10 +96,21 @@ void BeginProject(Context& context, const std::string& path, bool modified) {
 
 }  // namespace
 
+bool IsUnsaved(const ProjectState& project) {
+    return project.ProjectModified || project.DiffersFromFile;
+}
+
+bool SaveProjectBeforeItGoes(Context& context) {
+    return SaveProject(context) && KeepUnwritten(context);
+}
+
 bool NewProject(Context& context) {
     const MessageAnswer answer = AskToSaveProject(context);
     if (answer == MessageAnswer::Cancel) return false;
-    if (answer == MessageAnswer::Yes) WriteInFrame(context);
+    if (answer == MessageAnswer::Yes) {
+        WriteInFrame(context);
+        if (!KeepUnwritten(context)) return false;
+    }
     BeginProject(context, "", true);
     context.session.project.ProjectLoaded = true;
     ShowProjectEntries(context);
@@ -90,14 +122,20 @@ bool OpenProject(Context& context, std::string path) {
     MainForm& form = context.forms.frmMain;
     const MessageAnswer answer = AskToSaveProject(context);
     if (answer == MessageAnswer::Cancel) return false;
-    if (answer == MessageAnswer::Yes) SaveFlightplanInstead(context);
+    if (answer == MessageAnswer::Yes) {
+        // What the user agreed to save is kept from memory.
+        context.session.project.DiffersFromFile = true;
+        SaveFlightplanInstead(context);
+    }
     path = ChooseProject(context, std::move(path));
     if (path.empty()) return false;
+    if (answer == MessageAnswer::Yes && !KeepUnwritten(context)) return false;
 
     BeginProject(context, context.services.files.FullPath(path), false);
     const BusyForm busy(context, form);
     form.lvProject.SwitchSorting(false);
-    ReadProject(project, context.services.files, project.ProjectPath);
+    const bool whole = ReadProject(project, context.services.files, project.ProjectPath);
+    project.Known.Know(context.services.files, project.ProjectPath, whole);
     ShowProjectEntries(context);
     project.ProjectLoaded = true;
     form.sbMain.text =
@@ -114,8 +152,8 @@ bool SaveProject(Context& context) {
 
 bool SaveProjectAs(Context& context) {
     ProjectState& project = context.session.project;
-    const std::string path =
-        AskForSavePath(context, "Save Project as...", project.ProjectPath, kProjectFilter);
+    const std::string path = AskForSavePath(context, "Save Project as...", project.ProjectPath,
+                                            kProjectFilter, ChosenFile::IsKeptByCaller);
     if (path.empty()) return false;
     project.ProjectPath = path;
     AddRecentProject(context, project.ProjectPath);

@@ -44,6 +44,17 @@ ProjectEntry ReadEntry(ByteReader& reader, bool withAircraft) {
     return entry;
 }
 
+// Whether the entries, written in the file's version, are the file.
+bool HoldsAll(const std::vector<ProjectEntry>& entries, std::string_view bytes) {
+    ByteReader reader(bytes);
+    const std::string version = ReadText(reader);
+    if (version == kVersion) return FormatProject(entries) == bytes;
+    if (version != kVersionWithoutAircraft || reader.Int32() != static_cast<std::int32_t>(entries.size()))
+        return false;
+    for (std::size_t i = 0; i < entries.size(); ++i) ReadEntry(reader, false);
+    return reader.Ok() && reader.Left() == 0;
+}
+
 }  // namespace
 
 std::vector<ProjectEntry> ParseProject(std::string_view bytes) {
@@ -72,9 +83,11 @@ std::string FormatProject(const std::vector<ProjectEntry>& entries) {
     return bytes;
 }
 
-void ReadProject(ProjectState& project, FileSystem& files, const std::string& path) {
+bool ReadProject(ProjectState& project, FileSystem& files, const std::string& path) {
     project.ProjectVersion = kVersion;
-    project.ProjectEntries = ParseProject(ReadWholeFile(files, path).value_or(""));
+    const std::string bytes = ReadWholeFile(files, path).value_or("");
+    project.ProjectEntries = ParseProject(bytes);
+    return HoldsAll(project.ProjectEntries, bytes);
 }
 
 bool WriteProject(const ProjectState& project, FileSystem& files, const std::string& path) {

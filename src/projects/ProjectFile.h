@@ -18,8 +18,9 @@ std::vector<ProjectEntry> ParseProject(std::string_view bytes);
 // A file of version 1.1. A text of more than 65,535 bytes is cut there.
 std::string FormatProject(const std::vector<ProjectEntry>& entries);
 
-// Replaces the entries; a file that can't be read gives none. The version is "1.1" then.
-void ReadProject(ProjectState& project, FileSystem& files, const std::string& path);
+// Replaces the entries; a file that can't be read gives none. The version is "1.1" then. Whether the file was
+// a whole project, of which the entries hold all.
+bool ReadProject(ProjectState& project, FileSystem& files, const std::string& path);
 // False, with the old file whole, where the file can't be written.
 bool WriteProject(const ProjectState& project, FileSystem& files, const std::string& path);
 

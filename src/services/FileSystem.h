@@ -36,6 +36,14 @@ class OutputFile {
     virtual bool Commit() = 0;
 };
 
+// Where a file has been written since, one of the two differs.
+struct FileStamp {
+    std::uint64_t size = 0;
+    std::int64_t time = 0;  // of the last write, in the system's finest units
+
+    bool operator==(const FileStamp&) const = default;
+};
+
 // Bytes that are written over others of a file.
 struct FilePatch {
     std::uint64_t position = 0;  // from the start of the file
@@ -70,6 +78,7 @@ class FileSystem {
 
     virtual bool FileExists(const std::string& path) = 0;  // anything but a folder
     virtual bool FolderExists(const std::string& path) = 0;
+    virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;         // of a file, not of a folder
     virtual std::optional<std::uint64_t> FileSize(const std::string& path) = 0;  // of a file, not of a folder
 
     // Null when the path names no readable file.

@@ -26,8 +26,8 @@ class RunningTool {
     virtual void End() = 0;
     // Once Wait has given true.
     virtual std::int32_t ExitCode() const = 0;
-    // Whether the user has pressed Ctrl+C in the program's own terminal since the start. As long as this
-    // object lives, that ends no program by itself.
+    // Whether the user has pressed Ctrl+C in the program's own terminal since the start, or the system has
+    // asked the program to end (EndRequest.h). As long as this object lives, Ctrl+C ends no program.
     virtual bool Interrupted() const = 0;
 };
 

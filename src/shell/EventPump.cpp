@@ -7,6 +7,7 @@
 
 #include "core/Text.h"
 #include "mainwindow/EnabledControls.h"
+#include "mainwindow/StatusTexts.h"
 #include "shell/FormFacts.h"
 #include "shell/Title.h"
 
@@ -100,6 +101,8 @@ void EventPump::Run(Event& event) {
         return;
     }
     ++running_;
+    // An event within another, such as one of a modal form, tells what it has kept itself.
+    auto keptOutside = std::exchange(context_.session.kept.Kept, {});
     try {
         entry->procedure(context_, event);
     } catch (const std::bad_alloc&) {
@@ -108,6 +111,8 @@ void EventPump::Run(Event& event) {
         RecoverFromFailure(event.form, failure.what());
     }
     --running_;
+    TellKept(context_);
+    context_.session.kept.Kept = std::move(keptOutside);
     RefreshTitle(context_);
     if (event.presses != nullptr) {
         Event press{&event.presses->form, event.presses, EventKind::Click};

@@ -15,6 +15,7 @@ EventTable AircraftEditEvents();
 EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
 EventTable ResizeGatesEvents();
+EventTable KeptFilesEvents();
 EventTable TextEditEvents();
 EventTable DistanceEvents();
 EventTable AirportSearchEvents();

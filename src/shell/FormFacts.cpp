@@ -50,6 +50,7 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmDistance>(Only<DistanceEvents>, "airports.html"),
     FactsOf<&Forms::frmAirportSearch>(Only<AirportSearchEvents>, "airports.html"),
     FactsOf<&Forms::frmAirportInfo>(Only<AirportInfoEvents>, "airports.html"),
+    FactsOf<&Forms::frmKeptFiles>(Only<KeptFilesEvents>, "kept.html"),
 };
 
 constexpr std::size_t ListedBytes() {

@@ -12,6 +12,7 @@
 #include "operations/CorrectFlightLevels.h"
 #include "operations/CorrectFlightTimes.h"
 #include "operations/GeneratedLists.h"
+#include "operations/KeptFilesWindow.h"
 #include "operations/Randomise.h"
 #include "operations/RemoveMinus.h"
 #include "projects/CompilePlan.h"
@@ -135,6 +136,7 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuViewOptions>, Click, NoAction},
     EventEntry{InMain<&M::mnuHelpContents>, Click, Run<ShowHelp>},
     EventEntry{InMain<&M::mnuHelpSearchForHelpOn>, Click, NoAction},
+    EventEntry{InMain<&M::mnuHelpKeptFiles>, Click, Run<ShowKeptFiles>},
     EventEntry{InMain<&M::mnuHelpAbout>, Click, Run<ShowAbout>},
 };
 

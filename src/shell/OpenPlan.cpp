@@ -125,10 +125,10 @@ bool AllPlanAircraftInstalled(const Session& session) {
 
 void OpenFlightplan(Context& context, std::string path) {
     Session& session = context.session;
-    if (session.plan.PlanModified) {
+    if (IsUnsaved(session.plan)) {
         const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return;
-        if (answer == MessageAnswer::Yes) SaveFlightplan(context);
+        if (answer == MessageAnswer::Yes && !SaveBeforeItGoes(context)) return;
     }
     path = ChoosePlan(context, std::move(path));
     if (path.empty()) return;

@@ -4,9 +4,10 @@
 
 namespace orlo {
 
-Program::Program(Services& services, std::string programFolder)
+Program::Program(Services& services, std::string programFolder, const std::string& stateFolder)
     : context{session, forms, services, undo, frame}, pump(context) {
     session.ProgramFolder = std::move(programFolder);
+    if (!stateFolder.empty()) session.StateFolder = services.files.FullPath(stateFolder);
     EnableAll(context);
 }
 

@@ -24,21 +24,26 @@ void EraseMemory(Context& context) {
     session.project = {};
 }
 
+bool SavePlanInFrame(Context& context) {
+    const BusyForm busy(context, context.forms.frmMain);
+    return SaveBeforeItGoes(context);
+}
+
 }  // namespace
 
 bool Shutdown(Context& context) {
     Session& session = context.session;
     context.services.progress.Close();
     if (context.services.windows.TimerArmed(kSplashTimer)) CloseSplash(context);
-    if (session.plan.PlanModified) {
+    if (IsUnsaved(session.plan)) {
         const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes) SaveFlightplanCommand(context);
+        if (answer == MessageAnswer::Yes && !SavePlanInFrame(context)) return false;
     }
-    if (session.project.ProjectModified) {
+    if (IsUnsaved(session.project)) {
         const MessageAnswer answer = AskToSave(context, "Save the modified Project?");
         if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes && !SaveProject(context)) return false;
+        if (answer == MessageAnswer::Yes && !SaveProjectBeforeItGoes(context)) return false;
     }
     BusyForm busy(context, context.forms.frmMain, kCleaningStages);
     WriteSettings(context);

@@ -7,6 +7,7 @@
 #include "core/Application.h"
 #include "shell/PaneFacts.h"
 #include "shell/SettingsMirror.h"
+#include "shell/SystemEnd.h"
 #include "shell/Tabs.h"
 #include "shell/Title.h"
 
@@ -85,6 +86,7 @@ bool StartUp(Context& context) {
     context.frame.limits.AddWindowLimits(form, kMainWindowLimits);
     form.systemMenuAbout = true;
     RefreshTitle(context);
+    TellSystemEnd(context);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/Title.h"
 
 #include "core/Path.h"
+#include "mainwindow/SavePlan.h"
 
 namespace orlo {
 
@@ -8,7 +9,7 @@ void RefreshTitle(Context& context) {
     const Session& session = context.session;
     MainForm& form = context.forms.frmMain;
     form.documentName = session.plan.PlanLoaded ? FileName(session.plan.FlightplanPath) : std::string();
-    form.documentModified = session.plan.PlanLoaded && session.plan.PlanModified;
+    form.documentModified = session.plan.PlanLoaded && IsUnsaved(session.plan);
 }
 
 }  // namespace orlo

@@ -76,7 +76,7 @@ bool SetChangedKeys(InitialisationFile& file, const FSAircraft& aircraft, const 
 // The variants of one aircraft.cfg, which stand together. The path of the file, or of its backup, where it
 // can't be written; else empty. A file is backed up only where it can be written.
 std::string WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FSAircraft> kept,
-                        FileSystem& files, bool backup) {
+                        FileSystem& files, const BackUpFile& backUp) {
     const std::string& path = aircraft.front().ConfigFile;
     const auto text = ReadWholeFile(files, path);
     if (!text) return path;
@@ -87,7 +87,7 @@ std::string WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FS
     if (file.Text() == *text) return {};
     const auto output = files.CreateReplacing(path);
     if (!output) return path;
-    if (backup && !BackUpOnce(files, path)) return BackupPath(path);
+    if (backUp && !backUp(path)) return BackupPath(path);
     return output->Write(file.Text()) && output->Commit() ? std::string() : path;
 }
 
@@ -101,14 +101,14 @@ FilePatch RadiusPatch(const FSAircraft& aircraft) {
 
 // The model is looked at again: it may have been exchanged since the scan, and then other bytes stand there.
 // Gives what WriteConfig does.
-std::string WriteRadius(const FSAircraft& aircraft, FileSystem& files, bool backup) {
+std::string WriteRadius(const FSAircraft& aircraft, FileSystem& files, const BackUpFile& backUp) {
     const std::string& path = aircraft.ModelFile;
     if (aircraft.ModelFormat == 0 || !files.FileExists(path)) return {};
     const ModelRadius found = ReadModelRadius(files, ParentFolder(aircraft.ConfigFile), aircraft.Model);
     if (found.Path != path || found.Format != aircraft.ModelFormat) return path;
     if (found.Radius == aircraft.Radius) return {};
     if (!files.PatchFile(path, {})) return path;
-    if (backup && !BackUpOnce(files, path)) return BackupPath(path);
+    if (backUp && !backUp(path)) return BackupPath(path);
     const FilePatch patch = RadiusPatch(aircraft);
     return files.PatchFile(path, {&patch, 1}) ? std::string() : path;
 }
@@ -138,19 +138,19 @@ void KeepConfig(FSAircraft& aircraft, FSAircraft& kept, FileSystem& files) {
 }  // namespace
 
 std::string SaveAircraft(std::vector<FSAircraft>& aircraft, std::vector<FSAircraft>& kept, FileSystem& files,
-                         bool backup) {
+                         const BackUpFile& backUp) {
     for (std::size_t first = 0, end = 0; first < aircraft.size(); first = end) {
         end = EndOfFile(aircraft, first);
         const std::span variants(&aircraft[first], end - first);
         if (AnyChanged(variants)) {
-            std::string failed = WriteConfig(variants, std::span(&kept[first], end - first), files, backup);
+            std::string failed = WriteConfig(variants, std::span(&kept[first], end - first), files, backUp);
             if (!failed.empty()) return failed;
             for (std::size_t place = first; place < end; ++place)
                 KeepConfig(aircraft[place], kept[place], files);
         }
         for (std::size_t place = first; place < end; ++place) {
             if (!aircraft[place].RadiusChanged) continue;
-            std::string failed = WriteRadius(aircraft[place], files, backup);
+            std::string failed = WriteRadius(aircraft[place], files, backUp);
             if (!failed.empty()) return failed;
             aircraft[place].RadiusChanged = false;
             kept[place].Radius = aircraft[place].Radius;

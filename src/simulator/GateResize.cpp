@@ -1,8 +1,8 @@
 #include "simulator/GateResize.h"
 
+#include <algorithm>
 #include <bit>
 
-#include "core/FileBackup.h"
 #include "core/Path.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
@@ -28,7 +28,8 @@ bool PlaceContains(const AirportRecord& place, std::string_view text) {
 
 bool CodeContains(std::string_view bytes, std::uint32_t body, std::string_view text) {
     ByteReader reader(bytes, body + kCodePosition);
-    return ContainsNoCase(ReadZeroText(reader), text);
+    const std::string_view code = reader.Bytes(std::min<std::size_t>(reader.Left(), kLongestBglText));
+    return ContainsNoCase(code.substr(0, code.find('\0')), text);
 }
 
 bool Qualifies(std::string_view bytes, std::uint32_t body, const AirportRecord& place,
@@ -79,9 +80,9 @@ void AddPatch(const BglSubRecord& parkings, const BglParkingBlock& block, const 
     gates.patches.push_back(std::move(patch));
 }
 
-bool ResizeFile(FileSystem& files, const std::string& path, const GateResize& resize, bool backup,
-                ResizeOutcome& outcome) {
-    if (backup && !BackUpOnce(files, path)) return false;
+bool ResizeFile(FileSystem& files, const std::string& path, const GateResize& resize,
+                const BackUpFile& backUp, ResizeOutcome& outcome) {
+    if (backUp && !backUp(path)) return false;
     const auto bytes = ReadWholeFile(files, path);
     if (!bytes) return false;
     const ResizedGates gates = FindGates(*bytes, resize);
@@ -118,11 +119,11 @@ ResizedGates FindGates(std::string_view bytes, const GateResize& resize) {
 }
 
 ResizeOutcome ResizeAllFiles(FileSystem& files, const std::string& sceneryFolder, const GateResize& resize,
-                             bool backup) {
+                             const BackUpFile& backUp) {
     ResizeOutcome outcome;
     for (const std::string& name : SceneryFileNames(files, sceneryFolder)) {
         const std::string path = JoinPath(sceneryFolder, name);
-        if (!ResizeFile(files, path, resize, backup, outcome) && outcome.notWritten.empty())
+        if (!ResizeFile(files, path, resize, backUp, outcome) && outcome.notWritten.empty())
             outcome.notWritten = path;
     }
     return outcome;

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/FileBackup.h"
 #include "services/FileSystem.h"
 
 namespace orlo {
@@ -38,9 +39,9 @@ struct ResizeOutcome {
                              // the name of an airport that was left alone; empty where all went well
 };
 
-// Writes the radii into the scenery files of the folder, in place; all other bytes stay. With `backup` each
-// file is backed up once first, also one in which nothing changes. A file without its backup isn't written.
+// Writes the radii into the scenery files of the folder, in place; all other bytes stay. `backUp` is called
+// for each file first, also for one in which nothing changes; null for no backups.
 ResizeOutcome ResizeAllFiles(FileSystem& files, const std::string& sceneryFolder, const GateResize& resize,
-                             bool backup);
+                             const BackUpFile& backUp);
 
 }  // namespace orlo

@@ -23,6 +23,14 @@ TEST(ClockTime, TimesAreReadInTwentyFourHours) {
     EXPECT_EQ(FormatClockTime(std::int64_t{86400} * 1000000 + 3661), "01:01:01");
 }
 
+TEST(ClockTime, AnyMomentHasADate) {
+    const std::pair<std::int64_t, std::string_view> cases[] = {{-1, "1969-12-31 23:59:59"},
+                                                               {951'782'400, "2000-02-29 00:00:00"},
+                                                               {INT64_MIN, "0000-01-01 00:00:00"},
+                                                               {INT64_MAX, "9999-12-31 23:59:59"}};
+    for (const auto& [seconds, written] : cases) EXPECT_EQ(FormatDateTime(seconds), written);
+}
+
 TEST(ClockTime, WeekTimesHaveADayInFront) {
     const std::pair<std::string_view, std::string_view> cases[] = {
         {"0/00:00:00", "0/00:00:00"}, {"6/23:59:59", "6/23:59:59"}, {"3/7:05", "3/07:05:00"}};

@@ -58,7 +58,7 @@ TEST(FlightplanFile, AReadAndAWriteChangeALineAsTheFormSays) {
         test::FakeWorld world;
         const Plan plan = ReadText(world, c.line);
         EXPECT_EQ(plan.FlightCount(), c.written.empty() ? 0 : 1) << c.name;
-        EXPECT_TRUE(WriteFlightplan(world.files, kPlanPath, plan.Flights, false).Complete()) << c.name;
+        EXPECT_TRUE(WriteFlightplan(world.files, kPlanPath, plan.Flights).Complete()) << c.name;
         const std::string& written = c.written == same ? c.line : c.written;
         EXPECT_EQ(world.files.files[kPlanPath], written.empty() ? "" : written + "\r\n") << c.name;
     }
@@ -101,7 +101,7 @@ TEST(FlightplanFile, AllLegsOfAVeryLongLineAreKept) {
     const Plan plan = ReadText(world, line + "\r\n");
     ASSERT_EQ(plan.FlightCount(), 1);
     EXPECT_EQ(plan.Flights.At(0).LegCount, 200'000);
-    WriteFlightplan(world.files, kPlanPath, plan.Flights, false);
+    WriteFlightplan(world.files, kPlanPath, plan.Flights);
     EXPECT_EQ(world.files.files[kPlanPath], line + "\r\n");
 }
 
@@ -111,16 +111,15 @@ TEST(FlightplanFile, RemovedFlightsGoToTheirOwnFileWhichASaveWithoutThemDeletes)
     const std::string line = kTwoLegs + "\r\n";
     Plan plan = ReadText(world, line + line);
     plan.Flights.SetRemoved(0, true);
-    const PlanWriteResult result = WriteFlightplan(world.files, kPlanPath, plan.Flights, true);
+    const PlanWriteResult result = WriteFlightplan(world.files, kPlanPath, plan.Flights);
     EXPECT_TRUE(result.Complete());
     EXPECT_EQ(result.RemovedCount, 1);
     EXPECT_EQ(files[kPlanPath], line);
     EXPECT_EQ(files[kRemovedPath], line);
 
     plan.Flights.SetRemoved(0, false);
-    WriteFlightplan(world.files, kPlanPath, plan.Flights, true);
+    WriteFlightplan(world.files, kPlanPath, plan.Flights);
     EXPECT_FALSE(files.contains(kRemovedPath));
-    EXPECT_EQ(files[kPlanPath + ".orlo.bak"], line + line) << "the first backup stays";
 }
 
 }  // namespace

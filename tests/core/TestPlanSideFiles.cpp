@@ -56,13 +56,12 @@ TEST(PlanSideFiles, ACodeThatStandsTwiceKeepsBothLinesAndItsFirstPlace) {
               "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder.");
 }
 
-TEST(PlanSideFiles, AWriteBacksTheOldFileUp) {
+TEST(PlanSideFiles, AWriteTakesTheFileAsTheDiskSpellsIt) {
     const std::string before = "; old\r\nAC#1,450,\"A\"\r\n";
     SideFiles world("/plan/AIRCRAFT.TXT", before);
     world.plan.PlanAircrafts[0].CruiseSpeed = "300";
-    EXPECT_TRUE(WritePlanAircraft(world.plan, world.files, true));
+    EXPECT_TRUE(WritePlanAircraft(world.plan, world.files));
     EXPECT_EQ(world.files.files["/plan/AIRCRAFT.TXT"], "AC#1,300,\"A\"\r\n");
-    EXPECT_EQ(world.files.files["/plan/Aircraft.txt.orlo.bak"], before);
 }
 
 }  // namespace

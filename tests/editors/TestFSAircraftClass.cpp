@@ -46,7 +46,7 @@ TEST(FSAircraftEditor, AfterAFailedSaveUndoBringsBackWhatIsNotInTheFiles) {
         program.Type(form.txtTitle, "B");
         program.Choose(form.cmClass, "Huge Jet");
         EXPECT_EQ(program.session.fleet.FSAircrafts[0].Class, kClassHugeJet);
-        files.commitsBeforeKill = 1;
+        files.commitsBeforeKill = 3;  // aircraft.cfg and both backups
         program.Press(form.cmdSave);
         EXPECT_TRUE(form.cmdSave.enabled);
         program.Press(form.cmdUndo);

@@ -44,7 +44,7 @@ TEST(TextEditor, OnlyOkTakesWhatWasTyped) {
         std::ostringstream out;
         ConsoleHost host(files, out, false, false);
         test::FakeWorld world{{.frontEnd = &host}};
-        Program program{world.services, "/program"};
+        Program program{world.services, "/program", "/state"};
         std::istringstream script(lines);
         ScriptRunner runner(program, host, script, out, out, false);
         MainForm& main = program.forms.frmMain;

@@ -69,7 +69,8 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
              "cmdAddFlight cmdDeleteFlight cmdTTShow cmdTTPrint cmdTTSave cmdTTStatistics "
              "lblProjectDescription lblProjectFile lblProjectAC cmdProjectFile cmdProjectAC cmdProjectAdd "
              "cmdProjectDelete cmdProjectMerge cmdProjectCompile mnuFile mnuTools mnuView mnuHelp cmdSysInfo "
-             "cmdAdd cmdDelete cmdUndo cmdPrint mnuToolsSimulatorFolder",
+             "cmdAdd cmdDelete cmdUndo cmdPrint mnuToolsSimulatorFolder mnuHelpKeptFiles cmdRestore "
+             "cmdShowFolder",
              ' ')) {
         const Control* mine = nullptr;
         for (const Form* form : FormsOf(forms)) {

@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<FSAircraft> kept = session.fleet.FSAircrafts;
     session.fleet.FSAircrafts.front().Title = "Renamed";
     session.fleet.FSAircrafts.front().Changed = true;
-    const bool saved = SaveAircraft(session.fleet.FSAircrafts, kept, files, false).empty();
+    const bool saved = SaveAircraft(session.fleet.FSAircrafts, kept, files, nullptr).empty();
     const std::string& after = files.files[JoinPath("a", "aircraft.cfg")];
     if (!saved && after != text) __builtin_trap();
     const auto before = test::LinesWithEnds(text);

@@ -9,7 +9,7 @@
 namespace {
 
 std::string Written(orlo::test::FakeWorld& world, const orlo::FlightList& flights) {
-    orlo::WriteFlightplan(world.files, "/out/plan.txt", flights, false);
+    orlo::WriteFlightplan(world.files, "/out/plan.txt", flights);
     return world.files.files["/out/plan.txt"];
 }
 

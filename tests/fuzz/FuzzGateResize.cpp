@@ -10,7 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace orlo;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     for (std::int32_t code = 0; code < 16; ++code) {
-        const ResizedGates gates = FindGates(bytes, {code, 12.5F, code % 2 == 0 ? "" : "a", ""});
+        const ResizedGates gates =
+            FindGates(bytes, {code, 12.5F, code % 2 == 0 ? "" : "a", code % 3 == 0 ? "" : "b"});
         std::string patched(bytes);
         for (const FilePatch& patch : gates.patches) {
             if (patch.position > size || patch.bytes.size() > size - patch.position) __builtin_trap();

@@ -13,6 +13,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     world.files.files["/plan/Airports.txt"] = text;
     ReadPlanAircraft(plan, world.services);
     ReadPlanAirports(plan, world.services);
-    WritePlanAircraft(plan, world.files, true);
+    WritePlanAircraft(plan, world.files);
     return 0;
 }

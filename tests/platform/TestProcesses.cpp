@@ -9,6 +9,7 @@
 
 #include "platform/TemporaryFolder.h"
 #include "platform/common/ProgramKind.h"
+#include "platform/posix/EndSignals.h"
 #include "platform/posix/PosixProcesses.h"
 
 namespace orlo {
@@ -161,7 +162,11 @@ TEST_F(Processes, AnInterruptIsCountedWhileAToolLivesAndReachesItNot) {
         EXPECT_TRUE(tool->Interrupted());
         EXPECT_FALSE(tool->Wait(20));
         tool->End();
-        EXPECT_FALSE(Start(Tool("exit 0"))->Interrupted()) << "a later tool";
+        const auto later = Start(Tool("exit 0"));
+        EXPECT_FALSE(later->Interrupted());
+        const EndSignals end;
+        raise(SIGTERM);
+        EXPECT_TRUE(later->Interrupted()) << "the program has to end, so no tool may keep it";
     }
     struct sigaction after {};
     sigaction(SIGINT, nullptr, &after);

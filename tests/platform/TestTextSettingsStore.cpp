@@ -109,20 +109,29 @@ TEST(TextSettingsStore, ItsFolderIsMadeAndAFileThatCannotBeReadIsNotReplaced) {
 }
 
 TEST(UserFolders, VariablesWithFullPathsComeBeforeTheHomeFolder) {
-    EXPECT_EQ(test::RunInChild([] {
-                  const auto all = [] {
-                      return Concat(UserSettingsPath(), " ", UserDataFolder(), " ", WinePrefixFolder());
-                  };
-                  setenv("HOME", "/home/me", 1);
-                  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "WINEPREFIX"}) unsetenv(name);
-                  if (all() != "/home/me/.config/orlo/settings.txt /home/me/.local/share/orlo /home/me/.wine")
-                      return 1;
-                  setenv("XDG_CONFIG_HOME", "/cfg", 1);
-                  setenv("XDG_DATA_HOME", "relative", 1);
-                  setenv("WINEPREFIX", "/games/wine", 1);
-                  return all() == "/cfg/orlo/settings.txt /home/me/.local/share/orlo /games/wine" ? 0 : 2;
-              }),
-              0);
+    EXPECT_EQ(
+        test::RunInChild([] {
+            const auto all = [] {
+                return Concat(UserSettingsPath(), " ", UserDataFolder(), " ", UserKeptFolder(), " ",
+                              WinePrefixFolder());
+            };
+            setenv("HOME", "/home/me", 1);
+            for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "WINEPREFIX"})
+                unsetenv(name);
+            if (all() !=
+                "/home/me/.config/orlo/settings.txt /home/me/.local/share/orlo "
+                "/home/me/.local/state/orlo/kept /home/me/.wine")
+                return 1;
+            setenv("XDG_CONFIG_HOME", "/cfg", 1);
+            setenv("XDG_DATA_HOME", "relative", 1);
+            setenv("XDG_STATE_HOME", "/state", 1);
+            setenv("WINEPREFIX", "/games/wine", 1);
+            return all() == "/cfg/orlo/settings.txt /home/me/.local/share/orlo /state/orlo/kept "
+                            "/games/wine"
+                       ? 0
+                       : 2;
+        }),
+        0);
 }
 
 }  // namespace

@@ -127,7 +127,7 @@ inline EventTable SampleEvents() {
 struct DesktopProgram {
     DesktopHost host;
     FakeWorld world{{.frontEnd = &host}};
-    Program program{world.services, "/program"};
+    Program program{world.services, "/program", "/state"};
     Context& context = program.context;
     SampleForm form;
 

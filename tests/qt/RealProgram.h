@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "core/Application.h"
 #include "core/Path.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/MainLayout.h"
@@ -47,7 +48,7 @@ struct RealProgram {
         : system(std::move(systemOf)),
           owned(std::move(hostOf)),
           host(*owned),
-          program(services, JoinPath(world, "Program")) {
+          program(services, JoinPath(world, "Program"), JoinPath(world, kKeptFolderName)) {
         host.Attach(program.pump, program.forms.frmProgress);
         DesignMainForm(form);
     }

@@ -184,5 +184,50 @@ TEST_F(Dialogs, AnExceptionThatStraysWithinAModalFormLeavesItOpen) {
     EXPECT_EQ(form.Ran("Click ckSwitch"), 1);
 }
 
+// Each is open in an operation when the system asks for the end; nobody answers.
+TEST_F(Dialogs, AnEndThatNobodyIsAskedAboutClosesWhateverIsOpen) {
+    SampleForm above("frmAbove");
+    desktop.program.pump.AddTable(above, test::SampleEvents());
+    MessageAnswer answer = MessageAnswer::None;
+    const auto ask = [&] {
+        answer = desktop.host.ShowMessage("Sure?", kButtonsYesNo | kMarkQuestion, "Orlo", nullptr);
+    };
+    above.on["Click cmdGo"] = [&](Context&, Event&) { ask(); };
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"nothing", [] {}},
+        {"a question and another behind it", [&] { (ask(), ask()); }},
+        {"a dialog for a file", [&] { EXPECT_EQ(desktop.host.ShowSaveDialog({}), ""); }},
+        {"a question of a form",
+         [&] {
+             QTimer::singleShot(0, &desktop.host, [&] {
+                 desktop.host.Post({&above, &above.cmdGo, EventKind::Click});
+             });
+             desktop.host.ShowModal(above, nullptr);
+         }},
+        {"an operation that lets events run",
+         [&] {
+             for (int i = 0; i < 10; ++i) QTest::qWait(10);
+             EXPECT_FALSE(form.closeRequest);
+         }},
+    };
+    for (const auto& [what, open] : cases) {
+        SCOPED_TRACE(what);
+        form.closeRequest = false;
+        bool ended = false;
+        form.on["Click cmdGo"] = [&](Context&, Event&) {
+            desktop.host.EndUnasked();
+            open();
+            ended = true;
+        };
+        desktop.host.Post({&form, &form.cmdGo, EventKind::Click});
+        desktop.host.RunUntilClosed(form);
+        EXPECT_TRUE(ended);
+        EXPECT_TRUE(desktop.host.EndedUnasked());
+    }
+    EXPECT_EQ(answer, MessageAnswer::No);
+    EXPECT_EQ(above.Ran("Click cmdGo"), 1);
+    EXPECT_EQ(above.Ran("Close form") + form.Ran("Close form"), 0);
+}
+
 }  // namespace
 }  // namespace orlo

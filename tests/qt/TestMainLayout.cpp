@@ -26,7 +26,7 @@ constexpr int kTolerance = 4;  // pixels, of controls of unlike heights in one r
 struct MainWindow {
     DesktopHost host;
     test::FakeWorld world{{.frontEnd = &host}};
-    Program program{world.services, "/program"};
+    Program program{world.services, "/program", "/state"};
     MainForm& form = program.forms.frmMain;
 
     explicit MainWindow(WindowBox stored = {}) {

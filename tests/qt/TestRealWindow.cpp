@@ -14,6 +14,7 @@
 #include <sstream>
 
 #include "console/ScriptRunner.h"
+#include "core/Application.h"
 #include "core/Text.h"
 #include "qt/RealProgram.h"
 #include "qt/WindowScript.h"
@@ -124,7 +125,7 @@ Outcome RunOnConsole(World& world, const Script& script) {
     std::ostringstream errors;
     ConsoleHost host(*system.files, said, false, false);
     Services services = system.Behind(host);
-    Program program(services, JoinPath(world.Path(), "Program"));
+    Program program(services, JoinPath(world.Path(), "Program"), JoinPath(world.Path(), kKeptFolderName));
     ScriptRunner runner(program, host, lines, said, errors, false);
     EXPECT_TRUE(StartUp(program.context));
     runner.Run();

@@ -27,7 +27,7 @@ struct RealWorld {
     fs::path folder;
     PosixFileSystem files;
     test::FakeWorld fakes{{.files = &files}};
-    Program program{fakes.services, (folder / "Program").string()};
+    Program program{fakes.services, (folder / "Program").string(), (folder / "kept").string()};
 
     static fs::path Source() { return fs::path(ORLO_SOURCE_DIR) / ".." / "shared" / "real"; }
 

@@ -26,7 +26,11 @@ struct AircraftSave : testing::Test {
         for (const std::string folder : {"a", "b"}) ReadAircraftFolder(fleet, {}, files, folder, true);
         kept = fleet.FSAircrafts;
     }
-    std::string Save(bool backup = true) { return SaveAircraft(fleet.FSAircrafts, kept, files, backup); }
+    std::string Save(bool backup = true) {
+        BackUpFile backUp;
+        if (backup) backUp = [this](const std::string& path) { return BackUpOnce(files, path); };
+        return SaveAircraft(fleet.FSAircrafts, kept, files, backUp);
+    }
     FSAircraft& Edit(std::size_t place) {
         fleet.FSAircrafts[place].Changed = true;
         return fleet.FSAircrafts[place];

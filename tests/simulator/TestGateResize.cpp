@@ -62,7 +62,7 @@ TEST(GateResize, TheFiltersChooseTheAirportsAndTheClassTheGatesOfTheFirstBlock) 
         std::string& file = files.files[JoinPath("s", "AP1.Bgl")];
         file = world;
         const GateResize resize{kGateMedium, 5, std::string(c.search), std::string(c.code)};
-        const ResizeOutcome outcome = ResizeAllFiles(files, "s", resize, false);
+        const ResizeOutcome outcome = ResizeAllFiles(files, "s", resize, nullptr);
         EXPECT_EQ(outcome.count, c.count) << c.search << '|' << c.code;
         EXPECT_EQ(outcome.notWritten, "");
         EXPECT_EQ(Radii(file), c.radii) << c.search << '|' << c.code;
@@ -80,7 +80,7 @@ TEST(GateResize, AnAirportThatCountsMoreThanItHoldsIsLeftAloneAndNamed) {
     test::MemoryFileSystem files;
     std::string& file = files.files[JoinPath("s", "a.bgl")];
     file = builder.Build();
-    const ResizeOutcome outcome = ResizeAllFiles(files, "s", {kGateMedium, 7, "", ""}, false);
+    const ResizeOutcome outcome = ResizeAllFiles(files, "s", {kGateMedium, 7, "", ""}, nullptr);
     EXPECT_EQ(outcome.count, 1);
     EXPECT_EQ(outcome.notWritten, Concat(JoinPath("s", "a.bgl"), ", Liar"));
     EXPECT_EQ(Radii(file), (std::vector<float>{1, 7}));
@@ -89,11 +89,12 @@ TEST(GateResize, AnAirportThatCountsMoreThanItHoldsIsLeftAloneAndNamed) {
 TEST(GateResize, EachSceneryFileIsBackedUpOnceAndOneWithoutABackupIsNotWritten) {
     test::MemoryFileSystem files;
     const std::string path = JoinPath("s", "a.bgl");
+    const BackUpFile backUp = [&files](const std::string& file) { return BackUpOnce(files, file); };
     files.files[path] = World();
     files.files[JoinPath("s", "empty.BGL")] = "";
     files.files[JoinPath("s", "readme.txt")] = "text";
-    EXPECT_EQ(ResizeAllFiles(files, "s", {kGateMedium, 5, "", ""}, true).count, 3);
-    EXPECT_EQ(ResizeAllFiles(files, "s", {kGateMedium, 6, "", ""}, true).count, 3);
+    EXPECT_EQ(ResizeAllFiles(files, "s", {kGateMedium, 5, "", ""}, backUp).count, 3);
+    EXPECT_EQ(ResizeAllFiles(files, "s", {kGateMedium, 6, "", ""}, backUp).count, 3);
     EXPECT_EQ(files.files[path + ".orlo.bak"], World());
     EXPECT_TRUE(files.FileExists(JoinPath("s", "empty.BGL.orlo.bak")));
     EXPECT_EQ(files.files.size(), 5u);
@@ -101,7 +102,7 @@ TEST(GateResize, EachSceneryFileIsBackedUpOnceAndOneWithoutABackupIsNotWritten) 
     files.files.erase(path + ".orlo.bak");
     files.failCreate = true;
     const std::string before = files.files[path];
-    const ResizeOutcome outcome = ResizeAllFiles(files, "s", {kGateMedium, 7, "", ""}, true);
+    const ResizeOutcome outcome = ResizeAllFiles(files, "s", {kGateMedium, 7, "", ""}, backUp);
     EXPECT_EQ(outcome.count, 0);
     EXPECT_EQ(outcome.notWritten, path);
     EXPECT_EQ(files.files[path], before);

@@ -15,7 +15,7 @@ namespace orlo::test {
 
 struct FakeProgramParts {
     FakeWorld world;
-    Program program{world.services, "/program"};
+    Program program{world.services, "/program", "/state"};
 };
 
 // A program on fakes, with its main window open, and its user.

@@ -39,6 +39,12 @@ class MemoryFileSystem : public FileSystem {
         };
         return std::any_of(folders.begin(), folders.end(), isIt) || !ListFolder(path).empty();
     }
+    std::optional<FileStamp> Stamp(const std::string& path) override {
+        const auto found = files.find(Resolve(path));
+        if (found == files.end()) return std::nullopt;
+        const auto time = static_cast<std::int64_t>(std::hash<std::string>()(found->second));
+        return FileStamp{found->second.size(), time};
+    }
     std::optional<std::uint64_t> FileSize(const std::string& path) override {
         const auto found = files.find(Resolve(path));
         if (found == files.end()) return std::nullopt;
@@ -75,8 +81,8 @@ class MemoryFileSystem : public FileSystem {
     }
     bool CopyFile(const std::string& from, const std::string& to) override {
         if (!FileExists(from) || failCreate) return false;
-        files[Resolve(to)] = std::string(files[Resolve(from)]);
-        return true;
+        Writer copy(*this, Resolve(to), false);
+        return copy.Write(files[Resolve(from)]) && copy.Commit();
     }
     bool RenameFile(const std::string& from, const std::string& to) override {
         const auto found = files.find(Resolve(from));

@@ -19,6 +19,7 @@
 #include <set>
 #include <utility>
 
+#include "core/KeptFiles.h"
 #include "core/Path.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/EdgeStyle.h"
@@ -60,8 +61,12 @@ QPalette DarkPalette() {
 
 class Photographer {
   public:
-    Photographer(Program& program, DesktopHost& host, QString folder)
-        : program_(program), form_(program.forms.frmMain), host_(host), folder_(std::move(folder)) {
+    Photographer(Program& program, DesktopHost& host, FileSystem& files, QString folder)
+        : program_(program),
+          form_(program.forms.frmMain),
+          host_(host),
+          files_(files),
+          folder_(std::move(folder)) {
         QDir().mkpath(folder_);
         // Questions on the way are answered No.
         QObject::connect(&answering_, &QTimer::timeout, [] {
@@ -95,6 +100,7 @@ class Photographer {
         TakeModal(form_.mnuToolsResizeGates, program_.forms.frmResizeGates, "gates");
         TakeTextEditor();
         TakeAirportTools();
+        TakeKeptFiles();
         return AllTaken();
     }
 
@@ -282,6 +288,30 @@ class Photographer {
         while (search.visible) Settle();
     }
 
+    // As after some weeks of work.
+    void TakeKeptFiles() {
+        const std::string plans = ParentFolder(program_.session.plan.FlightplanPath);
+        const struct {
+            std::int64_t when;
+            const char* before;
+            std::vector<std::string> paths;
+        } kKept[] = {
+            {1'795'080'127,
+             "Save Flightplan",
+             {JoinPath(plans, "FlightPlans.txt"), JoinPath(plans, "Aircraft.txt")}},
+            {1'795'204'980, "Save Project", {program_.session.project.ProjectPath}},
+            {1'795'631'684,
+             "Decompile",
+             {JoinPath(plans, "FlightPlans.txt"), JoinPath(plans, "Aircraft.txt"),
+              JoinPath(plans, "Airports.txt")}},
+        };
+        const bool before = !ReadKeptEntries(files_, program_.session.StateFolder).empty();
+        for (const auto& [when, reason, paths] : kKept) {
+            if (!before) KeepFiles(files_, program_.session.StateFolder, when, reason, paths);
+        }
+        TakeModal(form_.mnuHelpKeptFiles, program_.forms.frmKeptFiles, "kept");
+    }
+
     // One of them isn't installed. The dialog puts a copy of the records back.
     void TakePlanAircraft() {
         std::vector<PlanAircraft>& aircraft = program_.session.plan.PlanAircrafts;
@@ -293,6 +323,7 @@ class Photographer {
     Program& program_;
     MainForm& form_;
     DesktopHost& host_;
+    FileSystem& files_;
     QString folder_;
     QTimer answering_;
     std::set<const Form*> taken_;
@@ -304,11 +335,11 @@ int Run(const QStringList& words) {
                           kSeed);
     DesktopHost host;
     Services services = system.Behind(host);
-    Program program(services, world + "/Program");
+    Program program(services, world + "/Program", world + "/kept");
     host.Attach(program.pump, program.forms.frmProgress);
     DesignMainForm(program.forms.frmMain);
     if (!StartUp(program.context)) return 1;
-    const bool all = Photographer(program, host, words[2])
+    const bool all = Photographer(program, host, *system.files, words[2])
                          .TakeAll(world + "/Plan/FlightPlans.txt", words.mid(3).contains("least"));
     host.Detach();
     return all ? 0 : 1;

@@ -75,6 +75,14 @@ bool PosixFileSystem::FolderExists(const std::string& path) {
     return facts && S_ISDIR(facts->st_mode);
 }
 
+std::optional<FileStamp> PosixFileSystem::Stamp(const std::string& path) {
+    constexpr std::int64_t kNanoseconds = 1'000'000'000;
+    const auto facts = FactsOf(path);
+    if (!facts || S_ISDIR(facts->st_mode)) return std::nullopt;
+    return FileStamp{static_cast<std::uint64_t>(facts->st_size),
+                     facts->st_mtim.tv_sec * kNanoseconds + facts->st_mtim.tv_nsec};
+}
+
 std::optional<std::uint64_t> PosixFileSystem::FileSize(const std::string& path) {
     const auto facts = FactsOf(path);
     if (!facts || S_ISDIR(facts->st_mode)) return std::nullopt;

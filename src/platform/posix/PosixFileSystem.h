@@ -13,6 +13,7 @@ class PosixFileSystem : public FileSystem {
     std::string FromDrivePath(const std::string& path) override;
     bool FileExists(const std::string& path) override;
     bool FolderExists(const std::string& path) override;
+    std::optional<FileStamp> Stamp(const std::string& path) override;
     std::optional<std::uint64_t> FileSize(const std::string& path) override;
     std::unique_ptr<InputFile> OpenForReading(const std::string& path) override;
     std::unique_ptr<OutputFile> CreateReplacing(const std::string& path) override;

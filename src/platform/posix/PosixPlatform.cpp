@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/common/TextSettingsStore.h"
+#include "platform/posix/EndSignals.h"
 #include "platform/posix/LargePageMemory.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixMachineSettings.h"
@@ -38,6 +39,14 @@ std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem& files, const std:
 
 std::string FindProgramFolder(FileSystem& files) {
     return FindProgramFolder(files, ExecutablePath(), UserDataFolder());
+}
+
+std::string UserStateFolder() {
+    return UserKeptFolder();
+}
+
+std::unique_ptr<EndWatch> WatchForEnd() {
+    return std::make_unique<EndSignals>();
 }
 
 std::pmr::memory_resource& ListMemory() {

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 
+#include "platform/posix/EndSignals.h"
 #include "platform/posix/MarkedProcesses.h"
 
 namespace orlo {
@@ -65,6 +66,10 @@ void PosixTool::End() {
     // A process within a broken driver can't even be ended by force.
     if (!Wait(static_cast<int>(kGrace.count()))) LetGo();
     if (ExitCode() == 0) exitCode_ = kSignalled + SIGTERM;
+}
+
+bool PosixTool::Interrupted() const {
+    return watch_.Interrupted() || EndSignals::Noted();
 }
 
 void PosixTool::LetGo() {

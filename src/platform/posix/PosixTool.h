@@ -27,7 +27,7 @@ class PosixTool : public RunningTool {
     bool Wait(int milliseconds) override;
     void End() override;
     std::int32_t ExitCode() const override { return exitCode_.value_or(0); }
-    bool Interrupted() const override { return watch_.Interrupted(); }
+    bool Interrupted() const override;
 
   private:
     bool HasEnded() const;

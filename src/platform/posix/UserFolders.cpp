@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "core/Application.h"
 #include "core/Path.h"
 
 namespace orlo {
@@ -51,6 +52,11 @@ std::string UserDataFolder() {
 std::string UserSettingsPath() {
     const std::string folder = OwnFolder(FolderOf("XDG_CONFIG_HOME", ".config"));
     return folder.empty() ? std::string() : JoinPath(folder, "settings.txt");
+}
+
+std::string UserKeptFolder() {
+    const std::string folder = OwnFolder(FolderOf("XDG_STATE_HOME", ".local/state"));
+    return folder.empty() ? std::string() : JoinPath(folder, kKeptFolderName);
 }
 
 std::string WinePrefixFolder() {

@@ -10,6 +10,8 @@ namespace orlo {
 std::string UserDataFolder();    // "$XDG_DATA_HOME/orlo" or "~/.local/share/orlo"
 std::string UserSettingsPath();  // "$XDG_CONFIG_HOME/orlo/settings.txt" or "~/.config/orlo/settings.txt"
 
+std::string UserKeptFolder();  // "$XDG_STATE_HOME/orlo/kept" or "~/.local/state/orlo/kept"
+
 // "$WINEPREFIX" or "~/.wine".
 std::string WinePrefixFolder();
 

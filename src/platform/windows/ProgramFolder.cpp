@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/Application.h"
 #include "core/Path.h"
 #include "core/Text.h"
 #include "platform/windows/SystemHeader.h"
@@ -17,6 +18,14 @@ namespace {
 constexpr std::size_t kLongestPath = 64 * 1024;
 constexpr std::string_view kOwnName = "Orlo";
 
+// Empty where the system doesn't tell.
+std::string LocalDataFolder() {
+    PWSTR found = nullptr;
+    const HRESULT status = SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &found);
+    const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> folder(found, &CoTaskMemFree);
+    return status == S_OK ? PlainPath(folder.get()) : std::string();
+}
+
 }  // namespace
 
 std::string ExecutablePath() {
@@ -30,10 +39,14 @@ std::string ExecutablePath() {
 }
 
 std::string UserDataFolder() {
-    PWSTR found = nullptr;
-    const HRESULT status = SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &found);
-    const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> folder(found, &CoTaskMemFree);
-    return status == S_OK ? JoinPath(PlainPath(folder.get()), kOwnName) : std::string();
+    const std::string folder = LocalDataFolder();
+    return folder.empty() ? folder : JoinPath(folder, kOwnName);
+}
+
+// Not in the program's folder, which is made whole or not at all.
+std::string UserKeptFolder() {
+    const std::string folder = LocalDataFolder();
+    return folder.empty() ? folder : JoinPath(JoinPath(folder, Concat(kOwnName, " State")), kKeptFolderName);
 }
 
 // Only a try tells, since permissions, a read-only disk or protected folders can forbid it.

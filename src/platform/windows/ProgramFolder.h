@@ -11,5 +11,7 @@ std::string ExecutablePath();
 
 // "Orlo" in the folder of local application data. Not made. Empty where the system knows none.
 std::string UserDataFolder();
+// "Orlo State\kept" there.
+std::string UserKeptFolder();
 
 }  // namespace orlo

@@ -29,12 +29,15 @@ class WindowsInput : public InputFile {
 struct Facts {
     bool isFolder = false;
     std::uint64_t size = 0;
+    std::int64_t time = 0;  // of the last write
 };
 
 template <typename Data>
 Facts FactsIn(const Data& data) {
+    const FILETIME& time = data.ftLastWriteTime;
     return {(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-            (std::uint64_t{data.nFileSizeHigh} << 32) + data.nFileSizeLow};
+            (std::uint64_t{data.nFileSizeHigh} << 32) + data.nFileSizeLow,
+            static_cast<std::int64_t>((std::uint64_t{time.dwHighDateTime} << 32) + time.dwLowDateTime)};
 }
 
 // The facts of what a link leads to.
@@ -77,6 +80,12 @@ bool WindowsFileSystem::FileExists(const std::string& path) {
 bool WindowsFileSystem::FolderExists(const std::string& path) {
     const auto facts = FactsOf(path);
     return facts && facts->isFolder;
+}
+
+std::optional<FileStamp> WindowsFileSystem::Stamp(const std::string& path) {
+    const auto facts = FactsOf(path);
+    if (!facts || facts->isFolder) return std::nullopt;
+    return FileStamp{facts->size, facts->time};
 }
 
 std::optional<std::uint64_t> WindowsFileSystem::FileSize(const std::string& path) {

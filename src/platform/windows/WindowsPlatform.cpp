@@ -5,6 +5,7 @@
 
 #include "platform/Platform.h"
 #include "platform/common/TextSettingsStore.h"
+#include "platform/windows/EndEvents.h"
 #include "platform/windows/ProgramFolder.h"
 #include "platform/windows/RegistrySettings.h"
 #include "platform/windows/SystemClock.h"
@@ -62,6 +63,14 @@ std::unique_ptr<SettingsStore> MakeMachineSettings(FileSystem&, const std::strin
 
 std::string FindProgramFolder(FileSystem& files) {
     return FindProgramFolder(files, ExecutablePath(), UserDataFolder());
+}
+
+std::string UserStateFolder() {
+    return UserKeptFolder();
+}
+
+std::unique_ptr<EndWatch> WatchForEnd() {
+    return std::make_unique<EndEvents>();
 }
 
 // Large pages need a right here that users don't have.

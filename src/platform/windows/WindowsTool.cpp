@@ -2,6 +2,7 @@
 
 #include <atomic>
 
+#include "platform/windows/EndEvents.h"
 #include "platform/windows/SystemHeader.h"
 
 namespace orlo {
@@ -31,6 +32,10 @@ InterruptWatch::~InterruptWatch() {
 
 bool InterruptWatch::Interrupted() const {
     return interrupts != before_;
+}
+
+bool WindowsTool::Interrupted() const {
+    return watch_.Interrupted() || EndEvents::Noted();
 }
 
 bool WindowsTool::Wait(int milliseconds) {

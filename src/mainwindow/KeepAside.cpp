@@ -1,0 +1,62 @@
+#include "mainwindow/KeepAside.h"
+
+#include <vector>
+
+#include "core/FileBackup.h"
+#include "core/KeptFiles.h"
+#include "core/TextLines.h"
+
+namespace orlo {
+namespace {
+
+bool Note(Context& context, const KeepResult& result) {
+    std::vector<std::string>& kept = context.session.kept.Kept;
+    kept.insert(kept.end(), result.paths.begin(), result.paths.end());
+    return result.outcome != Keeping::Failed;
+}
+
+}  // namespace
+
+bool KeepAside(Context& context, std::string_view reason, std::span<const std::string> paths,
+               std::string_view spared) {
+    return Note(context, KeepFiles(context.services.files, context.session.StateFolder,
+                                   context.services.clock.Now(), reason, paths, spared));
+}
+
+bool KeepAside(Context& context, std::string_view reason, const std::string& path) {
+    return KeepAside(context, reason, std::span(&path, 1));
+}
+
+bool KeepWhatGoes(Context& context, const KnownFiles& known, std::string_view reason,
+                  std::span<const std::string> paths) {
+    std::vector<std::string> going;
+    for (const std::string& path : paths) {
+        if (!known.MayGo(context.services.files, path)) going.push_back(path);
+    }
+    return going.empty() || KeepAside(context, reason, going);
+}
+
+bool KeepWhatGoes(Context& context, const KnownFiles& known, std::string_view reason,
+                  const std::string& path) {
+    return KeepWhatGoes(context, known, reason, std::span(&path, 1));
+}
+
+bool BackUpOrKeep(Context& context, std::string_view reason, const std::string& path) {
+    return BackUpOnce(context.services.files, path) || KeepAside(context, reason, path);
+}
+
+bool ReplaceAndKeep(Context& context, std::string_view reason, const std::string& path,
+                    std::string_view text) {
+    FileSystem& files = context.services.files;
+    KnownFiles& known = context.session.known;
+    if (!KeepWhatGoes(context, known, reason, path) || !ReplaceWholeFile(files, path, text)) return false;
+    known.Know(files, path, true);
+    return true;
+}
+
+bool KeepAside(Context& context, std::string_view reason, std::span<const KeptText> texts) {
+    return Note(context, KeepTexts(context.services.files, context.session.StateFolder,
+                                   context.services.clock.Now(), reason, texts));
+}
+
+}  // namespace orlo
