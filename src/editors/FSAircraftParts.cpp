@@ -1,5 +1,7 @@
 #include "editors/FSAircraftParts.h"
 
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,18 +34,40 @@ void ListFiles(FileSystem& files, const std::string& folder, const std::string& 
     }
 }
 
-void CopyOrReport(Context& context, const std::string& from, const std::string& to) {
-    FileSystem& files = context.services.files;
-    if (!files.CreateFolders(ParentFolder(to)) || !files.CopyFile(from, to)) ReportNotWritten(context, to);
+bool CopyInto(FileSystem& files, const std::string& from, const std::string& to) {
+    return files.CreateFolders(ParentFolder(to)) && files.CopyFile(from, to);
 }
 
-// All files are listed first: the new folder may lie in the old one.
+// Takes away what a copy has made, and nothing else.
+void DeleteCopy(FileSystem& files, const std::string& folder, const std::vector<std::string>& paths) {
+    std::set<std::string, std::greater<>> folders = {folder};  // those within others come first
+    for (const std::string& path : paths) {
+        files.DeleteFile(JoinPath(folder, path));
+        for (std::string in = ParentFolder(path); !in.empty(); in = ParentFolder(in))
+            folders.insert(JoinPath(folder, in));
+    }
+    for (const std::string& each : folders) files.DeleteEmptyFolder(each);
+}
+
+// A name beside the folder where nothing stands.
+std::string NameBeside(FileSystem& files, const std::string& folder) {
+    std::string name = Concat(folder, ".orlo-new");
+    while (files.FolderExists(name) || files.FileExists(name)) name += '1';
+    return name;
+}
+
+// Copies the folder beside its new place and renames it, so that there is all of it or nothing.
 void CopyFolder(Context& context, const std::string& from, const std::string& to) {
     FileSystem& files = context.services.files;
+    const std::string beside = NameBeside(files, to);
     std::vector<std::string> paths;
     ListFiles(files, from, "", 0, paths);
-    if (!files.CreateFolders(to)) ReportNotWritten(context, to);
-    for (const std::string& path : paths) CopyOrReport(context, JoinPath(from, path), JoinPath(to, path));
+    bool copied = files.CreateFolders(beside);
+    for (const std::string& path : paths)
+        copied = copied && CopyInto(files, JoinPath(from, path), JoinPath(beside, path));
+    if (copied && files.RenameFolder(beside, to)) return;
+    DeleteCopy(files, beside, paths);
+    ReportNotWritten(context, to);
 }
 
 bool Agrees(Context& context, std::string_view question) {
@@ -148,7 +172,7 @@ void OnLeaveAircraftSim(Context& context, Event&) {
     if (!files.FileExists(path) &&
         Agrees(context, "New AIR file does not exist. Would you like to copy the old file?")) {
         ForgetNotWritten(context);
-        CopyOrReport(context, PresentAirFile(*typed.aircraft, files), path);
+        if (!CopyInto(files, PresentAirFile(*typed.aircraft, files), path)) ReportNotWritten(context, path);
     }
     TakePart(context, typed, &FSAircraft::Sim);
 }

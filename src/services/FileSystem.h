@@ -103,6 +103,9 @@ class FileSystem {
     virtual bool CopyFile(const std::string& from, const std::string& to) = 0;  // replaces `to` whole
     // Replaces `to`, which is spelled as given.
     virtual bool RenameFile(const std::string& from, const std::string& to) = 0;
+    // To a name where nothing stands.
+    virtual bool RenameFolder(const std::string& from, const std::string& to) = 0;
+    virtual bool DeleteEmptyFolder(const std::string& path) = 0;
     virtual bool DeleteFile(const std::string& path) = 0;
     virtual bool CreateFolders(const std::string& path) = 0;  // with its parents; true when it stands
 

@@ -62,5 +62,29 @@ TEST(FSAircraftEditor, AfterAFailedSaveUndoBringsBackWhatIsNotInTheFiles) {
     EXPECT_EQ(program.form.sbMain.text, "Not written: [/program/ORLO_AC.CFG].");
 }
 
+TEST(FSAircraftEditor, AFolderIsCopiedWholeOrNotAtAll) {
+    for (const bool fails : {false, true}) {
+        test::FakeProgram program;
+        auto& files = program.world.files;
+        files.files["/sim/Aircraft/a/aircraft.cfg"] = "[fltsim.0]\ntitle=A\ntexture=old\n";
+        files.files["/sim/Aircraft/a/texture.old/one.bmp"] = "1";
+        files.files["/sim/Aircraft/a/texture.old/night/two.bmp"] = "22";
+        const auto before = files.files;
+        program.session.SimulatorFolder = "/sim";
+        program.inModal = [&] {
+            auto& form = program.program.forms.frmFSAircraftEdit;
+            files.failAfterBytes = fails ? 1 : -1;
+            program.world.messages.answers = {MessageAnswer::Yes};
+            program.Type(form.txtTexture, "new");
+            program.Leave(form.txtTexture);
+            files.failAfterBytes = -1;
+        };
+        ShowFSAircraftEditor(program.context);
+        EXPECT_EQ(files.files.contains("/sim/Aircraft/a/texture.new/night/two.bmp"), !fails);
+        EXPECT_EQ(files.FolderExists("/sim/Aircraft/a/texture.new"), !fails);
+        EXPECT_EQ(files.files.size(), before.size() + (fails ? 0 : 2));
+    }
+}
+
 }  // namespace
 }  // namespace orlo

@@ -92,6 +92,19 @@ class MemoryFileSystem : public FileSystem {
         files[to] = std::move(text);
         return true;
     }
+    bool RenameFolder(const std::string& from, const std::string& to) override {
+        if (FolderExists(to) || failCommit || commitsBeforeKill == 0) return false;
+        std::map<std::string, std::string> renamed;
+        for (auto& [name, text] : files) {
+            const bool inside = StartsWithNoCase(name, JoinPath(from, ""));
+            renamed[inside ? to + name.substr(from.size()) : name] = text;
+        }
+        files = std::move(renamed);
+        std::erase(folders, from);
+        folders.push_back(to);
+        return true;
+    }
+    bool DeleteEmptyFolder(const std::string& path) override { return std::erase(folders, path) > 0; }
     bool DeleteFile(const std::string& path) override {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }

@@ -129,6 +129,16 @@ bool PosixFileSystem::RenameFile(const std::string& from, const std::string& to)
     return rename(ResolveNames(from).c_str(), target.c_str()) == 0;
 }
 
+bool PosixFileSystem::RenameFolder(const std::string& from, const std::string& to) {
+    if (!FolderExists(from) || FileExists(to) || FolderExists(to) || !IsUsablePath(to)) return false;
+    const std::string target = JoinPath(ResolveNames(ParentFolder(to)), FileName(to));
+    return rename(ResolveNames(from).c_str(), target.c_str()) == 0;
+}
+
+bool PosixFileSystem::DeleteEmptyFolder(const std::string& path) {
+    return IsUsablePath(path) && rmdir(ResolveNames(path).c_str()) == 0;
+}
+
 bool PosixFileSystem::DeleteFile(const std::string& path) {
     // unlink refuses folders.
     return IsUsablePath(path) && unlink(ResolveNames(path).c_str()) == 0;

@@ -22,6 +22,8 @@ class PosixFileSystem : public FileSystem {
     bool PatchFile(const std::string& path, std::span<const FilePatch> patches) override;
     bool CopyFile(const std::string& from, const std::string& to) override;
     bool RenameFile(const std::string& from, const std::string& to) override;
+    bool RenameFolder(const std::string& from, const std::string& to) override;
+    bool DeleteEmptyFolder(const std::string& path) override;
     bool DeleteFile(const std::string& path) override;
     bool CreateFolders(const std::string& path) override;
     std::vector<FolderEntry> ListFolder(const std::string& path) override;

@@ -132,6 +132,18 @@ bool WindowsFileSystem::RenameFile(const std::string& from, const std::string& t
            MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
 }
 
+bool WindowsFileSystem::RenameFolder(const std::string& from, const std::string& to) {
+    const std::wstring source = SystemPath(from);
+    const std::wstring target = SystemPath(to);
+    return FolderExists(from) && !source.empty() && !target.empty() &&
+           MoveFileExW(source.c_str(), target.c_str(), 0) != 0;
+}
+
+bool WindowsFileSystem::DeleteEmptyFolder(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    return !systemPath.empty() && RemoveDirectoryW(systemPath.c_str()) != 0;
+}
+
 bool WindowsFileSystem::DeleteFile(const std::string& path) {
     const std::wstring systemPath = SystemPath(path);
     return !systemPath.empty() && DeleteFileW(systemPath.c_str()) != 0;
