@@ -9,6 +9,7 @@
 #include "core/AirlineRecords.h"
 #include "core/AirportRecord.h"
 #include "core/FlightList.h"
+#include "core/KeyedIndex.h"
 #include "core/KnownFiles.h"
 #include "core/Plan.h"
 #include "core/ProjectRecords.h"
@@ -83,6 +84,7 @@ struct ToolState {
 struct KeptState {
     std::vector<std::string> Kept;  // full paths, in the order in which they were kept
     std::string Told;               // the text about it at the end of the status bar
+    KeyedIndex<bool> StandIns;      // files of which this session keeps a copy in place of a backup
 };
 
 // The state of the running program.

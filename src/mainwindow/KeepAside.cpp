@@ -9,6 +9,8 @@
 namespace orlo {
 namespace {
 
+constexpr std::size_t kMostStandIns = 20;  // of one event
+
 bool Note(Context& context, const KeepResult& result) {
     std::vector<std::string>& kept = context.session.kept.Kept;
     kept.insert(kept.end(), result.paths.begin(), result.paths.end());
@@ -42,7 +44,9 @@ bool KeepWhatGoes(Context& context, const KnownFiles& known, std::string_view re
 }
 
 bool BackUpOrKeep(Context& context, std::string_view reason, const std::string& path) {
-    return BackUpOnce(context.services.files, path) || KeepAside(context, reason, path);
+    if (BackUpOnce(context.services.files, path)) return true;
+    // More would push each other out of the store.
+    return context.session.kept.Kept.size() < kMostStandIns && KeepAside(context, reason, path);
 }
 
 bool ReplaceAndKeep(Context& context, std::string_view reason, const std::string& path,

@@ -4,6 +4,7 @@
 
 #include "core/Application.h"
 #include "core/FileBackup.h"
+#include "core/Path.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
@@ -27,11 +28,22 @@ bool SecureOldFiles(Context& context) {
         const bool isDue = context.session.switches.BackupPlan && files.FileExists(path) &&
                            !files.FileExists(BackupPath(path));
         const bool backedUp = isDue && BackUpOnce(files, path);
-        if (!backedUp && (isDue || !plan.Known.MayGo(files, path))) going.push_back(path);
+        const bool needsStandIn = isDue && !context.session.kept.StandIns.Contains(path);
+        if (!backedUp && (needsStandIn || !plan.Known.MayGo(files, path))) going.push_back(path);
     }
     const std::string removed = RemovedFlightsPath(plan.FlightplanPath);
     if (!plan.Known.MayGo(files, removed)) going.push_back(removed);
-    return going.empty() || KeepAside(context, kSaveReason, going);
+    if (going.empty()) return true;
+    if (!KeepAside(context, kSaveReason, going)) return false;
+    for (const std::string& path : going) context.session.kept.StandIns.Add(path, true);
+    return true;
+}
+
+// What this session wrote under another name holds an earlier state of the plan.
+void ForgetOtherPlan(Plan& plan, const std::string& path) {
+    if (path == plan.FlightplanPath) return;
+    if (ParentFolder(path) != ParentFolder(plan.FlightplanPath)) plan.Known = {};
+    plan.Known.Forget(path);
 }
 
 // Whether all could be written.
@@ -121,6 +133,7 @@ void SaveFlightplanAs(Context& context) {
         AskForSavePath(context, "Save Flightplan as...", context.session.plan.FlightplanPath, kTextFileFilter,
                        ChosenFile::IsKeptByCaller);
     if (path.empty()) return;
+    ForgetOtherPlan(context.session.plan, path);
     context.session.plan.FlightplanPath = path;
     AddRecentFlightplan(context, context.session.plan.FlightplanPath);
     SaveFlightplanCommand(context);

@@ -1,5 +1,6 @@
 #include "projects/CompilePlan.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -69,12 +70,19 @@ void NameOutput(Context& context, const std::string& folder, const std::string& 
     if (!context.services.files.RenameFile(output, chosen)) ReportNotWritten(context, chosen);
 }
 
+// Where others may write too no tool is run but a fresh copy.
+bool IsTemporary(Context& context, const std::string& folder) {
+    return IsSameFolder(context.services.files, folder, context.services.processes.TemporaryFolder());
+}
+
 // The chosen file, and what the tool writes beside it. Without them nothing is deleted or run.
 bool KeepLists(Context& context, const std::string& chosen, const std::string& folder) {
     std::vector<std::string> paths;
     for (const std::string_view name : {kFlightPlansName, kAircraftName, kAirportsName})
         paths.push_back(JoinPath(folder, name));
-    if (!EqualNoCase(chosen, paths.front())) paths.push_back(chosen);
+    const auto isChosen = [&chosen](const std::string& path) { return EqualNoCase(path, chosen); };
+    if (std::none_of(paths.begin(), paths.end(), isChosen)) paths.push_back(chosen);
+    if (IsTemporary(context, folder)) paths.push_back(JoinPath(folder, kDecompiler));
     return KeepAside(context, "Decompile", paths);
 }
 
@@ -94,7 +102,7 @@ void Decompile(Context& context, const std::string& chosen) {
         return TellDecompiled(context, false);
     }
     files.DeleteFile(chosen);
-    const bool stands = files.FileExists(tool);
+    const bool stands = files.FileExists(tool) && !IsTemporary(context, folder);
     const bool copied = !stands && CopyToolInto(context, kDecompiler, folder);
     const ToolStart start{files.Resolve(tool), "/NP", folder, context.session.switches.ShowCompiler};
     const std::int32_t exitCode = stands || copied ? RunAndWait(context, start) : 0;

@@ -26,14 +26,14 @@ bool CopyAll(InputFile& source, OutputFile& target) {
     return target.Commit();
 }
 
+}  // namespace
+
 bool IsSameFolder(FileSystem& files, const std::string& a, const std::string& b) {
     const auto full = [&files](const std::string& path) {
         return std::string(WithoutTrailingSeparator(files.Resolve(files.FullPath(path))));
     };
     return full(a) == full(b);
 }
-
-}  // namespace
 
 bool ToolIsReady(Context& context, std::string_view tool, std::string_view missing) {
     Services& services = context.services;
@@ -83,6 +83,7 @@ bool CompilerFolder::MayPut(std::string_view name) {
     const bool stands = context_.services.files.FileExists(path);
     if (stands && (isOwn_ || !KeepAside(context_, "Compile", path))) {
         ReportNotWritten(context_, folder_);
+        refused_ = true;
         return false;
     }
     names_.push_back(name);
@@ -108,6 +109,7 @@ void CompilerFolder::CopyCompiler() {
 
 // What stands there instead of a copy that failed is another user's.
 std::int32_t CompilerFolder::Run() {
+    if (refused_) return 1;
     if (!hasCompiler_) return 0;
     const bool shown = context_.session.switches.ShowCompiler;
     return RunAndWait(context_, {JoinPath(folder_, kCompiler), shown ? "/EP" : "/NP", folder_, shown});

@@ -26,6 +26,9 @@ bool ToolIsReady(Context& context, std::string_view tool, std::string_view missi
 // Whether a file that can be read stands there, and no pipe or device.
 bool IsThere(FileSystem& files, const std::string& path);
 
+// Whether both are one folder.
+bool IsSameFolder(FileSystem& files, const std::string& a, const std::string& b);
+
 // Copies a file into a folder where others may write too, in place of what stands there under that name; no
 // link is followed. False where it can't be copied; the status bar then names the folder.
 bool CopyInto(Context& context, const std::string& from, const std::string& folder, std::string_view name);
@@ -48,7 +51,8 @@ class CompilerFolder {
     // A new file; null where there can be none.
     std::unique_ptr<OutputFile> Create(std::string_view name);
     void CopyCompiler();
-    // The exit code. Without a copy of the compiler nothing is run, which counts as 0.
+    // The exit code. Without a copy of the compiler nothing is run, which counts as 0; nor is it where a file of
+    // the user's or of others stands in the place of one that it needs, which counts as 1.
     std::int32_t Run();
 
   private:
@@ -59,6 +63,7 @@ class CompilerFolder {
     bool isOwn_;  // the user's files stand in it
     std::vector<std::string_view> names_;
     bool hasCompiler_ = false;
+    bool refused_ = false;  // what stands under a name must stay
 };
 
 }  // namespace orlo

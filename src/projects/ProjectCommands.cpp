@@ -52,7 +52,10 @@ void WriteInFrame(Context& context) {
 
 // False where what stands in no file can't be kept either.
 bool KeepUnwritten(Context& context) {
-    return !context.session.project.DiffersFromFile || KeepProjectInMemory(context, kSaveReason);
+    const ProjectState& project = context.session.project;
+    if (!project.DiffersFromFile || KeepProjectInMemory(context, kSaveReason)) return true;
+    ReportNotWritten(context, project.ProjectPath.empty() ? "Project" : project.ProjectPath);
+    return false;
 }
 
 // No where there is nothing to save.
@@ -124,6 +127,7 @@ bool OpenProject(Context& context, std::string path) {
     if (answer == MessageAnswer::Cancel) return false;
     if (answer == MessageAnswer::Yes) {
         // What the user agreed to save is kept from memory.
+        TakeProjectDescription(context);
         context.session.project.DiffersFromFile = true;
         SaveFlightplanInstead(context);
     }
@@ -155,6 +159,8 @@ bool SaveProjectAs(Context& context) {
     const std::string path = AskForSavePath(context, "Save Project as...", project.ProjectPath,
                                             kProjectFilter, ChosenFile::IsKeptByCaller);
     if (path.empty()) return false;
+    // What this session wrote there before is an earlier project.
+    if (path != project.ProjectPath) project.Known = {};
     project.ProjectPath = path;
     AddRecentProject(context, project.ProjectPath);
     WriteInFrame(context);
