@@ -27,8 +27,8 @@ namespace orlo {
                                 const std::string& path);
 
 // Backs the file up once (core/FileBackup.h); where that can't be done a kept copy stands in for the backup.
-// False where there can be neither, and after 20 kept files in one event, since more would push each other out
-// of the store: the file must then not be changed.
+// False where there can be neither, and after 20 kept files in one event, since more would push each other
+// out of the store: the file must then not be changed.
 [[nodiscard]] bool BackUpOrKeep(Context& context, std::string_view reason, const std::string& path);
 
 // For a file that is made anew in one piece: keeps what goes, replaces it and knows it. False, with the old

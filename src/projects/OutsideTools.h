@@ -51,8 +51,8 @@ class CompilerFolder {
     // A new file; null where there can be none.
     std::unique_ptr<OutputFile> Create(std::string_view name);
     void CopyCompiler();
-    // The exit code. Without a copy of the compiler nothing is run, which counts as 0; nor is it where a file of
-    // the user's or of others stands in the place of one that it needs, which counts as 1.
+    // The exit code. Without a copy of the compiler nothing is run, which counts as 0; nor is it where a file
+    // of the user's or of others stands in the place of one that it needs, which counts as 1.
     std::int32_t Run();
 
   private:
