@@ -13,7 +13,6 @@ class KnownFiles {
     // To be called right after a file was read or written. `whole`: what is in memory holds all of it, so
     // that a later write loses nothing. A file that isn't there is forgotten.
     void Know(FileSystem& files, const std::string& path, bool whole);
-    void Forget(const std::string& path) { files_.Remove(path); }
     // Whether nothing is lost where the file is replaced or deleted: none stands there, or it is known whole
     // and nobody has written it since.
     bool MayGo(FileSystem& files, const std::string& path) const;

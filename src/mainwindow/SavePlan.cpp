@@ -4,7 +4,6 @@
 
 #include "core/Application.h"
 #include "core/FileBackup.h"
-#include "core/Path.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/BusyForm.h"
 #include "mainwindow/EnabledControls.h"
@@ -39,11 +38,10 @@ bool SecureOldFiles(Context& context) {
     return true;
 }
 
-// What this session wrote under another name holds an earlier state of the plan.
+// What this session wrote under another name, or in another plan's folder, holds an earlier state of the
+// plan; so does the Aircraft.txt beside both.
 void ForgetOtherPlan(Plan& plan, const std::string& path) {
-    if (path == plan.FlightplanPath) return;
-    if (ParentFolder(path) != ParentFolder(plan.FlightplanPath)) plan.Known = {};
-    plan.Known.Forget(path);
+    if (path != plan.FlightplanPath) plan.Known = {};
 }
 
 // Whether all could be written.
