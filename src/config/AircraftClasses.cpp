@@ -6,6 +6,7 @@
 
 #include "config/RuleFile.h"
 #include "core/AircraftClassNames.h"
+#include "core/AircraftLimits.h"
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -75,13 +76,6 @@ void SetLimits(Limits& limits, const std::vector<std::string_view>& parts) {
     SetNumber(limits.MinParkingRadius, parts[8]);
     limits.ParkingTypes = parts[9];
     SetNumber(limits.IFRPercent, parts[10]);
-}
-
-template <typename Limits>
-std::string FormatLimits(std::string_view name, const Limits& limits) {
-    return Concat(name, ',', limits.CruiseSpeed, ',', limits.MinFL, ',', limits.MaxFL, ',', limits.MinRange,
-                  ',', limits.MaxRange, ',', limits.RunwayLength, ',', limits.RunwayTypes, ',',
-                  limits.MinParkingRadius, ',', limits.ParkingTypes, ',', limits.IFRPercent);
 }
 
 std::size_t ClassOfSection(std::string_view name) {

@@ -16,4 +16,9 @@ inline MessageAnswer ShowMessage(MessageHost& messages, std::string_view text, i
     return messages.ShowMessage(text, flags, kApplicationTitle, owner);
 }
 
+// Asks a question with Yes and No.
+inline bool UserAgrees(MessageHost& messages, std::string_view question, Form* owner) {
+    return ShowMessage(messages, question, kButtonsYesNo | kMarkQuestion, owner) == MessageAnswer::Yes;
+}
+
 }  // namespace orlo

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/Number.h"
+#include "core/ParkingClassNames.h"
 #include "core/Text.h"
 #include "simulator/BglText.h"
 #include "simulator/Feet.h"
@@ -45,18 +46,6 @@ constexpr std::array<std::string_view, 11> kSurfaces = {"Unknown", "Dirt",   "Co
 constexpr std::array<std::string_view, 14> kFrequencyTypes = {
     "Unkown",    "ATIS",    "Unkown",    "UNICOM", "ATF", "Ground", "Tower",
     "Clearance", "Arrival", "Departure", "Center", "FSS", "AWOS",   "ASOS"};
-constexpr std::array<std::string_view, 12> kParkingClasses = {"",
-                                                              "",
-                                                              "Ramp GA Small",
-                                                              "Ramp GA Medium",
-                                                              "Ramp GA Large",
-                                                              "Ramp Cargo",
-                                                              "Ramp Mil Cargo",
-                                                              "Ramp Mil Combat",
-                                                              "Gate Small",
-                                                              "Gate Medium",
-                                                              "Gate Heavy",
-                                                              "Dock GA"};
 constexpr std::array<std::string_view, 3> kPatterns = {"None", "Left", "Right"};
 // The classes of parkings in the order in which they are counted.
 constexpr std::array<std::int32_t, 10> kCountedClasses = {10, 9, 8, 11, 4, 3, 2, 5, 6, 7};
@@ -188,14 +177,14 @@ void AppendParkings(std::string& out, const AirportRecord& airport) {
         const auto count =
             std::count_if(airport.Parkings.begin(), airport.Parkings.end(),
                           [&](const ParkingRecord& parking) { return parking.Class == counted; });
-        const std::string label = Concat(WordOf(kParkingClasses, counted), ":");
+        const std::string label = Concat(WordOf(kParkingClassNames, counted), ":");
         out.append(Concat("\t", PadRight(label, kCountWidth), count, kLineEnd));
     }
     out.append(kLineEnd);
     AppendHeader(out, kParkingColumns);
     for (const ParkingRecord& parking : airport.Parkings) {
         AppendRow(out, kParkingColumns,
-                  {parking.Name, std::string(WordOf(kParkingClasses, parking.Class)),
+                  {parking.Name, std::string(WordOf(kParkingClassNames, parking.Class)),
                    Concat(FormatFixed(parking.Radius * kFeetPerMetre, 1), "ft"), Degrees(parking.Heading)});
     }
 }

@@ -71,8 +71,7 @@ void CopyFolder(Context& context, const std::string& from, const std::string& to
 }
 
 bool Agrees(Context& context, std::string_view question) {
-    return ShowMessage(context.services.messages, question, kButtonsYesNo | kMarkQuestion,
-                       &context.forms.frmFSAircraftEdit) == MessageAnswer::Yes;
+    return UserAgrees(context.services.messages, question, &context.forms.frmFSAircraftEdit);
 }
 
 void OfferFolder(Context& context, const std::string& from, const std::string& to,

@@ -103,10 +103,7 @@ void OnFlightPeriod(Context& context) {
     if (period.empty() || EqualNoCase(period, flight.Period)) return;
     const bool wasWeekly = IsWeekly(flight);
     if (wasWeekly) {
-        const MessageAnswer answer =
-            ShowMessage(context.services.messages, "Are you sure to remove the weekly flight?",
-                        kButtonsYesNo | kMarkQuestion, &form);
-        if (answer != MessageAnswer::Yes) {
+        if (!UserAgrees(context.services.messages, "Are you sure to remove the weekly flight?", &form)) {
             form.cmPeriod.SelectText("WEEK");
             return;
         }

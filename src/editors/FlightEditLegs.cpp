@@ -234,9 +234,7 @@ void DeleteLeg(Context& context) {
     FlightEditForm& form = context.forms.frmFlightEdit;
     const std::int32_t place = SelectedLeg(form);
     if (place <= 0 || place >= form.WorkingFlight.LegCount() - 1) return;
-    const MessageAnswer answer = ShowMessage(context.services.messages, "Are you sure to delete the leg?",
-                                             kButtonsYesNo | kMarkQuestion, &form);
-    if (answer != MessageAnswer::Yes) return;
+    if (!UserAgrees(context.services.messages, "Are you sure to delete the leg?", &form)) return;
     form.WorkingFlight.Legs.erase(form.WorkingFlight.Legs.begin() + place);
     FillLegRows(context);
     SelectLeg(context, place);

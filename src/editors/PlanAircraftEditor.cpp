@@ -95,8 +95,7 @@ void OnClosePlanAircraft(Context& context, Event& event) {
 }
 
 bool UserAgrees(Context& context, std::string_view question) {
-    return ShowMessage(context.services.messages, question, kButtonsYesNo | kMarkQuestion,
-                       &context.forms.frmAircraftEdit) == MessageAnswer::Yes;
+    return UserAgrees(context.services.messages, question, &context.forms.frmAircraftEdit);
 }
 
 void ShowPlanAircraft(Context& context) {

@@ -5,7 +5,7 @@ namespace {
 
 // In the order of the columns.
 enum PlanColumn : std::int32_t { kPlanNumber, kPlanSpeed, kPlanTitle };
-enum FSColumn : std::int32_t { kFSTitle, kFSType, kFSModel, kFSAirline };
+enum InstalledColumn : std::int32_t { kInstalledTitle, kInstalledType, kInstalledModel, kInstalledAirline };
 
 template <typename Record>
 const Record& At(const std::vector<Record>& records, std::int32_t row) {
@@ -42,16 +42,16 @@ AvailableAircraftRows::AvailableAircraftRows(const Plan& plan, const Fleet& flee
 void AvailableAircraftRows::AppendText(std::int32_t row, std::int32_t column, std::string& out) const {
     const FSAircraft& aircraft = At(fleet_.FSAircrafts, row);
     switch (column) {
-        case kFSTitle:
+        case kInstalledTitle:
             out.append(aircraft.Title);
             return;
-        case kFSType:
+        case kInstalledType:
             out.append(aircraft.ATCType);
             return;
-        case kFSModel:
+        case kInstalledModel:
             out.append(aircraft.ATCModel);
             return;
-        case kFSAirline:
+        case kInstalledAirline:
             out.append(aircraft.Airline);
             return;
     }

@@ -116,6 +116,11 @@ bool SaveBeforeItGoes(Context& context) {
     return !context.session.plan.DiffersFromFile || KeepPlanInMemory(context, kSaveReason);
 }
 
+bool SaveInFrameBeforeItGoes(Context& context) {
+    const BusyForm busy(context, context.forms.frmMain);
+    return SaveBeforeItGoes(context);
+}
+
 void SaveFlightplanCommand(Context& context) {
     const BusyForm busy(context, context.forms.frmMain);
     SaveFlightplan(context);

@@ -34,6 +34,8 @@ bool IsUnsaved(const Plan& plan);
 // For the Yes of a question before the plan goes: saves it, and where that can't be done keeps it from
 // memory. False where that fails too; the plan must then not go.
 bool SaveBeforeItGoes(Context& context);
+// The same while the window is disabled under the hourglass.
+bool SaveInFrameBeforeItGoes(Context& context);
 
 // The menu entry: the same while the window is disabled under the hourglass.
 void SaveFlightplanCommand(Context& context);

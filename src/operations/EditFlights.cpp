@@ -140,10 +140,9 @@ void AddFlight(Context& context) {
 void DeleteFlights(Context& context) {
     Session& session = context.session;
     MainForm& form = context.forms.frmMain;
-    const MessageAnswer answer = ShowMessage(
-        context.services.messages, "Are you sure to remove the selected flights from the Flightplan?",
-        kButtonsYesNo | kMarkQuestion, &form);
-    if (answer != MessageAnswer::Yes) return;
+    if (!UserAgrees(context.services.messages,
+                    "Are you sure to remove the selected flights from the Flightplan?", &form))
+        return;
     TakeFirstUndoSnapshot(context);
     const std::vector<std::int32_t> places = form.lvExPreview.SelectedPlaces();
     for (const std::int32_t place : places) {

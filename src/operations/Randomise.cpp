@@ -167,10 +167,8 @@ void OnRandomizePercent(Context& context) {
 void OnRandomizeFlightNumbers(Context& context) {
     const auto range = AskForRange(context, kNumberQuestions);
     if (!range) return;
-    const MessageAnswer answer =
-        ShowMessage(context.services.messages, "Do you want to use odd and even Flight Numbers?",
-                    kButtonsYesNo | kMarkQuestion, &context.forms.frmMain);
-    const bool inPairs = answer == MessageAnswer::Yes;
+    const bool inPairs = UserAgrees(
+        context.services.messages, "Do you want to use odd and even Flight Numbers?", &context.forms.frmMain);
     ChangeAtRandom(
         context,
         [&](Plan& plan, RandomSource& random) { RandomizeFlightNumbers(plan, *range, inPairs, random); },

@@ -22,11 +22,6 @@ constexpr std::string_view kNoCompiler =
 constexpr std::string_view kNoDecompiler =
     "File 'TDECOMPILER.EXE' not found. Copy the file to the ORLO program folder.";
 
-bool SaveInFrame(Context& context) {
-    const BusyForm busy(context, context.forms.frmMain);
-    return SaveBeforeItGoes(context);
-}
-
 void TellOutcome(Context& context, bool done, std::string_view success, std::string_view failure) {
     ShowMessage(context.services.messages, done ? success : failure, done ? kMarkInformation : kMarkCritical,
                 &context.forms.frmMain);
@@ -134,7 +129,7 @@ void CompileCurrentFlightplan(Context& context) {
         const MessageAnswer answer =
             AskToSave(context, "Save modified Flightplan before starting compiling?");
         if (answer == MessageAnswer::Cancel) return;
-        if (answer == MessageAnswer::Yes && !SaveInFrame(context)) return;
+        if (answer == MessageAnswer::Yes && !SaveInFrameBeforeItGoes(context)) return;
     }
     Compile(context, context.session.plan.FlightplanPath);
 }

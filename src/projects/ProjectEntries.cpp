@@ -147,10 +147,8 @@ void ChangeProjectAircraft(Context& context) {
 void DeleteProjectEntries(Context& context) {
     MainForm& form = context.forms.frmMain;
     ListView& list = form.lvProject;
-    const MessageAnswer answer =
-        ShowMessage(context.services.messages, "Are you sure to remove the selected Flightplans?",
-                    kButtonsYesNo | kMarkQuestion, &form);
-    if (answer != MessageAnswer::Yes) return;
+    if (!UserAgrees(context.services.messages, "Are you sure to remove the selected Flightplans?", &form))
+        return;
     list.Remove(list.SelectedPlaces());
     context.session.project.ProjectEntries = EntriesAsShown(list);
     list.SelectCurrentOnly();

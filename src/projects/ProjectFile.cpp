@@ -1,5 +1,6 @@
 #include "projects/ProjectFile.h"
 
+#include "core/LittleEndian.h"
 #include "core/Path.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
@@ -17,13 +18,9 @@ std::string ReadText(ByteReader& reader) {
     return std::string(reader.Bytes(length));
 }
 
-void AppendNumber(std::string& out, std::uint32_t number, int bytes) {
-    for (int i = 0; i < bytes; ++i) out.push_back(static_cast<char>(number >> (8 * i) & 0xFF));
-}
-
 void AppendText(std::string& out, std::string_view text) {
     const std::string_view kept = text.substr(0, kLongestText);
-    AppendNumber(out, static_cast<std::uint32_t>(kept.size()), 2);
+    AppendLittleEndian(out, static_cast<std::uint32_t>(kept.size()), 2);
     out.append(kept);
 }
 
@@ -73,12 +70,12 @@ std::vector<ProjectEntry> ParseProject(std::string_view bytes) {
 std::string FormatProject(const std::vector<ProjectEntry>& entries) {
     std::string bytes;
     AppendText(bytes, kVersion);
-    AppendNumber(bytes, static_cast<std::uint32_t>(entries.size()), 4);
+    AppendLittleEndian(bytes, static_cast<std::uint32_t>(entries.size()), 4);
     for (const ProjectEntry& entry : entries) {
         AppendText(bytes, PathForFile(entry.Flightplan));
         AppendText(bytes, PathForFile(entry.AircraftFile));
         AppendText(bytes, entry.Description);
-        AppendNumber(bytes, static_cast<std::uint16_t>(entry.Reserved), 2);
+        AppendLittleEndian(bytes, static_cast<std::uint16_t>(entry.Reserved), 2);
     }
     return bytes;
 }

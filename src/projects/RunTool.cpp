@@ -27,12 +27,11 @@ class ToldTool {
 bool WantsToolEnded(Context& context) {
     ToolState& state = context.session.tool;
     if (!state.CloseRequested) return false;
-    const MessageAnswer answer =
-        ShowMessage(context.services.messages,
-                    Concat("'", state.Running, "' is still running. Would you like to end it?"),
-                    kButtonsYesNo | kMarkQuestion, &context.forms.frmMain);
+    const bool agrees = UserAgrees(
+        context.services.messages,
+        Concat("'", state.Running, "' is still running. Would you like to end it?"), &context.forms.frmMain);
     state.CloseRequested = false;
-    return answer == MessageAnswer::Yes;
+    return agrees;
 }
 
 }  // namespace

@@ -24,11 +24,6 @@ void EraseMemory(Context& context) {
     session.project = {};
 }
 
-bool SavePlanInFrame(Context& context) {
-    const BusyForm busy(context, context.forms.frmMain);
-    return SaveBeforeItGoes(context);
-}
-
 }  // namespace
 
 bool Shutdown(Context& context) {
@@ -38,7 +33,7 @@ bool Shutdown(Context& context) {
     if (IsUnsaved(session.plan)) {
         const MessageAnswer answer = AskToSavePlan(context);
         if (answer == MessageAnswer::Cancel) return false;
-        if (answer == MessageAnswer::Yes && !SavePlanInFrame(context)) return false;
+        if (answer == MessageAnswer::Yes && !SaveInFrameBeforeItGoes(context)) return false;
     }
     if (IsUnsaved(session.project)) {
         const MessageAnswer answer = AskToSave(context, "Save the modified Project?");

@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "core/LittleEndian.h"
 #include "core/TextLines.h"
 #include "simulator/ByteReader.h"
 
@@ -109,9 +110,7 @@ class CacheWriter {
     }
 
   private:
-    void Put(std::uint64_t value, int size) {
-        for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>(value >> (8 * i) & 0xFF));
-    }
+    void Put(std::uint64_t value, int size) { AppendLittleEndian(bytes, value, size); }
 };
 
 // Bytes of a record whose texts and lists are all empty: the least that one takes.

@@ -8,6 +8,7 @@
 
 #include "core/FileBackup.h"
 #include "core/InitialisationFile.h"
+#include "core/LittleEndian.h"
 #include "core/Path.h"
 #include "core/TextLines.h"
 #include "simulator/AircraftFiles.h"
@@ -92,10 +93,9 @@ std::string WriteConfig(std::span<const FSAircraft> aircraft, std::span<const FS
 }
 
 FilePatch RadiusPatch(const FSAircraft& aircraft) {
-    const auto radius = static_cast<std::uint32_t>(aircraft.Radius);
     FilePatch patch;
     patch.position = ModelRadiusPosition(aircraft.ModelFormat);
-    for (int shift = 0; shift < 32; shift += 8) patch.bytes.push_back(static_cast<char>(radius >> shift));
+    AppendLittleEndian(patch.bytes, static_cast<std::uint32_t>(aircraft.Radius), 4);
     return patch;
 }
 

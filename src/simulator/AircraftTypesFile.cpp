@@ -1,5 +1,6 @@
 #include "simulator/AircraftTypesFile.h"
 
+#include "core/AircraftLimits.h"
 #include "core/KeyedIndex.h"
 #include "core/Text.h"
 
@@ -27,10 +28,7 @@ std::string FormatAircraftTypes(const std::vector<FSAircraft>& aircraft,
     TypeKeys keys;
     for (const FSAircraft& variant : aircraft) {
         if (!isListed(variant)) continue;
-        out.append(Concat(keys.Next(variant), ",", variant.Title, ",", variant.CruiseSpeed, ",",
-                          variant.MinFL, ",", variant.MaxFL, ",", variant.MinRange, ",", variant.MaxRange,
-                          ",", variant.RunwayLength, ",", variant.RunwayTypes, ",", variant.MinParkingRadius,
-                          ",", variant.ParkingTypes, ",", variant.IFRPercent, "\r\n"));
+        out.append(FormatLimits(Concat(keys.Next(variant), ",", variant.Title), variant)).append("\r\n");
     }
     return out;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "core/LittleEndian.h"
 #include "core/Path.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
@@ -38,13 +39,6 @@ bool Qualifies(std::string_view bytes, std::uint32_t body, const AirportRecord& 
            (!resize.ICAO.empty() && CodeContains(bytes, body, resize.ICAO));
 }
 
-std::string RadiusBytes(float radius) {
-    const auto bits = std::bit_cast<std::uint32_t>(radius);
-    std::string bytes;
-    for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<char>(bits >> shift));
-    return bytes;
-}
-
 // The first block of parkings in the body; without bytes where there is none.
 BglSubRecord FirstParkings(BglFile& file, std::uint32_t body) {
     BglSubRecord found;
@@ -63,7 +57,8 @@ std::int32_t ClassOfEntry(std::string_view block, std::size_t entry) {
 // From the first to the last radius of the class in the block.
 void AddPatch(const BglSubRecord& parkings, const BglParkingBlock& block, const GateResize& resize,
               ResizedGates& gates) {
-    const std::string radius = RadiusBytes(resize.Radius);
+    std::string radius;
+    AppendLittleEndian(radius, std::bit_cast<std::uint32_t>(resize.Radius), 4);
     FilePatch patch;
     std::size_t start = 0;  // of the patch, counted from the sub-record's start
     std::size_t entry = block.Start;
