@@ -144,7 +144,25 @@ void BM_ReadCache(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
-// All parkings of one type in a copy of the whole scenery, without backups.
+// Best of a few runs that write each file's own bytes over it.
+double SecondsOfRewriting(const std::vector<std::string>& paths) {
+    PosixFileSystem files;
+    double best = 1e9;
+    for (int i = 0; i < 5; ++i) {
+        double spent = 0;
+        for (const std::string& path : paths) {
+            const FilePatch all{0, ReadWholeFile(files, path).value_or("")};
+            const double start = SecondsNow();
+            files.PatchFile(path, {&all, 1});
+            spent += SecondsNow() - start;
+        }
+        best = std::min(best, spent);
+    }
+    return best;
+}
+
+// All parkings of one type in a copy of the whole scenery, without backups. Nearly every page of the files is
+// written, so that the system's way to the disk's cache, "rewrite" in milliseconds, is the second limit.
 void BM_ResizeGates(benchmark::State& state) {
     PosixFileSystem files;
     const std::string from = SceneryFolder(SimulatorFolder());
@@ -166,10 +184,11 @@ void BM_ResizeGates(benchmark::State& state) {
     }
     ReportRatio(state, SecondsNow() - start, paths);
     state.counters["gates"] = gates;
+    state.counters["rewrite"] = SecondsOfRewriting(paths) * 1000;
     std::filesystem::remove_all(folder);
 }
 
-BENCHMARK(BM_ResizeGates)->ArgName("class")->Arg(4)->Arg(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ResizeGates)->ArgName("class")->Arg(1)->Arg(4)->Arg(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanScenery)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanRealAircraft)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScanAircraft)->Unit(benchmark::kMillisecond);

@@ -54,25 +54,47 @@ std::int32_t ClassOfEntry(std::string_view block, std::size_t entry) {
     return static_cast<unsigned char>(block[entry + kWordInEntry + 2]) >> 4;
 }
 
-// From the first to the last radius of the class in the block.
-void AddPatch(const BglSubRecord& parkings, const BglParkingBlock& block, const GateResize& resize,
-              ResizedGates& gates) {
-    std::string radius;
-    AppendLittleEndian(radius, std::bit_cast<std::uint32_t>(resize.Radius), 4);
-    FilePatch patch;
-    std::size_t start = 0;  // of the patch, counted from the sub-record's start
+// Writes one radius at places of a file, mostly from the front to the back. Places close together become one
+// patch, with the file's bytes between them; behind a place that lies in front of the last, as damaged data
+// have it, each is a patch of its own, so that no patch puts back what another wrote.
+class RadiusWriter {
+  public:
+    RadiusWriter(std::string_view bytes, float radius, std::vector<FilePatch>& patches)
+        : bytes_(bytes), patches_(patches) {
+        AppendLittleEndian(radius_, std::bit_cast<std::uint32_t>(radius), 4);
+    }
+
+    void Write(std::size_t place) {
+        forward_ = forward_ && place >= end_;
+        if (patches_.empty() || !forward_ || place - end_ > kLargestGap) {
+            patches_.push_back({place, radius_});
+        } else {
+            patches_.back().bytes.append(bytes_, end_, place - end_).append(radius_);
+        }
+        end_ = place + radius_.size();
+    }
+
+  private:
+    static constexpr std::size_t kLargestGap = 256;
+
+    std::string_view bytes_;
+    std::vector<FilePatch>& patches_;
+    std::string radius_;
+    std::size_t end_ = 0;  // of the last patch
+    bool forward_ = true;
+};
+
+// Gives how many parkings of the block are of the class.
+std::int32_t WriteBlock(const BglSubRecord& parkings, const BglParkingBlock& block, std::int32_t classCode,
+                        RadiusWriter& writer) {
+    std::int32_t count = 0;
     std::size_t entry = block.Start;
     for (std::size_t i = 0; i < block.Count; ++i, entry += kBglParkingEntrySize) {
-        if (ClassOfEntry(parkings.Bytes, entry) != resize.Class) continue;
-        const std::size_t place = entry + kRadiusInEntry;
-        if (patch.bytes.empty()) start = place;
-        const std::size_t patched = start + patch.bytes.size();
-        patch.bytes.append(parkings.Bytes, patched, place - patched).append(radius);
-        ++gates.count;
+        if (ClassOfEntry(parkings.Bytes, entry) != classCode) continue;
+        writer.Write(parkings.Start + entry + kRadiusInEntry);
+        ++count;
     }
-    if (patch.bytes.empty()) return;
-    patch.position = parkings.Start + start;
-    gates.patches.push_back(std::move(patch));
+    return count;
 }
 
 bool ResizeFile(FileSystem& files, const std::string& path, const GateResize& resize,
@@ -92,6 +114,7 @@ bool ResizeFile(FileSystem& files, const std::string& path, const GateResize& re
 
 ResizedGates FindGates(std::string_view bytes, const GateResize& resize) {
     ResizedGates gates;
+    RadiusWriter writer(bytes, resize.Radius, gates.patches);
     BglFile file(bytes);
     const bool all = resize.Search.empty() && resize.ICAO.empty();
     AirportRecord place;
@@ -104,7 +127,7 @@ ResizedGates FindGates(std::string_view bytes, const GateResize& resize) {
         if (parkings.Bytes.empty()) return true;
         const BglParkingBlock block = FindParkingEntries(parkings);
         if (block.Complete) {
-            AddPatch(parkings, block, resize, gates);
+            gates.count += WriteBlock(parkings, block, resize.Class, writer);
         } else if (gates.skippedAirport.empty()) {
             gates.skippedAirport = place.Name;
         }

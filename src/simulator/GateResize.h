@@ -21,7 +21,7 @@ struct GateResize {
 
 // The parkings of a scenery file that get a new radius.
 struct ResizedGates {
-    std::vector<FilePatch> patches;  // one an airport, in the order of the walk
+    std::vector<FilePatch> patches;  // in the order in which they are to be written
     std::int32_t count = 0;          // of parkings
     std::string skippedAirport;  // name of the first that isn't touched, since it counts more parkings than
                                  // its data hold; empty where there is none

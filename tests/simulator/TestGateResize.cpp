@@ -86,6 +86,19 @@ TEST(GateResize, AnAirportThatCountsMoreThanItHoldsIsLeftAloneAndNamed) {
     EXPECT_EQ(Radii(file), (std::vector<float>{1, 7}));
 }
 
+// A patch behind another may not bring back what stood between its radii.
+TEST(GateResize, AirportsThatShareABodyGetTheirRadiiOnce) {
+    constexpr std::uint32_t kFirstBody = 160;
+    test::BglBuilder builder;
+    builder.Airport("One", Body("AAAA", {Gate(9, 1), Gate(9, 2), Gate(9, 3)}));
+    builder.Entry(kBglAirport, kFirstBody, "Twin");
+    test::MemoryFileSystem files;
+    std::string& file = files.files[JoinPath("s", "a.bgl")];
+    file = builder.Build();
+    EXPECT_EQ(ResizeAllFiles(files, "s", {kGateMedium, 7, "", ""}, nullptr).count, 6);
+    EXPECT_EQ(Radii(file), (std::vector<float>{7, 7, 7, 7, 7, 7}));
+}
+
 TEST(GateResize, EachSceneryFileIsBackedUpOnceAndOneWithoutABackupIsNotWritten) {
     test::MemoryFileSystem files;
     const std::string path = JoinPath("s", "a.bgl");
