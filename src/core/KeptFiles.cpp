@@ -192,7 +192,7 @@ void Prune(FileSystem& files, const std::string& folder, const std::string& newe
 KeepResult Keep(FileSystem& files, const std::string& folder, std::int64_t now, std::string_view reason,
                 const std::vector<Source>& sources, std::string_view spared) {
     if (sources.empty()) return {Keeping::Nothing, {}};
-    if (folder.empty() || !files.CreateFolders(folder)) return {};
+    if (folder.empty() || !files.CreatePrivateFolders(folder)) return {};
     Keeper keeper(files, folder);
     const bool stored =
         std::all_of(sources.begin(), sources.end(), [&](const Source& source) { return keeper.Add(source); });

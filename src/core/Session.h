@@ -80,11 +80,16 @@ struct ToolState {
     bool CloseRequested = false;  // the user has pressed the main window's close box since it was asked last
 };
 
-// Files that the running event has kept a copy of, for the status bar (mainwindow/KeepAside.h).
+// What the running event has to say in the status bar beside its own text (mainwindow/StatusTexts.h).
+struct EventNotes {
+    std::string Failure;            // the last one; empty where nothing failed
+    std::vector<std::string> Kept;  // full paths of what was kept, in that order
+};
+
 struct KeptState {
-    std::vector<std::string> Kept;  // full paths, in the order in which they were kept
-    std::string Told;               // the text about it at the end of the status bar
-    KeyedIndex<bool> StandIns;      // files of which this session keeps a copy in place of a backup
+    EventNotes Notes;
+    std::string Told;           // what was told of kept files, at the end of the status bar
+    KeyedIndex<bool> StandIns;  // files of which this session keeps a copy in place of a backup
 };
 
 // The state of the running program.

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kMostStandIns = 20;  // of one event
 
 bool Note(Context& context, const KeepResult& result) {
-    std::vector<std::string>& kept = context.session.kept.Kept;
+    std::vector<std::string>& kept = context.session.kept.Notes.Kept;
     kept.insert(kept.end(), result.paths.begin(), result.paths.end());
     return result.outcome != Keeping::Failed;
 }
@@ -46,7 +46,7 @@ bool KeepWhatGoes(Context& context, const KnownFiles& known, std::string_view re
 bool BackUpOrKeep(Context& context, std::string_view reason, const std::string& path) {
     if (BackUpOnce(context.services.files, path)) return true;
     // More would push each other out of the store.
-    return context.session.kept.Kept.size() < kMostStandIns && KeepAside(context, reason, path);
+    return context.session.kept.Notes.Kept.size() < kMostStandIns && KeepAside(context, reason, path);
 }
 
 bool ReplaceAndKeep(Context& context, std::string_view reason, const std::string& path,

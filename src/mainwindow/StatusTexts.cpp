@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Text.h"
@@ -19,24 +20,38 @@ void ForgetKept(Context& context) {
     told.clear();
 }
 
+void Report(Context& context, std::string failure) {
+    context.forms.frmMain.sbMain.text = failure;
+    context.session.kept.Notes.Failure = std::move(failure);
+}
+
+void TellFailure(Context& context) {
+    const std::string& failure = context.session.kept.Notes.Failure;
+    std::string& text = context.forms.frmMain.sbMain.text;
+    if (failure.empty() || text.starts_with(failure)) return;
+    text = text.empty() ? failure : Concat(failure, " ", text);
+}
+
 }  // namespace
 
 void ReportNotWritten(Context& context, std::string_view path) {
-    context.forms.frmMain.sbMain.text = Concat(kNotWritten, path, "].");
+    Report(context, Concat(kNotWritten, path, "]."));
 }
 
 void ReportNotPrinted(Context& context) {
-    context.forms.frmMain.sbMain.text = kNotPrinted;
+    Report(context, std::string(kNotPrinted));
 }
 
 void ForgetNotWritten(Context& context) {
     ForgetKept(context);
+    context.session.kept.Notes.Failure.clear();
     std::string& text = context.forms.frmMain.sbMain.text;
     if (text.starts_with(kNotWritten) || text == kNotPrinted) text.clear();
 }
 
-void TellKept(Context& context) {
-    const std::vector<std::string>& kept = context.session.kept.Kept;
+void TellNotes(Context& context) {
+    TellFailure(context);
+    const std::vector<std::string>& kept = context.session.kept.Notes.Kept;
     if (kept.empty()) return;
     ForgetKept(context);
     std::string& text = context.forms.frmMain.sbMain.text;

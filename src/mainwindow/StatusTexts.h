@@ -13,8 +13,8 @@ void ReportNotPrinted(Context& context);
 // Clears such a text, and what was told of kept files, from the status bar before the next try.
 void ForgetNotWritten(Context& context);
 
-// Puts what the event has kept (mainwindow/KeepAside.h) behind the text of the status bar, in place of what
-// was told so before. Without kept files nothing changes.
-void TellKept(Context& context);
+// At the end of an event: puts its failure in front of the text of the status bar, where another text took
+// its place, and what it has kept (mainwindow/KeepAside.h) behind, in place of what was told so before.
+void TellNotes(Context& context);
 
 }  // namespace orlo

@@ -77,13 +77,23 @@ CompilerFolder::~CompilerFolder() {
     for (const std::string_view name : names_) context_.services.files.DeleteFile(JoinPath(folder_, name));
 }
 
+// Of a link nothing is lost but the link.
+bool CompilerFolder::KeepLeftovers() {
+    FileSystem& files = context_.services.files;
+    std::vector<std::string> paths;
+    for (const std::string_view name : {kFlightPlansName, kAircraftName, kAirportsName, kCompiler}) {
+        const std::string path = JoinPath(folder_, name);
+        if (!files.IsLink(path)) paths.push_back(path);
+    }
+    return KeepAside(context_, "Compile", paths);
+}
+
 // From now on the name is deleted at the end.
 bool CompilerFolder::MayPut(std::string_view name) {
-    const std::string path = JoinPath(folder_, name);
-    const bool stands = context_.services.files.FileExists(path);
-    if (stands && (isOwn_ || !KeepAside(context_, "Compile", path))) {
+    if (names_.empty() && !isOwn_) refused_ = !KeepLeftovers();
+    if (isOwn_ && context_.services.files.FileExists(JoinPath(folder_, name))) refused_ = true;
+    if (refused_) {
         ReportNotWritten(context_, folder_);
-        refused_ = true;
         return false;
     }
     names_.push_back(name);

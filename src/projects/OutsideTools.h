@@ -56,6 +56,7 @@ class CompilerFolder {
     std::int32_t Run();
 
   private:
+    bool KeepLeftovers();
     bool MayPut(std::string_view name);
 
     Context& context_;

@@ -108,6 +108,9 @@ class FileSystem {
     virtual bool DeleteEmptyFolder(const std::string& path) = 0;
     virtual bool DeleteFile(const std::string& path) = 0;
     virtual bool CreateFolders(const std::string& path) = 0;  // with its parents; true when it stands
+    // The same, for a folder that no other user may look into. One that stands stays as it is.
+    virtual bool CreatePrivateFolders(const std::string& path) = 0;
+    virtual bool IsLink(const std::string& path) = 0;
 
     // Entries without "." and "..", sorted by name with case folded so that a walk is repeatable. Empty when
     // the path is no readable folder.

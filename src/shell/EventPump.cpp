@@ -101,8 +101,8 @@ void EventPump::Run(Event& event) {
         return;
     }
     ++running_;
-    // An event within another, such as one of a modal form, tells what it has kept itself.
-    auto keptOutside = std::exchange(context_.session.kept.Kept, {});
+    // An event within another, such as one of a modal form, tells what it has to say itself.
+    auto outside = std::exchange(context_.session.kept.Notes, {});
     try {
         entry->procedure(context_, event);
     } catch (const std::bad_alloc&) {
@@ -111,8 +111,8 @@ void EventPump::Run(Event& event) {
         RecoverFromFailure(event.form, failure.what());
     }
     --running_;
-    TellKept(context_);
-    context_.session.kept.Kept = std::move(keptOutside);
+    TellNotes(context_);
+    context_.session.kept.Notes = std::move(outside);
     RefreshTitle(context_);
     if (event.presses != nullptr) {
         Event press{&event.presses->form, event.presses, EventKind::Click};

@@ -5,6 +5,7 @@
 #include "projects/ProjectCommands.h"
 #include "shell/SettingsMirror.h"
 #include "shell/StartUp.h"
+#include "shell/SystemEnd.h"
 
 namespace orlo {
 namespace {
@@ -40,6 +41,7 @@ bool Shutdown(Context& context) {
         if (answer == MessageAnswer::Cancel) return false;
         if (answer == MessageAnswer::Yes && !SaveProjectBeforeItGoes(context)) return false;
     }
+    if (session.plan.DiffersFromFile || session.project.DiffersFromFile) NoteUnsavedEnd(context);
     BusyForm busy(context, context.forms.frmMain, kCleaningStages);
     WriteSettings(context);
     busy.Stage("Cleaning Memory...", 1);

@@ -86,7 +86,7 @@ bool StartUp(Context& context) {
     context.frame.limits.AddWindowLimits(form, kMainWindowLimits);
     form.systemMenuAbout = true;
     RefreshTitle(context);
-    TellSystemEnd(context);
+    TellUnsavedEnd(context);
     return true;
 }
 

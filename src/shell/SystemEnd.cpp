@@ -34,37 +34,37 @@ bool KeepChanges(Context& context) {
     }
 }
 
+}  // namespace
+
 // Behind what another program has noted at the same end.
-void WriteNote(Context& context) {
+void NoteUnsavedEnd(Context& context) {
     FileSystem& files = context.services.files;
     const std::string path = NotePath(context.session);
     std::string text = ReadWholeFile(files, path).value_or("");
-    for (const std::string& kept : context.session.kept.Kept) text += Concat(kept, "\r\n");
+    for (const std::string& kept : context.session.kept.Notes.Kept) text += Concat(kept, "\r\n");
     ReplaceWholeFile(files, path, text);
 }
 
-}  // namespace
-
 bool EndBySystem(Context& context) {
-    std::vector<std::string>& kept = context.session.kept.Kept;
+    std::vector<std::string>& kept = context.session.kept.Notes.Kept;
     kept.clear();
     // What can't be made again comes first: the system may not wait long.
     const bool done = KeepChanges(context);
-    if (!kept.empty()) WriteNote(context);
+    if (!kept.empty()) NoteUnsavedEnd(context);
     WriteSettings(context);
     return done;
 }
 
-void TellSystemEnd(Context& context) {
+void TellUnsavedEnd(Context& context) {
     FileSystem& files = context.services.files;
     const std::string path = NotePath(context.session);
     if (context.session.StateFolder.empty() || !files.FileExists(path)) return;
     const std::string text = ReadWholeFile(files, path).value_or("");
     files.DeleteFile(path);
-    std::vector<std::string>& kept = context.session.kept.Kept;
+    std::vector<std::string>& kept = context.session.kept.Notes.Kept;
     for (const std::string_view line : SplitLines(text)) kept.emplace_back(line);
-    context.forms.frmMain.sbMain.text = "The system has ended Orlo while there were unsaved changes.";
-    TellKept(context);
+    context.forms.frmMain.sbMain.text = "Orlo has ended with changes that were not saved.";
+    TellNotes(context);
     kept.clear();
 }
 

@@ -12,7 +12,9 @@ namespace orlo {
 // not be kept; the rest is done all the same.
 bool EndBySystem(Context& context);
 
-// Says in the status bar what the last end by the system has kept, once.
-void TellSystemEnd(Context& context);
+// Leaves a note for the next start of what this event has kept, since it stands in no file of the user.
+void NoteUnsavedEnd(Context& context);
+// Says in the status bar what the last such end has kept, once.
+void TellUnsavedEnd(Context& context);
 
 }  // namespace orlo

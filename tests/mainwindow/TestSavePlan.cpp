@@ -5,6 +5,7 @@
 #include "core/FlightplanFile.h"
 #include "core/KeptFiles.h"
 #include "core/PlanSideFiles.h"
+#include "mainwindow/StatusTexts.h"
 #include "shell/OpenPlan.h"
 #include "support/FakeProgram.h"
 
@@ -120,6 +121,15 @@ TEST_F(SavePlan, ASaveThatFailsIsRememberedAskedForAndKeptFromMemory) {
     program.world.files.failCommit = false;
     SaveFlightplan(program.context);
     EXPECT_FALSE(session.plan.DiffersFromFile);
+}
+
+TEST_F(SavePlan, AFailureIsToldInFrontOfWhatTheSameEventSaysAfterwards) {
+    ReportNotWritten(program.context, "/p/Plan.txt");
+    program.form.sbMain.text = "Flightplan loaded.";
+    session.kept.Notes.Kept = {"/p/Plan.txt"};
+    TellNotes(program.context);
+    EXPECT_EQ(program.form.sbMain.text,
+              "Not written: [/p/Plan.txt]. Flightplan loaded. Kept a copy of [/p/Plan.txt].");
 }
 
 }  // namespace

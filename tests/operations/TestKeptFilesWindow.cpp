@@ -63,11 +63,11 @@ TEST(KeepAside, IsToldBehindWhatTheEventLeavesInTheStatusBar) {
     program.files["/w/other.txt"] = "other";
     program.form.sbMain.text = "Loaded.";
     ASSERT_TRUE(KeepAside(program.context, "Save", "/w/plan.txt"));
-    TellKept(program.context);
+    TellNotes(program.context);
     EXPECT_EQ(program.form.sbMain.text, "Loaded. Kept a copy of [/w/plan.txt].");
-    program.session.kept.Kept.clear();
+    program.session.kept.Notes.Kept.clear();
     ASSERT_TRUE(KeepAside(program.context, "Save", both));
-    TellKept(program.context);
+    TellNotes(program.context);
     EXPECT_EQ(program.form.sbMain.text, "Loaded. Kept a copy of [/w/plan.txt] and of 1 more.");
     ForgetNotWritten(program.context);
     EXPECT_EQ(program.form.sbMain.text, "Loaded.");

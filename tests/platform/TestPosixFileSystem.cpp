@@ -54,6 +54,18 @@ TEST(PosixFileSystem, FoldersListLinksAndNamesThatDifferInCaseAndOnlyRegularFile
         EXPECT_FALSE(files.OpenForReading(path)) << path;
 }
 
+TEST(PosixFileSystem, APrivateFolderIsTheUsersAloneAndALinkIsSeenAsOne) {
+    const TemporaryFolder folder;
+    folder.Put("file.txt", "text");
+    fs::create_symlink(folder.Path("file.txt"), folder.Path("link.txt"));
+    PosixFileSystem files;
+    EXPECT_TRUE(files.IsLink(folder.Path("LINK.txt")));
+    for (const char* other : {"file.txt", "none.txt", ""}) EXPECT_FALSE(files.IsLink(folder.Path(other)));
+    EXPECT_TRUE(files.CreatePrivateFolders(folder.Path("state/kept")));
+    for (const char* made : {"state", "state/kept"})
+        EXPECT_EQ(fs::status(folder.Path(made)).permissions(), fs::perms::owner_all) << made;
+}
+
 TEST(PosixFileSystem, AFileOfMoreThanFourGigabytesHasItsSize) {
     const TemporaryFolder folder;
     folder.Put("large", "");

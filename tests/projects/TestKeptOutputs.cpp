@@ -98,11 +98,21 @@ TEST(KeptOutputs, WhatAStepReplacesOrDeletesIsKeptByteForByte) {
         fake.world.files.files.insert(step.old.begin(), step.old.end());
         step.run(fake);
         EXPECT_EQ(Kept(fake), step.old);
+        EXPECT_LE(ReadKeptEntries(fake.world.files, "/state").size(), 2u) << "one for each thing done";
         for (const auto& [path, text] : step.old)
             EXPECT_TRUE(!fake.world.files.files.contains(path) || fake.world.files.files[path] != text ||
                         path == "/d/Aircraft.txt")
                 << path << " was to go";
     }
+}
+
+TEST(KeptOutputs, OfALinkInTheTemporaryFolderNothingIsKept) {
+    test::FakeProgram fake;
+    fake.world.files.files["/temp/Aircraft.txt"] = "of another user";
+    fake.world.files.links = {"/temp/Aircraft.txt"};
+    kSteps[2].run(fake);
+    EXPECT_EQ(fake.world.processes.started.size(), 1u);
+    EXPECT_TRUE(Kept(fake).empty());
 }
 
 TEST(KeptOutputs, WhereNothingCanBeKeptTheStepIsNotDone) {

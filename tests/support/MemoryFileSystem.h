@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -108,6 +109,9 @@ class MemoryFileSystem : public FileSystem {
     bool DeleteFile(const std::string& path) override {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }
+    bool CreatePrivateFolders(const std::string& path) override { return CreateFolders(path); }
+    bool IsLink(const std::string& path) override { return links.contains(path); }
+    std::set<std::string> links;  // those of the files that are links
     bool CreateFolders(const std::string& path) override {
         folders.push_back(path);
         return true;

@@ -145,11 +145,23 @@ bool PosixFileSystem::DeleteFile(const std::string& path) {
 }
 
 bool PosixFileSystem::CreateFolders(const std::string& path) {
+    return CreateWith(path, kNewFolder);
+}
+
+bool PosixFileSystem::CreatePrivateFolders(const std::string& path) {
+    return CreateWith(path, S_IRWXU);
+}
+
+bool PosixFileSystem::CreateWith(const std::string& path, mode_t mode) {
     if (!IsUsablePath(path)) return false;
     return MakeFolders(
-        *this, ResolveNames(path),
-        [](const std::string& each) { return mkdir(each.c_str(), kNewFolder) == 0; },
+        *this, ResolveNames(path), [mode](const std::string& each) { return mkdir(each.c_str(), mode) == 0; },
         [](const std::string& each) { rmdir(each.c_str()); });
+}
+
+bool PosixFileSystem::IsLink(const std::string& path) {
+    struct stat facts {};
+    return IsUsablePath(path) && lstat(ResolveNames(path).c_str(), &facts) == 0 && S_ISLNK(facts.st_mode);
 }
 
 std::vector<FolderEntry> PosixFileSystem::ListFolder(const std::string& path) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include "services/FileSystem.h"
 
 namespace orlo {
@@ -26,7 +28,12 @@ class PosixFileSystem : public FileSystem {
     bool DeleteEmptyFolder(const std::string& path) override;
     bool DeleteFile(const std::string& path) override;
     bool CreateFolders(const std::string& path) override;
+    bool CreatePrivateFolders(const std::string& path) override;
+    bool IsLink(const std::string& path) override;
     std::vector<FolderEntry> ListFolder(const std::string& path) override;
+
+  private:
+    bool CreateWith(const std::string& path, mode_t mode);
 };
 
 }  // namespace orlo

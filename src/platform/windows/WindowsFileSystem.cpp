@@ -157,6 +157,16 @@ bool WindowsFileSystem::CreateFolders(const std::string& path) {
         [](const std::string& each) { RemoveDirectoryW(SystemPath(each).c_str()); });
 }
 
+// The folders of a user's own are closed to others here already.
+bool WindowsFileSystem::CreatePrivateFolders(const std::string& path) {
+    return CreateFolders(path);
+}
+
+bool WindowsFileSystem::IsLink(const std::string& path) {
+    const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 std::vector<FolderEntry> WindowsFileSystem::ListFolder(const std::string& path) {
     return ListNames(path);
 }

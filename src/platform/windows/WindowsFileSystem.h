@@ -25,6 +25,8 @@ class WindowsFileSystem : public FileSystem {
     bool DeleteEmptyFolder(const std::string& path) override;
     bool DeleteFile(const std::string& path) override;
     bool CreateFolders(const std::string& path) override;
+    bool CreatePrivateFolders(const std::string& path) override;
+    bool IsLink(const std::string& path) override;
     std::vector<FolderEntry> ListFolder(const std::string& path) override;
 };
 
