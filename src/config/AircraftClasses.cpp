@@ -188,9 +188,9 @@ std::string AircraftClassesPath(const Session& session) {
     return JoinPath(session.ProgramFolder, kAircraftClassesName);
 }
 
-bool WriteAircraftClasses(const Session& session, FileSystem& files) {
-    return ReplaceWholeFile(files, AircraftClassesPath(session),
-                            FormatAircraftClasses(session.rules.Classes));
+bool WriteAircraftClasses(Session& session, FileSystem& files) {
+    return session.known.Replace(files, AircraftClassesPath(session),
+                                 FormatAircraftClasses(session.rules.Classes));
 }
 
 }  // namespace orlo

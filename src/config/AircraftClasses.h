@@ -39,6 +39,6 @@ std::string AircraftClassesPath(const Session& session);
 
 // Replaces the file of the program folder. False when it could not be written; the old file then stands
 // whole.
-bool WriteAircraftClasses(const Session& session, FileSystem& files);
+bool WriteAircraftClasses(Session& session, FileSystem& files);
 
 }  // namespace orlo

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/Application.h"
+#include "core/ContentHash.h"
 #include "core/FieldScan.h"
 #include "core/Number.h"
 #include "core/Path.h"
@@ -128,9 +129,11 @@ class LineWriter {
         AppendLine(flights, index, buffer_);
         if (buffer_.size() >= kPiece) Flush();
     }
-    bool Finish() {
+    // The hash of all lines; nothing where a write failed.
+    std::optional<std::uint64_t> Finish() {
         Flush();
-        return !failed_;
+        if (failed_) return std::nullopt;
+        return hash_.Value();
     }
 
   private:
@@ -138,22 +141,27 @@ class LineWriter {
 
     void Flush() {
         if (!failed_ && !buffer_.empty()) failed_ = !file_.Write(buffer_);
+        hash_.Add(buffer_);
         buffer_.clear();
     }
 
     OutputFile& file_;
     std::string buffer_;
+    ContentHash hash_;
     bool failed_ = false;
 };
 
-bool WriteLines(FileSystem& files, const std::string& path, const FlightList& flights, bool removed) {
+// The hash of what was written; nothing, with the old file whole, where it can't be written.
+std::optional<std::uint64_t> WriteLines(FileSystem& files, const std::string& path, const FlightList& flights,
+                                        bool removed) {
     const auto file = files.CreateReplacing(path);
-    if (!file) return false;
+    if (!file) return std::nullopt;
     LineWriter writer(*file);
     for (std::int32_t i = 0; i < flights.Count(); ++i) {
         if (flights.Removed(i) == removed) writer.Add(flights, i);
     }
-    return writer.Finish() && file->Commit();
+    const auto hash = writer.Finish();
+    return hash && file->Commit() ? hash : std::nullopt;
 }
 
 }  // namespace
@@ -168,13 +176,15 @@ void ReadFlightplan(Plan& plan, Services& services) {
     services.progress.SetValue(0);
     services.windows.ProcessEvents();
 
+    const auto stamp = services.files.Stamp(plan.FlightplanPath);
     const auto file = services.files.OpenForReading(plan.FlightplanPath);
     if (!file) {
         ShowMessage(services.messages, "Flightplan file not found or access denied.", kMarkCritical);
         return;
     }
     const std::uint64_t size = std::max<std::uint64_t>(file->Size(), 1);
-    LineReader lines(*file);
+    HashedInput hashed(*file);
+    LineReader lines(hashed);
     LinePacker packer(plan.Flights);
     std::uint64_t total = 0;
     int lineCounter = 0;
@@ -189,7 +199,7 @@ void ReadFlightplan(Plan& plan, Services& services) {
         }
         packer.Append(*line);
     }
-    plan.Known.Know(services.files, plan.FlightplanPath, packer.Whole());
+    plan.Known.Know(plan.FlightplanPath, stamp, hashed.Hash(), packer.Whole());
 }
 
 std::string RemovedFlightsPath(const std::string& path) {
@@ -210,11 +220,11 @@ PlanWriteResult WriteFlightplan(FileSystem& files, const std::string& path, cons
 
     const std::string removedPath = RemovedFlightsPath(path);
     // The removed flights first, so that a kill between the two files loses none of them.
-    if (result.RemovedCount > 0) result.RemovedWritten = WriteLines(files, removedPath, flights, true);
-    result.PlanWritten = WriteLines(files, path, flights, false);
-    if (result.RemovedCount == 0 && result.PlanWritten) {
+    if (result.RemovedCount > 0) result.RemovedHash = WriteLines(files, removedPath, flights, true);
+    result.PlanHash = WriteLines(files, path, flights, false);
+    if (result.RemovedCount == 0 && result.PlanWritten()) {
         files.DeleteFile(removedPath);
-        result.RemovedWritten = !files.FileExists(removedPath);
+        result.OldRemovedGone = !files.FileExists(removedPath);
     }
     return result;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,11 +30,14 @@ void ReadFlightplan(Plan& plan, Services& services);
 std::string FormatFlights(const FlightList& flights, bool removed);
 
 struct PlanWriteResult {
-    bool PlanWritten = false;
-    bool RemovedWritten = false;  // also true when there was none to write and an old file is gone
+    std::optional<std::uint64_t> PlanHash;     // ContentHash of what was written; nothing where that failed
+    std::optional<std::uint64_t> RemovedHash;  // the same of the removed flights; nothing without any, too
+    bool OldRemovedGone = false;               // there was none to write, and no old file is left
     std::int32_t RemovedCount = 0;
 
-    bool Complete() const { return PlanWritten && RemovedWritten; }
+    bool PlanWritten() const { return PlanHash.has_value(); }
+    bool RemovedWritten() const { return RemovedHash || OldRemovedGone; }
+    bool Complete() const { return PlanWritten() && RemovedWritten(); }
 };
 
 // "Removed Flights.txt" in the folder of a plan.

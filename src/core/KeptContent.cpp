@@ -10,7 +10,7 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
 constexpr std::size_t kFront = std::size_t{64} * 1024;
 
 // FNV-1a.
-std::uint64_t HashOf(std::uint64_t size, std::string_view front) {
+std::uint64_t HashOfFront(std::uint64_t size, std::string_view front) {
     constexpr std::uint64_t kPrime = 0x100000001B3;
     std::uint64_t hash = 0xCBF29CE484222325 ^ size;
     for (const char byte : front) hash = (hash ^ static_cast<unsigned char>(byte)) * kPrime;
@@ -34,11 +34,11 @@ std::optional<ContentFacts> ContentFactsOf(FileSystem& files, const std::string&
     const auto file = files.OpenForReading(path);
     if (!file) return std::nullopt;
     std::vector<char> buffer(kFront);
-    return ContentFacts{file->Size(), HashOf(file->Size(), ReadPiece(*file, buffer))};
+    return ContentFacts{file->Size(), HashOfFront(file->Size(), ReadPiece(*file, buffer))};
 }
 
 ContentFacts ContentFactsOf(std::string_view text) {
-    return {text.size(), HashOf(text.size(), text.substr(0, kFront))};
+    return {text.size(), HashOfFront(text.size(), text.substr(0, kFront))};
 }
 
 bool SameContent(FileSystem& files, const std::string& one, const std::string& other) {

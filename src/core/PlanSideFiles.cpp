@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Application.h"
+#include "core/ContentHash.h"
 #include "core/FlightplanFile.h"
 #include "core/Number.h"
 #include "core/Path.h"
@@ -16,31 +17,30 @@ constexpr std::size_t kNumberStart = 3;          // behind "AC#"
 constexpr std::uint64_t kUsualAirportLine = 32;  // bytes
 constexpr std::uint64_t kMostReserved = 64 * 1024;
 
-enum class Reading {
-    Failed,  // the file can't be opened
-    Whole,   // all of it was handed on, but for blank lines
-    Parts,
-};
-
-// Hands each line that is no comment and has exactly `fieldCount` fields to `take`.
+// Hands each line that is no comment and has exactly `fieldCount` fields to `take`; `known` hears whether
+// those were all lines but blank ones. False where the file can't be opened.
 template <typename Take>
-Reading ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCount, Take take) {
+bool ReadRecords(FileSystem& files, const std::string& path, std::size_t fieldCount, KnownFiles& known,
+                 Take take) {
+    const auto stamp = files.Stamp(path);
     const auto file = files.OpenForReading(path);
-    if (!file) return Reading::Failed;
-    Reading reading = Reading::Whole;
-    LineReader lines(*file);
+    if (!file) return false;
+    bool whole = true;
+    HashedInput hashed(*file);
+    LineReader lines(hashed);
     while (const auto line = lines.Next()) {
         const std::string_view trimmed = TrimBlanks(*line);
         const std::string_view text = CutComments(trimmed);
-        if (text.size() != trimmed.size()) reading = Reading::Parts;
+        if (text.size() != trimmed.size()) whole = false;
         if (text.empty()) continue;
         if (static_cast<std::size_t>(std::count(text.begin(), text.end(), ',')) + 1 != fieldCount) {
-            reading = Reading::Parts;
+            whole = false;
             continue;
         }
         take(SplitText(text, ','));
     }
-    return reading;
+    known.Know(path, stamp, hashed.Hash(), whole);
+    return true;
 }
 
 // Quotes go before blanks, so a quote behind a leading blank stays.
@@ -71,18 +71,16 @@ std::int32_t AircraftNumber(std::string_view acNumber) {
 void ReadPlanAircraft(Plan& plan, Services& services) {
     plan.PlanAircrafts.clear();
     plan.MaxACNumber = 0;
-    const std::string path = PlanAircraftPath(plan);
-    const Reading reading = ReadRecords(services.files, path, 3, [&](const auto& fields) {
-        PlanAircraft aircraft;
-        aircraft.ACNumber = TrimBlanks(fields[0]);
-        aircraft.CruiseSpeed = TrimBlanks(fields[1]);
-        aircraft.Title = TitleOf(fields[2]);
-        plan.MaxACNumber = std::max(plan.MaxACNumber, AircraftNumber(fields[0]));
-        plan.PlanAircrafts.push_back(std::move(aircraft));
-    });
-    if (reading != Reading::Failed) {
-        plan.Known.Know(services.files, path, reading == Reading::Whole);
-    } else {
+    const bool read =
+        ReadRecords(services.files, PlanAircraftPath(plan), 3, plan.Known, [&](const auto& fields) {
+            PlanAircraft aircraft;
+            aircraft.ACNumber = TrimBlanks(fields[0]);
+            aircraft.CruiseSpeed = TrimBlanks(fields[1]);
+            aircraft.Title = TitleOf(fields[2]);
+            plan.MaxACNumber = std::max(plan.MaxACNumber, AircraftNumber(fields[0]));
+            plan.PlanAircrafts.push_back(std::move(aircraft));
+        });
+    if (!read) {
         ShowMessage(services.messages,
                     "File 'AIRCRAFT.TXT' not found.  Please copy the file to the Flightplan folder.",
                     kMarkCritical);
@@ -94,16 +92,17 @@ void ReadPlanAirports(Plan& plan, Services& services) {
     plan.PlanAirportIndex.Clear();
     const std::uint64_t size = services.files.FileSize(PlanAirportsPath(plan)).value_or(0);
     plan.PlanAirportIndex.Reserve(std::min<std::uint64_t>(size / kUsualAirportLine, kMostReserved));
-    const Reading reading = ReadRecords(services.files, PlanAirportsPath(plan), 4, [&](const auto& fields) {
-        PlanAirport airport;
-        airport.ICAO = TrimBlanks(fields[0]);
-        airport.Latitude = TrimBlanks(fields[1]);
-        airport.Longitude = TrimBlanks(fields[2]);
-        airport.Altitude = TrimBlanks(fields[3]);
-        plan.PlanAirportIndex.Add(airport.ICAO, plan.PlanAirportCount());
-        plan.PlanAirports.push_back(std::move(airport));
-    });
-    if (reading == Reading::Failed) {
+    const bool read =
+        ReadRecords(services.files, PlanAirportsPath(plan), 4, plan.Known, [&](const auto& fields) {
+            PlanAirport airport;
+            airport.ICAO = TrimBlanks(fields[0]);
+            airport.Latitude = TrimBlanks(fields[1]);
+            airport.Longitude = TrimBlanks(fields[2]);
+            airport.Altitude = TrimBlanks(fields[3]);
+            plan.PlanAirportIndex.Add(airport.ICAO, plan.PlanAirportCount());
+            plan.PlanAirports.push_back(std::move(airport));
+        });
+    if (!read) {
         ShowMessage(services.messages,
                     "File 'AIRPORTS.TXT' not found. Please copy the file to the Flightplan folder.",
                     kMarkCritical);
@@ -118,8 +117,8 @@ std::string FormatPlanAircraft(const Plan& plan) {
     return text;
 }
 
-bool WritePlanAircraft(const Plan& plan, FileSystem& files) {
-    return ReplaceWholeFile(files, PlanAircraftPath(plan), FormatPlanAircraft(plan));
+bool WritePlanAircraft(Plan& plan, FileSystem& files) {
+    return plan.Known.Replace(files, PlanAircraftPath(plan), FormatPlanAircraft(plan));
 }
 
 }  // namespace orlo

@@ -23,7 +23,7 @@ void ReadPlanAirports(Plan& plan, Services& services);
 std::string FormatPlanAircraft(const Plan& plan);
 
 // Writes PlanAircrafts. False when the file could not be written; the old one then stands whole.
-bool WritePlanAircraft(const Plan& plan, FileSystem& files);
+bool WritePlanAircraft(Plan& plan, FileSystem& files);
 
 // The number behind "AC#"; 0 where none reads.
 std::int32_t AircraftNumber(std::string_view acNumber);

@@ -99,7 +99,6 @@ std::string SaveClasses(Context& context) {
     const bool backedUp = isDue && BackUpOnce(files, path);
     if (!backedUp && !KeepWhatGoes(context, session.known, kSaveReason, path)) return path;
     if (!WriteAircraftClasses(session, files)) return path;
-    session.known.Know(files, path, true);
     form.KeptClasses = session.rules.Classes;
     return {};
 }

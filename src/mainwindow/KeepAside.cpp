@@ -53,9 +53,7 @@ bool ReplaceAndKeep(Context& context, std::string_view reason, const std::string
                     std::string_view text) {
     FileSystem& files = context.services.files;
     KnownFiles& known = context.session.known;
-    if (!KeepWhatGoes(context, known, reason, path) || !ReplaceWholeFile(files, path, text)) return false;
-    known.Know(files, path, true);
-    return true;
+    return KeepWhatGoes(context, known, reason, path) && known.Replace(files, path, text);
 }
 
 bool KeepAside(Context& context, std::string_view reason, std::span<const KeptText> texts) {

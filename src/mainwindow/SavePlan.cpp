@@ -57,9 +57,9 @@ bool WritePlanFiles(Context& context) {
     const bool aircraftWritten = WritePlanAircraft(plan, files);
     if (written.Complete() && !aircraftWritten) ReportNotWritten(context, aircraftPath);
     ReportPlanNotWritten(context, plan.FlightplanPath, written);
-    if (written.PlanWritten) plan.Known.Know(files, plan.FlightplanPath, true);
-    if (written.RemovedWritten) plan.Known.Know(files, RemovedFlightsPath(plan.FlightplanPath), true);
-    if (aircraftWritten) plan.Known.Know(files, aircraftPath, true);
+    if (written.PlanHash) plan.Known.KnowWritten(files, plan.FlightplanPath, *written.PlanHash);
+    if (written.RemovedHash)
+        plan.Known.KnowWritten(files, RemovedFlightsPath(plan.FlightplanPath), *written.RemovedHash);
     return written.Complete() && aircraftWritten;
 }
 
@@ -90,9 +90,9 @@ MessageAnswer AskToSavePlan(Context& context) {
 }
 
 void ReportPlanNotWritten(Context& context, const std::string& path, const PlanWriteResult& written) {
-    if (!written.PlanWritten) {
+    if (!written.PlanWritten()) {
         ReportNotWritten(context, path);
-    } else if (!written.RemovedWritten) {
+    } else if (!written.RemovedWritten()) {
         ReportNotWritten(context, RemovedFlightsPath(path));
     }
 }

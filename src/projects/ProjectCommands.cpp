@@ -27,7 +27,6 @@ bool WriteKnownProject(Context& context) {
     if (path.empty() || !KeepWhatGoes(context, project.Known, kSaveReason, path) ||
         !WriteProject(project, files, path))
         return false;
-    project.Known.Know(files, path, true);
     return true;
 }
 
@@ -138,8 +137,7 @@ bool OpenProject(Context& context, std::string path) {
     BeginProject(context, context.services.files.FullPath(path), false);
     const BusyForm busy(context, form);
     form.lvProject.SwitchSorting(false);
-    const bool whole = ReadProject(project, context.services.files, project.ProjectPath);
-    project.Known.Know(context.services.files, project.ProjectPath, whole);
+    ReadProject(project, context.services.files, project.ProjectPath);
     ShowProjectEntries(context);
     project.ProjectLoaded = true;
     form.sbMain.text =

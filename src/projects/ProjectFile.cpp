@@ -1,5 +1,6 @@
 #include "projects/ProjectFile.h"
 
+#include "core/ContentHash.h"
 #include "core/LittleEndian.h"
 #include "core/Path.h"
 #include "core/Text.h"
@@ -80,15 +81,16 @@ std::string FormatProject(const std::vector<ProjectEntry>& entries) {
     return bytes;
 }
 
-bool ReadProject(ProjectState& project, FileSystem& files, const std::string& path) {
+void ReadProject(ProjectState& project, FileSystem& files, const std::string& path) {
     project.ProjectVersion = kVersion;
+    const auto stamp = files.Stamp(path);
     const std::string bytes = ReadWholeFile(files, path).value_or("");
     project.ProjectEntries = ParseProject(bytes);
-    return HoldsAll(project.ProjectEntries, bytes);
+    project.Known.Know(path, stamp, HashOf(bytes), HoldsAll(project.ProjectEntries, bytes));
 }
 
-bool WriteProject(const ProjectState& project, FileSystem& files, const std::string& path) {
-    return ReplaceWholeFile(files, path, FormatProject(project.ProjectEntries));
+bool WriteProject(ProjectState& project, FileSystem& files, const std::string& path) {
+    return project.Known.Replace(files, path, FormatProject(project.ProjectEntries));
 }
 
 std::string UsablePath(FileSystem& files, const std::string& path) {

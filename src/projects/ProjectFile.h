@@ -18,11 +18,10 @@ std::vector<ProjectEntry> ParseProject(std::string_view bytes);
 // A file of version 1.1. A text of more than 65,535 bytes is cut there.
 std::string FormatProject(const std::vector<ProjectEntry>& entries);
 
-// Replaces the entries; a file that can't be read gives none. The version is "1.1" then. Whether the file was
-// a whole project, of which the entries hold all.
-bool ReadProject(ProjectState& project, FileSystem& files, const std::string& path);
+// Replaces the entries; a file that can't be read gives none. The version is "1.1" then.
+void ReadProject(ProjectState& project, FileSystem& files, const std::string& path);
 // False, with the old file whole, where the file can't be written.
-bool WriteProject(const ProjectState& project, FileSystem& files, const std::string& path);
+bool WriteProject(ProjectState& project, FileSystem& files, const std::string& path);
 
 // The path as this system finds it, for one of a project that another system may have written: drive letters
 // are those of Wine, and bytes that are no UTF-8 are code page 1252. A path that leads nowhere stays.

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "core/ContentHash.h"
 #include "core/FlightplanFile.h"
 #include "core/KeptFiles.h"
 #include "core/PlanSideFiles.h"
 #include "mainwindow/StatusTexts.h"
 #include "shell/OpenPlan.h"
+#include "shell/Title.h"
 #include "support/FakeProgram.h"
 
 namespace orlo {
@@ -96,6 +98,33 @@ TEST_F(SavePlan, FilesOfOthersAreKeptAsOneEntryUnlessTheyAreBackedUp) {
     EXPECT_EQ(Kept().size(), 3u) << "the removed flights are this session's own";
 }
 
+TEST_F(SavePlan, AFileThatWasOnlyTouchedIsNotKept) {
+    const std::string text = Concat(kFlight, "\r\n");
+    Read(text);
+    ++program.world.files.touches;
+    SaveFlightplan(program.context);
+    ++program.world.files.touches;
+    SaveFlightplan(program.context);
+    EXPECT_EQ(Kept(), std::vector<std::string>());
+
+    std::string& aircraft = files["/p/Aircraft.txt"];
+    aircraft = ReplaceAll(aircraft, "Jet", "Jot");
+    SaveFlightplan(program.context);
+    EXPECT_EQ(Kept(), std::vector<std::string>{"/p/Aircraft.txt: AC#1,300,\"Jot\"\r\n"});
+
+    // Without regard to how the bytes come.
+    for (std::size_t length = 0; length < 100; ++length) {
+        const std::string bytes = (text + text).substr(0, length);
+        for (std::size_t cut = 0; cut <= length; cut += 7) {
+            ContentHash hash;
+            hash.Add(std::string_view(bytes).substr(0, cut));
+            hash.Add(std::string_view(bytes).substr(cut));
+            ASSERT_EQ(hash.Value(), HashOf(bytes)) << length << ' ' << cut;
+        }
+        ASSERT_NE(HashOf(bytes), HashOf(bytes + '\0'));
+    }
+}
+
 TEST_F(SavePlan, ASaveThatFailsIsRememberedAskedForAndKeptFromMemory) {
     Read(Concat("; mine\r\n", kFlight));
     session.plan.Flights.SetRemoved(0, true);
@@ -105,6 +134,14 @@ TEST_F(SavePlan, ASaveThatFailsIsRememberedAskedForAndKeptFromMemory) {
     EXPECT_EQ(files["/p/Plan.txt"], Concat("; mine\r\n", kFlight));
     EXPECT_FALSE(session.plan.PlanModified);
     EXPECT_TRUE(session.plan.DiffersFromFile);
+    session.project.ProjectPath = "/q/One.orp";
+    for (const bool differs : {false, true}) {
+        session.project.DiffersFromFile = differs;
+        RefreshTitle(program.context);
+        EXPECT_EQ(program.form.documentName, differs ? "Plan.txt, One.orp" : "Plan.txt");
+        EXPECT_TRUE(program.form.documentModified);
+    }
+    session.project = {};
     EXPECT_EQ(program.form.sbMain.text, "Not written: [/p/Plan.txt].");
 
     program.world.messages.answers = {MessageAnswer::Yes};

@@ -23,6 +23,7 @@ class MemoryFileSystem : public FileSystem {
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
+    std::size_t touches = 0;  // each turns the times of all files
     // The process dies after this many files are complete: nothing later reaches the disk.
     int commitsBeforeKill = -1;
 
@@ -43,7 +44,7 @@ class MemoryFileSystem : public FileSystem {
     std::optional<FileStamp> Stamp(const std::string& path) override {
         const auto found = files.find(Resolve(path));
         if (found == files.end()) return std::nullopt;
-        const auto time = static_cast<std::int64_t>(std::hash<std::string>()(found->second));
+        const auto time = static_cast<std::int64_t>(std::hash<std::string>()(found->second) + touches);
         return FileStamp{found->second.size(), time};
     }
     std::optional<std::uint64_t> FileSize(const std::string& path) override {
