@@ -7,6 +7,7 @@
 #include "console/ScriptText.h"
 #include "core/Text.h"
 #include "core/TextLines.h"
+#include "forms/Chart.h"
 #include "shell/Program.h"
 
 namespace orlo {
@@ -195,6 +196,10 @@ bool ConsoleHost::ShowPrintDialog(std::string_view title) {
 
 PrintOutcome ConsoleHost::Print(std::string_view text) {
     return ReplaceWholeFile(files_, printPath_, text) ? PrintOutcome::Printed : PrintOutcome::Failed;
+}
+
+std::string ConsoleHost::DrawCharts(std::span<const Chart* const> charts, PictureFormat) {
+    return ChartTables(charts);
 }
 
 bool ConsoleHost::OpenDocument(const std::string& path, const std::string&) {

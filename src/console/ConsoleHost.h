@@ -55,6 +55,7 @@ class ConsoleHost : public FrontEnd {
     std::optional<std::string> InputBox(const InputQuestion& question) override;
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
+    std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   private:

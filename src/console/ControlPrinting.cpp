@@ -1,9 +1,12 @@
 #include "console/ControlPrinting.h"
 
 #include <optional>
+#include <utility>
 
 #include "console/ScriptText.h"
 #include "core/Text.h"
+#include "core/TextLines.h"
+#include "forms/Chart.h"
 
 namespace orlo {
 namespace {
@@ -43,6 +46,15 @@ void PrintTree(std::ostream& out, const TreeView& tree) {
         const std::string_view mark = node.checked ? "[x]" : node.colour == Colour::Gray ? "[-]" : "[ ]";
         out << mark << ' ' << Printed(node.text) << '\t' << ColourWord(node.colour) << '\t'
             << Printed(node.tag) << '\n';
+    }
+}
+
+void PrintChart(std::ostream& out, const Chart& chart) {
+    for (const std::string_view line : SplitLines(chart.Content().Table("\n"))) {
+        std::string_view separator;
+        for (const std::string_view field : SplitText(line, '\t'))
+            out << std::exchange(separator, "\t") << Printed(field);
+        out << '\n';
     }
 }
 
@@ -95,6 +107,7 @@ void PrintListProperties(std::ostream& out, const ListView& list) {
 void PrintControl(std::ostream& out, const Control& control) {
     if (control.kind == ControlKind::ListView) return PrintList(out, As<ListView>(control));
     if (control.kind == ControlKind::TreeView) return PrintTree(out, As<TreeView>(control));
+    if (control.kind == ControlKind::Chart) return PrintChart(out, As<Chart>(control));
     if (const auto checked = CheckState(control)) {
         out << OnOff(*checked) << '\n';
     } else if (const auto text = TextOf(control)) {

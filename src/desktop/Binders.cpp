@@ -51,6 +51,7 @@ std::unique_ptr<Binder> MakeBinder(Control& control, QWidget& parent, EventSink&
             return Make<PictureBinder, Picture>(control, parent, sink);
         case ControlKind::StatusBar:
             return Make<StatusBarBinder, StatusBar>(control, parent, sink);
+        case ControlKind::Chart:
         case ControlKind::MenuEntry:
             break;
     }

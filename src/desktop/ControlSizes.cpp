@@ -68,6 +68,7 @@ QSize NaturalSize(const Control& control) {
         case ControlKind::ListView:
         case ControlKind::TreeView:
             return {kLeastListWidth, ListHeight(1)};
+        case ControlKind::Chart:
         case ControlKind::Frame:
         case ControlKind::Picture:
         case ControlKind::MenuEntry:

@@ -84,6 +84,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     std::optional<std::string> InputBox(const InputQuestion& question) override;
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
+    std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   protected:

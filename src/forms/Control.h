@@ -23,6 +23,7 @@ enum class ControlKind {
     Frame,
     ProgressBar,
     Picture,
+    Chart,
     StatusBar,
 };
 

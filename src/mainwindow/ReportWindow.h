@@ -1,8 +1,10 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "forms/Chart.h"
 #include "mainwindow/Context.h"
 
 namespace orlo {
@@ -15,5 +17,10 @@ std::string ReportText(const Form& form, const TextBox& text);
 // Asks for a printer and prints. False where nothing was printed; a print that failed is told in the status
 // bar.
 bool AskAndPrint(Context& context, std::string_view dialogTitle, std::string_view text);
+
+// Asks for a path, saves the charts there as one picture, and says so. The path's extension tells the
+// format, PNG where it is none of PNG, SVG and PDF.
+void SavePicture(Context& context, Form& form, std::string_view startFile,
+                 std::initializer_list<const Chart*> charts);
 
 }  // namespace orlo

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace orlo {
 
+struct Chart;
 struct Form;
 
 // What a file dialog is asked with. A filter is "Name|Pattern" pairs joined by "|".
@@ -29,6 +31,8 @@ struct InputQuestion {
     // middle of the topmost window.
     Form* quarterInside = nullptr;
 };
+
+enum class PictureFormat { Png, Svg, Pdf };
 
 enum class PrintOutcome { Printed, GivenUp, Failed };
 
@@ -66,6 +70,10 @@ class WindowHost {
     // Prints the text on the printer chosen last, fixed-pitch, size 10. The user may see the pages first and
     // give the print up.
     virtual PrintOutcome Print(std::string_view text) = 0;
+
+    // The file of a picture with the charts beside each other, at a size of its own whatever the window's. A
+    // front end without a screen gives their tables as text. Empty where it can't be made.
+    virtual std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) = 0;
 
     // Opens a document with the system's default handler.
     virtual bool OpenDocument(const std::string& path, const std::string& workingFolder) = 0;

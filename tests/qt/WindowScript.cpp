@@ -20,6 +20,7 @@
 
 #include "console/ControlPrinting.h"
 #include "core/Text.h"
+#include "forms/Chart.h"
 #include "shell/UserHands.h"
 
 namespace orlo::test {
@@ -71,6 +72,12 @@ PrintOutcome ScriptHost::Print(std::string_view text) {
     const bool printed =
         paper.open(QIODevice::WriteOnly) && paper.write(text.data(), static_cast<qint64>(text.size())) >= 0;
     return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
+}
+
+// As the console does, so that the files can be compared; the pictures have tests of their own.
+std::string ScriptHost::DrawCharts(std::span<const Chart* const> charts, PictureFormat format) {
+    if (DesktopHost::DrawCharts(charts, format).empty()) return {};
+    return ChartTables(charts);
 }
 
 bool ScriptHost::OpenDocument(const std::string& path, const std::string&) {

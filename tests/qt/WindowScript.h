@@ -30,6 +30,7 @@ class ScriptHost : public DesktopHost {
     void StartTimer(std::string_view name, int milliseconds) override;
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
+    std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   private:

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/Text.h"
+#include "forms/Chart.h"
 #include "services/FrontEnd.h"
 #include "services/Services.h"
 #include "support/MemoryFileSystem.h"
@@ -71,6 +72,9 @@ class FakeWindows : public WindowHost {
     PrintOutcome Print(std::string_view text) override {
         printed.emplace_back(text);
         return PrintOutcome::Printed;
+    }
+    std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat) override {
+        return ChartTables(charts);
     }
     bool OpenDocument(const std::string&, const std::string&) override { return true; }
 
