@@ -7,7 +7,9 @@ TTStatisticsForm::TTStatisticsForm() : Form("frmTTStatistics", "Airport Timetabl
     txtInfo.accessibleName = "Report";
     defaultButton = &cmdClose;
     cancelButton = &cmdClose;
-    layout.rows = {FillingRow(txtInfo), RightRow({cmdPrint, cmdSave, cmdClose})};
+    chStatistics.accessibleName = "Chart";
+    layout.rows = {PaneRow({{{FillingRow(txtInfo)}}, {{FillingRow(chStatistics)}}}),
+                   RightRow({cmdPrint, cmdSave, cmdSavePicture, cmdClose})};
 }
 
 }  // namespace orlo

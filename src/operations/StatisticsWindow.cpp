@@ -1,5 +1,6 @@
 #include "operations/StatisticsWindow.h"
 
+#include <optional>
 #include <string>
 
 #include "core/Application.h"
@@ -10,9 +11,11 @@
 #include "mainwindow/ReportWindow.h"
 #include "mainwindow/SavePlan.h"
 #include "mainwindow/StatusTexts.h"
+#include "operations/StatisticsChart.h"
 #include "operations/TimetableRows.h"
 #include "operations/TimetableStatistics.h"
 #include "operations/TimetableText.h"
+#include "simulator/Scenery.h"
 
 namespace orlo {
 namespace {
@@ -22,18 +25,26 @@ std::string_view TimeOfText(std::string_view text) {
     return TrimBlanks(text.substr(0, text.rfind('(')));
 }
 
-TimetableStatistics CountRows(const Context& context) {
+struct CountedRows {
+    TimetableStatistics statistics;
+    GroundSteps steps;
+};
+
+CountedRows CountRows(const Context& context) {
     const ListView& list = context.forms.frmMain.lvTimetable;
     const auto& rows = static_cast<const TimetableRows&>(*list.Source());
-    TimetableStatistics statistics(context.session.plan, context.session.fleet);
+    CountedRows counted{TimetableStatistics(context.session.plan, context.session.fleet),
+                        GroundSteps(list.Count())};
     std::string time;
     for (std::int32_t position = 0; position < list.Count(); ++position) {
         const std::int32_t row = list.PlaceAt(position);
         time.clear();
         rows.AppendText(row, kEventTime, time);
-        statistics.Count(rows.Arrives(row), rows.FlightPlace(row), TimeOfText(time));
+        const std::string_view clock = TimeOfText(time);
+        const std::int32_t code = counted.statistics.Count(rows.Arrives(row), rows.FlightPlace(row), clock);
+        counted.steps.Add(counted.statistics, code, ParseClockTime(clock).value_or(0));
     }
-    return statistics;
+    return counted;
 }
 
 ReportHead HeadOf(const MainForm& form) {
@@ -48,6 +59,16 @@ ReportHead HeadOf(const MainForm& form) {
     return head;
 }
 
+// Of the airport where the timetable asks for one, and that is known without a question.
+std::optional<std::int32_t> KnownStands(Context& context, std::string_view code) {
+    Session& session = context.session;
+    if (!ReadCachedScenery(session, context.services.files)) return std::nullopt;
+    for (const AirportRecord& airport : session.scenery.Airports) {
+        if (airport.ICAO == code) return static_cast<std::int32_t>(airport.Parkings.size());
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 void ShowTimetableStatistics(Context& context) {
@@ -56,7 +77,11 @@ void ShowTimetableStatistics(Context& context) {
     if (main.lvTimetable.Source() == nullptr) return;
     {
         const BusyForm busy(context, context.forms.frmMain);
-        form.txtInfo.text = StatisticsReport(CountRows(context), HeadOf(main));
+        const CountedRows counted = CountRows(context);
+        const ReportHead head = HeadOf(main);
+        form.txtInfo.text = StatisticsReport(counted.statistics, head);
+        form.chStatistics.Show(
+            StatisticsChart(counted.statistics, counted.steps, head, KnownStands(context, AskedAirports(head))));
     }
     form.SetFocus(form.txtInfo);
     context.services.windows.ShowModal(form, &context.forms.frmMain);
@@ -81,6 +106,11 @@ void SaveTimetableStatistics(Context& context) {
                 written ? "Successfully saved the Airport Timetable Statistics."
                         : "An error occured during writing the Airport Timetable Statistics.",
                 written ? kMarkInformation : kMarkCritical, &form);
+}
+
+void SaveTimetablePicture(Context& context) {
+    TTStatisticsForm& form = context.forms.frmTTStatistics;
+    SavePicture(context, form, "Airport Timetable Statistics.png", {&form.chStatistics});
 }
 
 void CloseTimetableStatistics(Context& context) {

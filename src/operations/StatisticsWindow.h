@@ -8,9 +8,10 @@ namespace orlo {
 // time there that can't be read leaves no hour out at its end.
 void ShowTimetableStatistics(Context& context);
 
-// The commands of the window, on the text that it shows.
+// The commands of the window, on the text or the picture that it shows.
 void PrintTimetableStatistics(Context& context);
 void SaveTimetableStatistics(Context& context);
+void SaveTimetablePicture(Context& context);
 void CloseTimetableStatistics(Context& context);
 
 }  // namespace orlo

@@ -39,6 +39,7 @@ void AppendHour(std::string& out, std::int32_t hour, const TimetableStatistics::
 }  // namespace
 
 void GroundCount::Reach(std::int32_t count, std::string_view time) {
+    seen = count;
     if (count <= maximum) return;
     maximum = count;
     timeOfMaximum = time;
@@ -49,7 +50,7 @@ void GroundCount::Arrive(std::string_view time) {
 }
 
 void GroundCount::Depart() {
-    --current;
+    seen = --current;
 }
 
 void GroundCount::DepartUncounted(std::string_view time) {
@@ -72,7 +73,7 @@ std::int32_t TimetableStatistics::ClassOf(std::string_view acNumber) const {
     return flies ? found->second : kClassNone;
 }
 
-void TimetableStatistics::Count(bool arrives, std::int32_t flight, std::string_view time) {
+std::int32_t TimetableStatistics::Count(bool arrives, std::int32_t flight, std::string_view time) {
     FlightState& state = flights_[static_cast<std::size_t>(flight)];
     if (state.aircraftClass == kNotLookedUp)
         state.aircraftClass = static_cast<std::int8_t>(ClassOf(plan_.Flights.At(flight).ACNumber));
@@ -93,6 +94,7 @@ void TimetableStatistics::Count(bool arrives, std::int32_t flight, std::string_v
     for (HourCount* count : {&total, ofHour}) {
         if (count != nullptr) ++(arrives ? count->arrivals : count->departures);
     }
+    return state.aircraftClass;
 }
 
 std::string StatisticsReport(const TimetableStatistics& statistics, const ReportHead& head) {

@@ -15,6 +15,7 @@ namespace orlo {
 // How many aircraft stand at the airport, and how many stood there at the busiest moment so far.
 struct GroundCount {
     std::int32_t current = 0;
+    std::int32_t seen = 0;  // by the last event: one that stood there before counts
     std::int32_t maximum = 0;
     std::string timeOfMaximum;  // empty until one counts
 
@@ -32,8 +33,9 @@ class TimetableStatistics {
   public:
     TimetableStatistics(const Plan& plan, const Fleet& fleet);
 
-    // `flight` is its place in the plan; `time` starts with "HH".
-    void Count(bool arrives, std::int32_t flight, std::string_view time);
+    // `flight` is its place in the plan; `time` starts with "HH". Gives the class of its aircraft, an index of
+    // `classes`.
+    std::int32_t Count(bool arrives, std::int32_t flight, std::string_view time);
 
     // The class of the first installed aircraft that the plan knows by this number, exactly; kClassNone
     // without one. Of several plan aircraft with its title the last gives an aircraft its number.

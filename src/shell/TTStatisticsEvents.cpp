@@ -14,6 +14,7 @@ constexpr std::array kTTStatisticsEvents = {
     EventEntry{nullptr, Help, ShowHelpPage},
     EventEntry{ControlOf<S, &S::cmdPrint>, Click, Run<PrintTimetableStatistics>},
     EventEntry{ControlOf<S, &S::cmdSave>, Click, Run<SaveTimetableStatistics>},
+    EventEntry{ControlOf<S, &S::cmdSavePicture>, Click, Run<SaveTimetablePicture>},
     EventEntry{ControlOf<S, &S::cmdClose>, Click, Run<CloseTimetableStatistics>},
 };
 

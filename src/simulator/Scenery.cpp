@@ -20,6 +20,10 @@ void ScanScenery(std::vector<AirportRecord>& records, const std::string& simulat
     }
 }
 
+std::string CachePath(const Session& session) {
+    return JoinPath(session.ProgramFolder, kAFDCacheName);
+}
+
 }  // namespace
 
 std::string SceneryFolder(const std::string& simulatorFolder) {
@@ -37,16 +41,18 @@ std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& 
 }
 
 void ForgetScenery(Session& session, FileSystem& files) {
-    files.DeleteFile(JoinPath(session.ProgramFolder, kAFDCacheName));
+    files.DeleteFile(CachePath(session));
     session.scenery.Airports = {};
 }
 
-bool ReadScenery(Session& session, Services& services) {
-    if (!session.scenery.Airports.empty()) return true;
-    const std::string cachePath = JoinPath(session.ProgramFolder, kAFDCacheName);
+bool ReadCachedScenery(Session& session, FileSystem& files) {
     AFDCacheHeader header;
-    if (ReadAFDCache(services.files, cachePath, session.scenery.Airports, header)) return true;
+    return !session.scenery.Airports.empty() ||
+           ReadAFDCache(files, CachePath(session), session.scenery.Airports, header);
+}
 
+bool ReadScenery(Session& session, Services& services) {
+    if (ReadCachedScenery(session, services.files)) return true;
     const std::string simulatorFolder = SimulatorFolder(session, services.machineSettings);
     if (simulatorFolder.empty()) {
         ShowMessage(services.messages, "Couldn't find FS2002 Path.", kMarkCritical);
@@ -54,8 +60,9 @@ bool ReadScenery(Session& session, Services& services) {
     }
     ScanScenery(session.scenery.Airports, simulatorFolder, services);
     if (session.scenery.Airports.empty()) return false;
+    AFDCacheHeader header;
     header.Date = DayCount(services.clock.Now());
-    WriteAFDCache(services.files, cachePath, session.scenery.Airports, header);
+    WriteAFDCache(services.files, CachePath(session), session.scenery.Airports, header);
     return true;
 }
 

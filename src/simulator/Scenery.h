@@ -20,6 +20,10 @@ std::vector<std::string> SceneryFileNames(FileSystem& files, const std::string& 
 // Deletes the cache and empties the airports in memory: the next use reads the scenery anew.
 void ForgetScenery(Session& session, FileSystem& files);
 
+// Fills session.scenery.Airports, unless it is filled, from the cache alone. False, with nothing told, where
+// there is no usable one.
+bool ReadCachedScenery(Session& session, FileSystem& files);
+
 // Fills session.scenery.Airports, unless it is filled, from the cache; where that is missing, of another
 // version or damaged, from the simulator's scenery, and then writes the cache. False, with no cache written,
 // when there are no airports afterwards. An unknown simulator is told to the user.

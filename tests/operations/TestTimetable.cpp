@@ -7,6 +7,7 @@
 #include "core/ClockTime.h"
 #include "core/Number.h"
 #include "core/Text.h"
+#include "operations/StatisticsChart.h"
 #include "operations/TimetableEvents.h"
 #include "operations/TimetableStatistics.h"
 #include "simulator/TimeZones.h"
@@ -199,6 +200,44 @@ TEST(TimetableStatistics, CountsAircraftOnTheGround) {
     EXPECT_EQ(statistics.total.departures, 5);
     EXPECT_EQ(statistics.hours[4].departures, 2);
     EXPECT_EQ(statistics.hours[23].departures, 1);
+}
+
+TEST(TimetableStatistics, TheChartHasThePeaksOfTheReport) {
+    test::FakeProgram fake;
+    fake.session.plan.PlanAircrafts = {{"AC#1", "Jet", "", 0}, {"AC#2", "Prop", "", 0}};
+    for (const std::int32_t aircraftClass : {kClassHugeJet, kClassMidProp}) {
+        fake.session.fleet.FSAircrafts.push_back({});
+        fake.session.fleet.FSAircrafts.back().Title = aircraftClass == kClassHugeJet ? "Jet" : "Prop";
+        fake.session.fleet.FSAircrafts.back().Class = aircraftClass;
+    }
+    constexpr int kFlights = 300;
+    for (int i = 0; i < kFlights; ++i) fake.AddFlight(Concat("AC#", i % 3, kRound));
+    std::mt19937 random(1);
+    for (const int rows : {1, 7, GroundSteps::kMostSteps, 2 * GroundSteps::kMostSteps + 1, 86400}) {
+        TimetableStatistics statistics(fake.session.plan, fake.session.fleet);
+        GroundSteps steps(rows);
+        for (int row = 0; row < rows; ++row) {
+            const std::int32_t seconds = row * (kSecondsPerDay / rows);
+            const std::int32_t code = statistics.Count(
+                random() % 2 == 0, static_cast<std::int32_t>(random() % kFlights), FormatClockTime(seconds));
+            steps.Add(statistics, code, seconds);
+        }
+        SCOPED_TRACE(rows);
+        ASSERT_TRUE(steps.InOrderOfTime());
+        const std::vector<double> places = steps.Places();
+        EXPECT_LE(places.size(), static_cast<std::size_t>(std::min(rows, GroundSteps::kMostSteps)));
+        for (const std::size_t code : {0, int{kClassHugeJet}, int{kClassMidProp}}) {
+            const GroundCount& count = code == 0 ? statistics.all : statistics.classes[code];
+            const auto peak = std::max_element(steps.Counts(code).begin(), steps.Counts(code).end());
+            EXPECT_EQ(*peak, count.maximum);
+            if (code != 0) continue;
+            const double place = places[static_cast<std::size_t>(peak - steps.Counts(code).begin())];
+            EXPECT_EQ(FormatClockTime(static_cast<std::int64_t>(place)), count.timeOfMaximum);
+        }
+        steps.Add(statistics, kClassNone, -1);
+        EXPECT_FALSE(steps.InOrderOfTime());
+        EXPECT_LE(steps.Places().front(), 1 + rows / GroundSteps::kMostSteps);
+    }
 }
 
 }  // namespace
