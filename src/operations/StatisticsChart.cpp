@@ -121,8 +121,8 @@ ChartContent StatisticsChart(const TimetableStatistics& statistics, const Ground
                              const ReportHead& head, std::optional<std::int32_t> stands) {
     const HourRange range = ShownHours(statistics, head);
     ChartContent content;
-    content.title = Concat(AskedAirports(head), ", ", RemoveAll(head.day, '#'), " ", head.start, " - ", head.end,
-                           " (", head.zone, ")");
+    content.title = Concat(AskedAirports(head), ", ", RemoveAll(head.day, '#'), " ", head.start, " - ",
+                           head.end, " (", head.zone, ")");
     content.plots = {HoursPlot(statistics, range), GroundPlot(statistics, steps, range, stands)};
     return content;
 }

@@ -80,8 +80,8 @@ void ShowTimetableStatistics(Context& context) {
         const CountedRows counted = CountRows(context);
         const ReportHead head = HeadOf(main);
         form.txtInfo.text = StatisticsReport(counted.statistics, head);
-        form.chStatistics.Show(
-            StatisticsChart(counted.statistics, counted.steps, head, KnownStands(context, AskedAirports(head))));
+        form.chStatistics.Show(StatisticsChart(counted.statistics, counted.steps, head,
+                                               KnownStands(context, AskedAirports(head))));
     }
     form.SetFocus(form.txtInfo);
     context.services.windows.ShowModal(form, &context.forms.frmMain);

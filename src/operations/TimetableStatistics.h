@@ -33,8 +33,8 @@ class TimetableStatistics {
   public:
     TimetableStatistics(const Plan& plan, const Fleet& fleet);
 
-    // `flight` is its place in the plan; `time` starts with "HH". Gives the class of its aircraft, an index of
-    // `classes`.
+    // `flight` is its place in the plan; `time` starts with "HH". Gives the class of its aircraft, an index
+    // of `classes`.
     std::int32_t Count(bool arrives, std::int32_t flight, std::string_view time);
 
     // The class of the first installed aircraft that the plan knows by this number, exactly; kClassNone
