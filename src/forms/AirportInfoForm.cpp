@@ -10,7 +10,7 @@ AirportInfoForm::AirportInfoForm() : Form("frmAirportInfo", "Airport Information
     defaultButton = &cmdClose;
     cancelButton = &cmdClose;
     layout.rows = {
-        PaneRow({{{FillingRow(txtInfo)}}, {{FillingRow(chRunways), FillingRow(chParkings)}}}),
+        PaneRow({{{FillingRow(txtInfo)}, 1, 2}, {{FillingRow(chRunways), FillingRow(chParkings)}}}),
         RightRow({cmdSave, cmdSavePicture, cmdPrint, cmdClose}),
     };
 }
