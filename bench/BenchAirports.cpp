@@ -10,6 +10,7 @@
 
 #include "RealWorld.h"
 #include "core/Path.h"
+#include "editors/AirportCharts.h"
 #include "editors/AirportDistance.h"
 #include "editors/AirportReport.h"
 #include "editors/AirportSearch.h"
@@ -118,16 +119,28 @@ void BM_SearchNothing(benchmark::State& state) {
     Search(state, "nowhere to be found");
 }
 
-void BM_ReportOfTheLargest(benchmark::State& state) {
+const AirportRecord& Largest() {
     const auto& airports = TheWorld().Airports();
     const auto size = [](const AirportRecord& airport) {
         return airport.Parkings.size() + airport.Runways.size() + airport.Frequencies.size();
     };
-    const AirportRecord& largest =
-        *std::max_element(airports.begin(), airports.end(),
-                          [&](const AirportRecord& a, const AirportRecord& b) { return size(a) < size(b); });
+    return *std::max_element(
+        airports.begin(), airports.end(),
+        [&](const AirportRecord& a, const AirportRecord& b) { return size(a) < size(b); });
+}
+
+void BM_ReportOfTheLargest(benchmark::State& state) {
+    const AirportRecord& largest = Largest();
     Measure(state, [&] { benchmark::DoNotOptimize(AirportReport(largest)); });
     state.counters["bytes"] = static_cast<double>(AirportReport(largest).size());
+}
+
+void BM_ChartsOfTheLargest(benchmark::State& state) {
+    const AirportRecord& largest = Largest();
+    Measure(state, [&] {
+        benchmark::DoNotOptimize(RunwayChart(largest));
+        benchmark::DoNotOptimize(ParkingChart(largest));
+    });
 }
 
 // From the menu to the open window and back.
@@ -167,6 +180,7 @@ BENCHMARK(BM_SearchAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SearchMany)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SearchNothing)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ReportOfTheLargest)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ChartsOfTheLargest)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenDistance)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenDistanceWithPlan)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Distance)->Unit(benchmark::kMillisecond);

@@ -109,7 +109,7 @@ class GridRows {
         grid_.addLayout(line, line_, 0, 1, -1);
         for (const Layout& pane : row.panes) {
             auto* grid = new QGridLayout;
-            line->addLayout(grid, Fills(pane) || !row.fills ? 1 : 0);
+            line->addLayout(grid, Fills(pane) || !row.fills ? pane.share : 0);
             if (!Fills(pane)) line->setAlignment(grid, Qt::AlignTop);
             GridRows(*grid, pane, widgetOf_).Add();
         }

@@ -94,7 +94,7 @@ void AppendHead(std::string& out, const AirportRecord& airport) {
 }
 
 // What differs between the two ends of a runway.
-struct RunwayEnd {
+struct ReportedEnd {
     std::string Name;
     double Heading;
     bool Takeoff;
@@ -105,7 +105,7 @@ struct RunwayEnd {
     std::string_view ILSFrequency;
 };
 
-RunwayEnd FirstEnd(const RunwayRecord& runway) {
+ReportedEnd FirstEnd(const RunwayRecord& runway) {
     return {RunwayName(runway.Number, runway.Kind),
             runway.Heading,
             runway.Takeoff1,
@@ -116,7 +116,7 @@ RunwayEnd FirstEnd(const RunwayRecord& runway) {
             runway.ILSFrequency1};
 }
 
-RunwayEnd SecondEnd(const RunwayRecord& runway) {
+ReportedEnd SecondEnd(const RunwayRecord& runway) {
     return {OtherRunwayName(runway.Number, runway.Kind),
             runway.Heading < 180 ? runway.Heading + 180.0 : runway.Heading - 180.0,
             runway.Takeoff2,
@@ -139,10 +139,10 @@ void ForEachEnd(const AirportRecord& airport, Visit visit) {
 void AppendRunways(std::string& out, const AirportRecord& airport) {
     out.append("\r\nRunways:\r\n");
     AppendHeader(out, kRunwayColumns);
-    ForEachEnd(airport, [&](const RunwayRecord& runway, const RunwayEnd& end) {
+    ForEachEnd(airport, [&](const RunwayRecord& runway, const ReportedEnd& end) {
         AppendRow(out, kRunwayColumns,
                   {end.Name, Feet(airport.Elevation), Degrees(end.Heading), Degrees(runway.MagVar),
-                   Feet(runway.Length), Feet(runway.Width), std::string(WordOf(kSurfaces, runway.Surface)),
+                   Feet(runway.Length), Feet(runway.Width), std::string(SurfaceWord(runway.Surface)),
                    std::string(YesOrNo(end.Takeoff)), std::string(YesOrNo(end.Landing)),
                    std::string(WordOf(kPatterns, end.Pattern))});
     });
@@ -153,7 +153,7 @@ void AppendRunways(std::string& out, const AirportRecord& airport) {
 void AppendILS(std::string& out, const AirportRecord& airport) {
     out.append("\r\nILS:\r\n");
     AppendHeader(out, kILSColumns);
-    ForEachEnd(airport, [&](const RunwayRecord&, const RunwayEnd& end) {
+    ForEachEnd(airport, [&](const RunwayRecord&, const ReportedEnd& end) {
         if (end.ILSName.empty()) return;
         AppendRow(
             out, kILSColumns,
@@ -177,19 +177,27 @@ void AppendParkings(std::string& out, const AirportRecord& airport) {
         const auto count =
             std::count_if(airport.Parkings.begin(), airport.Parkings.end(),
                           [&](const ParkingRecord& parking) { return parking.Class == counted; });
-        const std::string label = Concat(WordOf(kParkingClassNames, counted), ":");
+        const std::string label = Concat(ParkingClassWord(counted), ":");
         out.append(Concat("\t", PadRight(label, kCountWidth), count, kLineEnd));
     }
     out.append(kLineEnd);
     AppendHeader(out, kParkingColumns);
     for (const ParkingRecord& parking : airport.Parkings) {
         AppendRow(out, kParkingColumns,
-                  {parking.Name, std::string(WordOf(kParkingClassNames, parking.Class)),
+                  {parking.Name, std::string(ParkingClassWord(parking.Class)),
                    Concat(FormatFixed(parking.Radius * kFeetPerMetre, 1), "ft"), Degrees(parking.Heading)});
     }
 }
 
 }  // namespace
+
+std::string_view SurfaceWord(std::int32_t code) {
+    return WordOf(kSurfaces, code);
+}
+
+std::string_view ParkingClassWord(std::int32_t code) {
+    return WordOf(kParkingClassNames, code);
+}
 
 std::string AirportReport(const AirportRecord& airport) {
     std::string out;

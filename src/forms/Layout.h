@@ -43,6 +43,7 @@ struct LayoutRow {
 struct Layout {
     std::vector<LayoutRow> rows;
     int columns = 1;  // of fields
+    int share = 1;    // of the width, for a pane that fills: 2 gets twice what 1 gets
 };
 
 inline LayoutItem::LayoutItem(Control& controlOf) : control(&controlOf) {}
@@ -57,7 +58,8 @@ LayoutRow TitleRow(Label& label);
 LayoutRow LeftRow(std::initializer_list<LayoutItem> items);
 LayoutRow CentredRow(std::initializer_list<LayoutItem> items);
 LayoutRow RightRow(std::initializer_list<LayoutItem> items);
-// Fills where one of the panes has a row that does, and then such panes share the width that is left.
+// Fills where one of the panes has a row that does, and then such panes share the width that is left, equally
+// where they don't tell otherwise.
 LayoutRow PaneRow(std::initializer_list<Layout> panes);
 LayoutRow TurnRow(std::initializer_list<LayoutItem> panes);  // fills
 

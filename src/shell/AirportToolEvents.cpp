@@ -31,6 +31,7 @@ constexpr std::array kAirportSearchEvents = {
 constexpr std::array kAirportInfoEvents = {
     EventEntry{nullptr, Help, ShowHelpPage},
     EventEntry{ControlOf<I, &I::cmdSave>, Click, Run<SaveAirportInfo>},
+    EventEntry{ControlOf<I, &I::cmdSavePicture>, Click, Run<SaveAirportPicture>},
     EventEntry{ControlOf<I, &I::cmdPrint>, Click, Run<PrintAirportInfo>},
     EventEntry{ControlOf<I, &I::cmdClose>, Click, Run<CloseAirportInfo>},
 };

@@ -70,7 +70,7 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
              "lblProjectDescription lblProjectFile lblProjectAC cmdProjectFile cmdProjectAC cmdProjectAdd "
              "cmdProjectDelete cmdProjectMerge cmdProjectCompile mnuFile mnuTools mnuView mnuHelp cmdSysInfo "
              "cmdAdd cmdDelete cmdUndo cmdPrint mnuToolsSimulatorFolder mnuHelpKeptFiles cmdRestore "
-             "cmdShowFolder",
+             "cmdShowFolder cmdSavePicture",
              ' ')) {
         const Control* mine = nullptr;
         for (const Form* form : FormsOf(forms)) {

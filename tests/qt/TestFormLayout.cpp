@@ -17,7 +17,7 @@ struct RowsForm : Form {
             FieldRow({txtFirst, WithButton(txtSecond, cmdSecond)}),
             PaneRow({{{FillingRow(lvLeft), CentredRow({cmdAdd, cmdDelete})}},
                      {{RightRow({cmdMove})}},
-                     {{FillingRow(lvRight)}}}),
+                     {{FillingRow(lvRight)}, 1, 2}}),
             TurnRow({Holding(picOne, {{WideRow(txtOne)}}), Holding(picTwo, {{FillingRow(txtTwo)}})}),
         };
     }
@@ -84,8 +84,8 @@ TEST_F(FormLayout, PanesStandBesideEachOtherAndShareTheRoomWithTheOneOfTurns) {
     EXPECT_LT(PlaceOf(rows.lblRight).bottom(), right.top()) << "the label of a list stands above it";
     EXPECT_LT(left.right(), move.left());
     EXPECT_LT(move.right(), right.left());
-    EXPECT_LE(std::abs(left.width() - right.width()), 1);
-    EXPECT_GT(left.width(), 200);
+    EXPECT_LE(std::abs(2 * left.width() - right.width()), 2) << "it has two shares";
+    EXPECT_GT(left.width(), 170);
     EXPECT_LT(move.top(), left.top()) << "a pane that fills nothing begins at the top";
     const int middle = (PlaceOf(rows.cmdAdd).left() + PlaceOf(rows.cmdDelete).right()) / 2;
     EXPECT_LE(std::abs(middle - left.center().x()), 1);
