@@ -50,7 +50,8 @@ void PrintTree(std::ostream& out, const TreeView& tree) {
 }
 
 void PrintChart(std::ostream& out, const Chart& chart) {
-    for (const std::string_view line : SplitLines(chart.Content().Table("\n"))) {
+    const std::string table = chart.Content().Table("\n");
+    for (const std::string_view line : SplitLines(table)) {
         std::string_view separator;
         for (const std::string_view field : SplitText(line, '\t'))
             out << std::exchange(separator, "\t") << Printed(field);
