@@ -48,7 +48,9 @@ struct ShuffleState {
     bool ChangeIFRVFR = true;
     bool RemoveMinus = false;
     bool CheckFL = true;
-    AirlineSets RunAirlines;  // the working copy of Rules::Airlines, with the last results
+    AirlineSets RunAirlines;            // the working copy of Rules::Airlines, with the last results
+    std::int32_t NoAirlineFlights = 0;  // given to aircraft without airline by the last run
+    bool HasResult = false;             // both tell a run of the open plan that went through
 };
 
 // After the adding of a flight was given up, SearchResults and SearchResultIndex hold it as one element past

@@ -11,6 +11,7 @@
 #include "forms/MainForm.h"
 #include "forms/ProgressForm.h"
 #include "forms/ResizeGatesForm.h"
+#include "forms/SharesForm.h"
 #include "forms/SplashForm.h"
 #include "forms/TTStatisticsForm.h"
 #include "forms/TextEditForm.h"
@@ -33,6 +34,7 @@ struct Forms {
     AirportSearchForm frmAirportSearch;
     AirportInfoForm frmAirportInfo;
     KeptFilesForm frmKeptFiles;
+    SharesForm frmShares;
 };
 
 }  // namespace orlo

@@ -22,7 +22,7 @@ MainMenus::MainMenus(Form& form)
          {&mnuFileNewProject, &mnuRecentFlightPlan, &mnuFileExit, &mnuToolsShuffle, &mnuToolsCompileCurrent,
           &mnuToolsEditPlanAircraft, &mnuToolsAirportDistance, &mnuToolsReports, &mnuToolsCheckFL,
           &mnuToolsRandPlan, &mnuToolsAirlinesCFG, &mnuToolsDeleteCache, &mnuToolsSwitches, &mnuTA,
-          &mnuToolsBackupPlan, &mnuToolsSimulatorFolder, &mnuViewRefresh, &mnuHelpAbout}) {
+          &mnuToolsBackupPlan, &mnuToolsSimulatorFolder, &mnuViewRefresh, &mnuViewShares, &mnuHelpAbout}) {
         entry->separatorBefore = true;
     }
     for (MenuEntry* entry :

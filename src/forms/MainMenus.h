@@ -90,6 +90,7 @@ struct MainMenus {
     MenuEntry mnuViewStatusBar{mnuView, "mnuViewStatusBar", "Status &Bar"};
     MenuEntry mnuViewRefresh{mnuView, "mnuViewRefresh", "&Refresh"};
     MenuEntry mnuViewOptions{mnuView, "mnuViewOptions", "&Options"};
+    MenuEntry mnuViewShares{mnuView, "mnuViewShares", "S&hares..."};
 
     MenuEntry mnuHelp;
     MenuEntry mnuHelpContents{mnuHelp, "mnuHelpContents", "&Contents"};

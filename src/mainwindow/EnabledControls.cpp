@@ -27,6 +27,7 @@ void EnableMenus(Context& context) {
     form.mnuRecentFlightPlan.enabled = AnyPath(session.RecentFlightplans);
     form.mnuRecentProjects.enabled = AnyPath(session.RecentProjects);
     form.mnuToolsUndo.enabled = context.undo.Held;
+    form.mnuViewShares.enabled = session.shuffle.HasResult;
     Enable(
         {&form.mnuToolsCompileCurrent, &form.mnuToolsFPAirportsTXT, &form.mnuToolsRemoveMinus,
          &form.mnuToolsRandPerc, &form.mnuToolsRandFlightNumbers, &form.mnuToolsRandPlan,

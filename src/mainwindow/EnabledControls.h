@@ -5,8 +5,8 @@
 namespace orlo {
 
 // Which controls of the main window are enabled: a procedure for the menus and one for each pane. They only
-// read the state: plan and project with their marks, the lists, a held snapshot, a loaded action. Whoever
-// changes one of these runs the procedure.
+// read the state: plan and project with their marks, the lists, a held snapshot, a shuffle's result, a loaded
+// action. Whoever changes one of these runs the procedure.
 void EnableMenus(Context& context);
 void EnableShufflePane(Context& context);
 void EnableMovePane(Context& context);

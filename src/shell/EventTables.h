@@ -16,6 +16,7 @@ EventTable TTStatisticsEvents();
 EventTable FSAircraftEditEvents();
 EventTable ResizeGatesEvents();
 EventTable KeptFilesEvents();
+EventTable SharesEvents();
 EventTable TextEditEvents();
 EventTable DistanceEvents();
 EventTable AirportSearchEvents();

@@ -51,6 +51,7 @@ constexpr std::array kForms = {
     FactsOf<&Forms::frmAirportSearch>(Only<AirportSearchEvents>, "airports.html"),
     FactsOf<&Forms::frmAirportInfo>(Only<AirportInfoEvents>, "airports.html"),
     FactsOf<&Forms::frmKeptFiles>(Only<KeptFilesEvents>, "kept.html"),
+    FactsOf<&Forms::frmShares>(Only<SharesEvents>, "shares.html"),
 };
 
 constexpr std::size_t ListedBytes() {

@@ -24,6 +24,7 @@
 #include "shell/PaneFacts.h"
 #include "shell/ProjectTab.h"
 #include "shell/TreeEvents.h"
+#include "shuffler/SharesWindow.h"
 
 namespace orlo {
 namespace {
@@ -134,6 +135,7 @@ constexpr std::array kMenuEvents = {
     EventEntry{InMain<&M::mnuViewStatusBar>, Click, NoAction},
     EventEntry{InMain<&M::mnuViewRefresh>, Click, NoAction},
     EventEntry{InMain<&M::mnuViewOptions>, Click, NoAction},
+    EventEntry{InMain<&M::mnuViewShares>, Click, Run<ShowShares>},
     EventEntry{InMain<&M::mnuHelpContents>, Click, Run<ShowHelp>},
     EventEntry{InMain<&M::mnuHelpSearchForHelpOn>, Click, NoAction},
     EventEntry{InMain<&M::mnuHelpKeptFiles>, Click, Run<ShowKeptFiles>},

@@ -136,6 +136,7 @@ void OpenFlightplan(Context& context, std::string path) {
     session.plan.FlightplanPath = context.services.files.FullPath(path);
     session.plan.PlanLoaded = false;
     session.plan.PlanModified = false;
+    session.shuffle.HasResult = false;
     ForgetResultCounts(context.forms.frmMain);
     EnableAll(context);
     BusyForm busy(context, context.forms.frmMain, kOpenStages);

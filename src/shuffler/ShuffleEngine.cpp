@@ -58,6 +58,7 @@ ShuffleResult ShuffleFlightplan(Session& session, Services& services, const std:
     services.progress.SetText("Getting FS2002 Scenery...");
     ReadScenery(session, services);
     services.progress.SetText("Matching Aircraft...");
+    session.shuffle.HasResult = false;
     ResetRunAirlines(session);
     AirlineSet noAirlineSet = MakeNoAirlineSet(
         MatchAircraft(session.plan.PlanAircrafts, session.fleet.FSAircrafts, session.shuffle.RunAirlines));
@@ -72,6 +73,8 @@ ShuffleResult ShuffleFlightplan(Session& session, Services& services, const std:
     services.progress.SetMax(session.plan.FlightCount() + 1);
     const ShuffleResult result = ShuffleFlights(session, services, run);
     log.Close();
+    session.shuffle.NoAirlineFlights = noAirlineSet.Airlines.front().Flights;
+    session.shuffle.HasResult = result.succeeded;
     if (result.succeeded && session.switches.DebugOn) {
         WriteShuffleResultLog(services.files, flightplanPath, session.shuffle.RunAirlines,
                               noAirlineSet.Airlines.front(), session.fleet.FSAircrafts);

@@ -4,6 +4,7 @@
 #include "core/Number.h"
 #include "core/Path.h"
 #include "core/Text.h"
+#include "shuffler/ShuffleShares.h"
 
 namespace orlo {
 namespace {
@@ -20,15 +21,14 @@ void WriteAircraft(LineFile& log, const AirlineEntry& entry, const std::vector<F
     log.Line("");
 }
 
-std::string AchievedPercent(const AirlineEntry& entry, const AirlineSet& set) {
-    if (set.Flights == 0) return "0";
-    return FormatFixed(static_cast<double>(entry.Flights) * 100 / set.Flights, 2);
+std::string AchievedText(const AirlineEntry& entry, const AirlineSet& set) {
+    return set.Flights == 0 ? "0" : FormatFixed(AchievedPercent(entry, set), 2);
 }
 
-void WriteSet(LineFile& log, std::string_view level, std::string_view name, const AirlineSet& set,
-              const std::vector<FSAircraft>& fsAircrafts) {
+void WriteSet(LineFile& log, const SetOfLevel& shown, const std::vector<FSAircraft>& fsAircrafts) {
+    const AirlineSet& set = *shown.set;
     log.Line(kSeparator);
-    log.Line(Concat(level, ": ", name));
+    log.Line(Heading(shown));
     log.Line(Concat("Airlines: ", set.Airlines.size()));
     log.Line(Concat("Total flights: ", set.Flights));
     log.Line(kSeparator);
@@ -38,7 +38,7 @@ void WriteSet(LineFile& log, std::string_view level, std::string_view name, cons
         log.Line(Concat("\tAirline: ", entry.Name));
         log.Line(Concat("\tTotal flights: ", entry.Flights));
         log.Line(Concat("\tPlaned Percent: ", entry.PlannedPercent));
-        log.Line(Concat("\tAchieved Percent: ", AchievedPercent(entry, set)));
+        log.Line(Concat("\tAchieved Percent: ", AchievedText(entry, set)));
         WriteAircraft(log, entry, fsAircrafts);
     }
 }
@@ -54,15 +54,7 @@ void WriteShuffleResultLog(FileSystem& files, const std::string& flightplanPath,
     log.Line(Concat("Total flights: ", noAirline.Flights));
     WriteAircraft(log, noAirline, fsAircrafts);
 
-    const auto writeSets = [&](std::string_view level, const std::vector<AirlineSet>& list) {
-        for (const AirlineSet& set : list) WriteSet(log, level, set.Name, set, fsAircrafts);
-    };
-    WriteSet(log, "Region", "Global", sets.Global, fsAircrafts);
-    writeSets("Region", sets.Regions);
-    writeSets("Country", sets.Countries);
-    writeSets("State", sets.States);
-    writeSets("City", sets.Cities);
-    writeSets("Airport", sets.Airports);
+    for (const SetOfLevel& set : SetsByLevel(sets)) WriteSet(log, set, fsAircrafts);
     log.Close();
 }
 

@@ -70,7 +70,7 @@ TEST(Forms, MnemonicsOfFreelyChosenCaptionsClashWithNoOther) {
              "lblProjectDescription lblProjectFile lblProjectAC cmdProjectFile cmdProjectAC cmdProjectAdd "
              "cmdProjectDelete cmdProjectMerge cmdProjectCompile mnuFile mnuTools mnuView mnuHelp cmdSysInfo "
              "cmdAdd cmdDelete cmdUndo cmdPrint mnuToolsSimulatorFolder mnuHelpKeptFiles cmdRestore "
-             "cmdShowFolder cmdSavePicture",
+             "cmdShowFolder mnuViewShares cmdSavePicture",
              ' ')) {
         const Control* mine = nullptr;
         for (const Form* form : FormsOf(forms)) {
@@ -103,7 +103,8 @@ TEST(MainForm, NothingThatNeedsAPlanOrAProjectIsEnabledAtTheStart) {
         "mnuFileSave mnuFileSaveAs mnuFileSaveProject mnuFileSaveProjectAs mnuRecentFlightPlan "
         "mnuRecentProjects mnuToolsUndo mnuToolsCompileCurrent mnuToolsFPAirportsTXT mnuToolsRemoveMinus "
         "mnuToolsRandPerc mnuToolsRandFlightNumbers mnuToolsRandPlan mnuToolsCheckFL mnuToolsCheckFT "
-        "mnuToolsReports mnuToolsEditPlanAircraft cmdShuffle cmdACTypeDat cmdCalcStartNumber cmdMove "
+        "mnuToolsReports mnuToolsEditPlanAircraft mnuViewShares cmdShuffle cmdACTypeDat cmdCalcStartNumber "
+        "cmdMove "
         "cmdMovePercent cmdMoveSave cmdMoveExecute cmdMoveLoad cmdPreview cmdExport cmdExportRemainder "
         "cmdExportPrint cmdEditFlight cmdAddFlight cmdDeleteFlight cmdTTShow cmdTTPrint cmdTTSave "
         "cmdTTStatistics cmdProjectAdd cmdProjectDelete cmdProjectMerge cmdProjectCompile frProject "

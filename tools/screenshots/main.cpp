@@ -101,6 +101,7 @@ class Photographer {
         TakeTextEditor();
         TakeAirportTools();
         TakeKeptFiles();
+        TakeShares();
         return AllTaken();
     }
 
@@ -310,6 +311,14 @@ class Photographer {
             if (!before) KeepFiles(files_, program_.session.StateFolder, when, reason, paths);
         }
         TakeModal(form_.mnuHelpKeptFiles, program_.forms.frmKeptFiles, "kept");
+    }
+
+    void TakeShares() {
+        ShowTab("SHUFFLE");
+        answering_.start(kSettle);
+        Click(form_.cmdShuffle);
+        answering_.stop();
+        TakeModal(form_.mnuViewShares, program_.forms.frmShares, "shares");
     }
 
     // One of them isn't installed. The dialog puts a copy of the records back.
