@@ -125,15 +125,16 @@ void PlaceSides(ChartBoxes& boxes, const Measures& measures, const QRectF& room)
     }
 }
 
-void PlaceRows(PlotBox& box, const Measures& measures, double scroll, ChartBoxes& boxes) {
+void PlaceRows(PlotBox& box, const Measures& measures, std::optional<double> scroll, ChartBoxes& boxes) {
     const auto count = static_cast<double>(std::max<std::size_t>(box.plot.names.size(), 1));
     const double natural = NaturalRow(box.facts, measures.line);
-    boxes.overflow = std::max(0.0, std::ceil(count * natural - box.inner.height()));
+    if (scroll) boxes.overflow = std::max(0.0, std::ceil(count * natural - box.inner.height()));
     box.row = boxes.overflow > 0 ? natural : std::min(natural * 1.4, box.inner.height() / count);
-    box.scroll = std::clamp(scroll, 0.0, boxes.overflow);
+    box.scroll = std::clamp(scroll.value_or(0), 0.0, boxes.overflow);
 }
 
-void PlacePlots(ChartBoxes& boxes, const Measures& measures, const QRectF& room, double scroll) {
+void PlacePlots(ChartBoxes& boxes, const Measures& measures, const QRectF& room,
+                std::optional<double> scroll) {
     const double share = room.height() / static_cast<double>(boxes.plots.size());
     double top = room.top();
     for (PlotBox& box : boxes.plots) {
@@ -167,7 +168,8 @@ QFont TitleFont(const QFont& font) {
     return title;
 }
 
-ChartBoxes LayOutChart(const ChartData& chart, const QFont& font, const QRectF& room, double scroll) {
+ChartBoxes LayOutChart(const ChartData& chart, const QFont& font, const QRectF& room,
+                       std::optional<double> scroll) {
     const ChartContent& content = chart.content;
     const Measures measures(font);
     const double edge = std::min({measures.line * 0.6, room.width() / 4, room.height() / 4});

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QRectF>
+#include <optional>
 #include <vector>
 
 #include "desktop/PlotBox.h"
@@ -19,8 +20,10 @@ struct ChartBoxes {
 
 QFont TitleFont(const QFont& font);
 
-// Any room does, but one that is too small shows little. `scroll` counts from 0 to the overflow.
-ChartBoxes LayOutChart(const ChartData& chart, const QFont& font, const QRectF& room, double scroll);
+// Any room does, but one that is too small shows little. `scroll` counts from 0 to the overflow; without it
+// the lying bars are as low as it takes to show all.
+ChartBoxes LayOutChart(const ChartData& chart, const QFont& font, const QRectF& room,
+                       std::optional<double> scroll);
 
 // The height at which the chart is seen best at this width, with all lying bars.
 double NaturalHeight(const ChartData& chart, const QFont& font, double width);

@@ -18,7 +18,7 @@ namespace orlo {
 namespace {
 
 constexpr double kWidth = 1000;     // pixels, of all charts together
-constexpr double kHighest = 14000;  // more than an image or a page can have
+constexpr double kHighest = 19000;  // pixels; a page ends at 200 inches
 constexpr int kFontPixels = 14;
 constexpr int kPixelsPerInch = 96;
 constexpr double kPointsPerInch = 72;
@@ -54,7 +54,8 @@ bool Draw(const Sheet& sheet, QPaintDevice& device) {
     for (const ChartData& chart : sheet.charts) {
         painter.setFont(sheet.font);
         DrawChart(painter, chart,
-                  LayOutChart(chart, sheet.font, QRectF(left, 0, width, sheet.size.height()), 0), colours);
+                  LayOutChart(chart, sheet.font, QRectF(left, 0, width, sheet.size.height()), std::nullopt),
+                  colours);
         left += width;
     }
     return painter.end();

@@ -357,6 +357,10 @@ TEST_F(Charts, SavedPicturesAreReadByOthersAndHoldAllRows) {
         EXPECT_TRUE(pdf.startsWith("%PDF"));
         EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
     }
+    names.resize(2000);
+    const ChartData many(Of({Plot(SeriesKind::Bars, 2, names)}));
+    const ChartBoxes boxes = LayOutChart(many, QFont(), QRectF(0, 0, 1000, 900), std::nullopt);
+    EXPECT_LE(boxes.plots[0].Bar(1, 1999).top(), boxes.plots[0].inner.bottom());
     EXPECT_EQ(desktop.host.DrawCharts({}, PictureFormat::Png), "");
 }
 
