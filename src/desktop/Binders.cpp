@@ -1,6 +1,7 @@
 #include "desktop/Binders.h"
 
 #include "desktop/ButtonBinder.h"
+#include "desktop/ChartBinder.h"
 #include "desktop/CheckBoxBinder.h"
 #include "desktop/ComboBoxBinder.h"
 #include "desktop/DisplayBinders.h"
@@ -52,6 +53,7 @@ std::unique_ptr<Binder> MakeBinder(Control& control, QWidget& parent, EventSink&
         case ControlKind::StatusBar:
             return Make<StatusBarBinder, StatusBar>(control, parent, sink);
         case ControlKind::Chart:
+            return Make<ChartBinder, Chart>(control, parent, sink);
         case ControlKind::MenuEntry:
             break;
     }

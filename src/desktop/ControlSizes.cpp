@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "desktop/Binder.h"
+#include "desktop/ChartWidget.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
@@ -69,6 +70,7 @@ QSize NaturalSize(const Control& control) {
         case ControlKind::TreeView:
             return {kLeastListWidth, ListHeight(1)};
         case ControlKind::Chart:
+            return ChartWidget(nullptr).sizeHint();
         case ControlKind::Frame:
         case ControlKind::Picture:
         case ControlKind::MenuEntry:

@@ -12,8 +12,9 @@ namespace orlo {
 // The sizes that controls need with this screen's fonts and style, in the toolkit's pixels. All need the
 // application object.
 
-// The size at which a control shows its caption or entries whole. A text box, list, tree, progress or status
-// bar has one size for all of its kind, whatever it holds. 0 by 0 for a frame, a pane and a menu entry.
+// The size at which a control shows its caption or entries whole. A text box, list, tree, chart, progress
+// or status bar has one size for all of its kind, whatever it holds. 0 by 0 for a frame, a pane and a menu
+// entry.
 QSize NaturalSize(const Control& control);
 
 // The largest natural width among them.

@@ -24,7 +24,6 @@
 #include "desktop/ScreenPlace.h"
 #include "desktop/ScreenText.h"
 #include "desktop/TextPrinter.h"
-#include "forms/Chart.h"
 #include "shell/EventPump.h"
 
 namespace orlo {
@@ -278,10 +277,6 @@ PrintOutcome DesktopHost::Print(std::string_view text) {
                      [text, &printed](QPrinter* printer) { printed = PrintText(text, *printer, [] {}); });
     if (shown.exec() != QDialog::Accepted) return PrintOutcome::GivenUp;
     return printed ? PrintOutcome::Printed : PrintOutcome::Failed;
-}
-
-std::string DesktopHost::DrawCharts(std::span<const Chart* const>, PictureFormat) {
-    return {};
 }
 
 bool DesktopHost::OpenDocument(const std::string& path, const std::string&) {

@@ -335,8 +335,8 @@ bool InputFilter::Hover(FormWindow& window, QObject* object, QHelpEvent& event) 
     Event hover{&control.form, &control, EventKind::Hover, onContent ? binder->HoverValue(event.pos()) : -1};
     sink_.DeliverNow(hover);
     if (window.Shown() == nullptr) return true;
-    // The rows of a list have tips of their own.
-    if (control.kind == ControlKind::ListView) return false;
+    // The rows of a list and the values of a chart have tips of their own.
+    if (control.kind == ControlKind::ListView || control.kind == ControlKind::Chart) return false;
     QToolTip::showText(event.globalPos(), TipText(control.toolTip), widget);
     return true;
 }
