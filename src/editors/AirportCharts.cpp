@@ -103,6 +103,7 @@ ChartPlot PlotOf(const RadiusCounts& groups, std::int32_t step) {
     plot.title = "By radius and class";
     plot.placesTitle = step == 1 ? "Radius (m)" : Concat("Radius from (m), in steps of ", MetresText(step));
     plot.valuesTitle = "Parkings";
+    plot.stacked = true;
     for (const auto& [from, classes] : groups) plot.names.push_back(MetresText(from));
     const auto addSeries = [&](std::size_t place, std::string_view name) {
         ChartSeries series;
