@@ -17,7 +17,7 @@ double ValueStep(double range, int most, bool whole) {
     const double least = range / std::max(most, 1);
     const double power = std::pow(10, std::floor(std::log10(least)));
     double step = power * 10;
-    for (const double times : {1, 2, 5}) {
+    for (const double times : {1, 2, 3, 4, 5}) {
         if (power * times >= least) {
             step = power * times;
             break;

@@ -19,9 +19,9 @@ namespace {
 
 constexpr std::ptrdiff_t kFar = std::numeric_limits<std::ptrdiff_t>::max();
 constexpr std::ptrdiff_t kPages = 10;  // Page Down goes so many parts of the axis
-constexpr int kLinesHigh = 20;
+constexpr int kLinesHigh = 20;         // of each plot, the same below
 constexpr int kCharactersWide = 70;
-constexpr int kLeastLinesHigh = 10;  // of each plot
+constexpr int kLeastLinesHigh = 10;
 constexpr int kLeastCharactersWide = 30;
 
 // A tip is no markup, and keeps its lines.
@@ -53,14 +53,18 @@ ChartBoxes ChartWidget::Boxes() const {
     return LayOutChart(chart_, font(), viewport()->rect(), verticalScrollBar()->value());
 }
 
+QSize ChartWidget::SizeOf(int charactersWide, int linesHigh) const {
+    const int plots = std::max(1, static_cast<int>(chart_.content.plots.size()));
+    return {fontMetrics().horizontalAdvance('0') * charactersWide,
+            fontMetrics().height() * linesHigh * plots};
+}
+
 QSize ChartWidget::sizeHint() const {
-    return {fontMetrics().horizontalAdvance('0') * kCharactersWide, fontMetrics().height() * kLinesHigh};
+    return SizeOf(kCharactersWide, kLinesHigh);
 }
 
 QSize ChartWidget::minimumSizeHint() const {
-    const int plots = std::max(1, static_cast<int>(chart_.content.plots.size()));
-    return {fontMetrics().horizontalAdvance('0') * kLeastCharactersWide,
-            fontMetrics().height() * kLeastLinesHigh * plots};
+    return SizeOf(kLeastCharactersWide, kLeastLinesHigh);
 }
 
 void ChartWidget::paintEvent(QPaintEvent*) {

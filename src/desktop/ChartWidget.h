@@ -38,6 +38,8 @@ class ChartWidget : public QAbstractScrollArea {
     bool viewportEvent(QEvent* event) override;
 
   private:
+    // Of a widget with room for so much text, in its height for each of the plots.
+    QSize SizeOf(int charactersWide, int linesHigh) const;
     void FitScrollBar();
     void MoveTo(const ChartPoint& point);
     void BringIntoSight(const ChartPoint& point);

@@ -95,11 +95,12 @@ class Photographer {
         ShowTab("EXPORT");
         TakeModal(form_.cmdEditFlight, program_.forms.frmFlightEdit, "editor");
         ShowTab("TIMETABLE");
-        TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
         TakeModal(form_.mnuToolsAircraftEditor, program_.forms.frmFSAircraftEdit, "aircraft");
         TakeModal(form_.mnuToolsResizeGates, program_.forms.frmResizeGates, "gates");
         TakeTextEditor();
         TakeAirportTools();
+        // Behind those, which read the scenery: so the stands are known.
+        TakeModal(form_.cmdTTStatistics, program_.forms.frmTTStatistics, "statistics");
         TakeKeptFiles();
         TakeShares();
         return AllTaken();
