@@ -10,9 +10,8 @@
 namespace orlo {
 namespace {
 
-// Whole numbers without decimals, others with one.
-std::string ValueText(double value) {
-    return FormatFixed(value, value == std::floor(value) ? 0 : 1);
+std::string ValueText(double value, int decimals) {
+    return FormatFixed(value, value == std::floor(value) ? 0 : decimals);
 }
 
 void AppendRow(std::string& out, const std::vector<std::string>& fields, std::string_view lineEnd) {
@@ -22,13 +21,17 @@ void AppendRow(std::string& out, const std::vector<std::string>& fields, std::st
 
 void AppendPlot(std::string& out, const ChartPlot& plot, std::string_view lineEnd) {
     AppendRow(out, {plot.title}, lineEnd);
-    for (const ChartLevel& level : plot.levels) AppendRow(out, {level.name, ValueText(level.value)}, lineEnd);
+    for (const ChartLevel& level : plot.levels)
+        AppendRow(out, {level.name, ValueText(level.value, plot.decimals)}, lineEnd);
     std::vector<std::string> fields = {plot.placesTitle};
     for (const ChartSeries& series : plot.series) fields.push_back(series.name);
     AppendRow(out, fields, lineEnd);
     for (std::size_t place = 0; place < plot.PlaceCount(); ++place) {
         fields = {plot.PlaceText(place)};
-        for (const ChartSeries& series : plot.series) fields.push_back(ValueText(series.values[place]));
+        for (const ChartSeries& series : plot.series) {
+            const bool has = place < series.values.size();
+            fields.push_back(has ? ValueText(series.values[place], plot.decimals) : "");
+        }
         AppendRow(out, fields, lineEnd);
     }
 }
@@ -44,7 +47,7 @@ void AppendRunways(std::string& out, const ChartContent& content, std::string_vi
             if (end.closed) closed.append(closed.empty() ? "" : ", ").append(end.number);
         }
         AppendRow(out,
-                  {Concat(runway.ends[0].number, "/", runway.ends[1].number), ValueText(runway.heading),
+                  {Concat(runway.ends[0].number, "/", runway.ends[1].number), ValueText(runway.heading, 1),
                    std::to_string(runway.length), std::to_string(runway.width), runway.surface, closed},
                   lineEnd);
     }
@@ -61,7 +64,7 @@ std::string ChartPlot::PlaceText(std::size_t place) const {
         case ChartPlaces::Number:
             break;
     }
-    return ValueText(at[place]);
+    return ValueText(at[place], decimals);
 }
 
 std::string ChartContent::Table(std::string_view lineEnd) const {

@@ -66,7 +66,7 @@ ChartPlot GroundPlot(const TimetableStatistics& statistics, const GroundSteps& s
         plot.places = ChartPlaces::Number;
         plot.placesTitle = "Row of the timetable";
         plot.first = 1;
-        plot.last = statistics.total.arrivals + statistics.total.departures;
+        plot.last = statistics.total.arrivals + statistics.total.departures + 1;
     }
     plot.series.push_back(StepsOf(steps, 0, "All"));
     for (std::size_t code = kClassMicroProp; code <= kClassHugeJet; ++code) {

@@ -62,6 +62,7 @@ ReportHead HeadOf(const MainForm& form) {
 // Of the airport where the timetable asks for one, and that is known without a question.
 std::optional<std::int32_t> KnownStands(Context& context, std::string_view code) {
     Session& session = context.session;
+    if (code.find(',') != std::string_view::npos) return std::nullopt;
     if (!ReadCachedScenery(session, context.services.files)) return std::nullopt;
     for (const AirportRecord& airport : session.scenery.Airports) {
         if (airport.ICAO == code) return static_cast<std::int32_t>(airport.Parkings.size());

@@ -56,6 +56,7 @@ ChartPlot PlotOf(const AirlineSet& set) {
     plot.title = "Shares of the airlines";
     plot.placesTitle = "Airline";
     plot.valuesTitle = "Percent";
+    plot.decimals = 2;  // as the log has them
     plot.series = {{SeriesKind::Bars, "Planned", {}}, {SeriesKind::Bars, "Achieved", {}}};
     for (const AirlineEntry& entry : set.Airlines) {
         plot.names.push_back(entry.Name);
@@ -90,6 +91,8 @@ ChartContent ContentOf(const SetOfLevel& shown, std::int32_t noAirlineFlights) {
 
 void ShowShares(Context& context) {
     SharesForm& form = context.forms.frmShares;
+    // Half a run's counts tell nothing.
+    if (!context.session.shuffle.HasResult) return;
     FillSets(form.lvSets, SetsByLevel(context.session.shuffle.RunAirlines));
     ShowSharesOfSet(context);
     form.SetFocus(form.lvSets);

@@ -26,6 +26,7 @@ TEST(SharesWindow, OddSetsAreToldAsTheyAre) {
         FakeProgram program;
         program.session.shuffle.RunAirlines.Global = one.set;
         program.session.shuffle.NoAirlineFlights = one.noAirlineFlights;
+        program.session.shuffle.HasResult = true;
         program.form.mnuViewShares.enabled = true;
         program.Press(program.form.mnuViewShares);
         const SharesForm& shares = program.program.forms.frmShares;
@@ -42,6 +43,7 @@ TEST(SharesWindow, ARowShowsItsOwnSet) {
     sets.Cities = {MakeSet("City", {{"Gamma"}})};
     sets.Airports[0].Flights = 9;
     sets.Airports[1].Flights = 10;
+    program.session.shuffle.HasResult = true;
     program.form.mnuViewShares.enabled = true;
     SharesForm& shares = program.program.forms.frmShares;
     std::string shown;

@@ -283,6 +283,7 @@ struct SceneryWorld : FakeWorld {
 TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCacheWhileThatIsWhole) {
     SceneryWorld world;
     world.clock.now = 86400 / 2;
+    EXPECT_FALSE(ReadCachedScenery(world.session, world.files));
     ASSERT_TRUE(ReadScenery(world.session, world.services));
     const auto airports = world.session.scenery.Airports;
     ASSERT_EQ(airports.size(), 2u);
@@ -307,9 +308,13 @@ TEST(Scenery, IsReadFromTheSimulatorOnceAndThenFromTheCacheWhileThatIsWhole) {
     world.files.files[world.cachePath] = good.substr(0, good.size() - 1);  // damaged
     world.SetSimulator(NativePath("\\fs"));
     world.session.scenery.Airports.clear();
+    EXPECT_FALSE(ReadCachedScenery(world.session, world.files));
     ASSERT_TRUE(ReadScenery(world.session, world.services));
     EXPECT_EQ(world.session.scenery.Airports, airports);
     EXPECT_EQ(world.files.files[world.cachePath], good);
+    world.session.scenery.Airports.clear();
+    EXPECT_TRUE(ReadCachedScenery(world.session, world.files));
+    EXPECT_EQ(world.session.scenery.Airports, airports);
 }
 
 TEST(Scenery, WithoutASimulatorNothingIsReadAndNoCacheWritten) {
