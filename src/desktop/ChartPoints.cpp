@@ -198,11 +198,11 @@ ChartPoint Moved(const ChartData& chart, const ChartPoint& from, std::ptrdiff_t 
     if (!chart.content.runways.empty())
         return {0, 0, MovedWithin(from.place, places, chart.content.runways.size())};
     const std::vector<ChartPoint> all = AllSeries(chart);
-    if (!Exists(chart, from)) return all.front();
-    const auto now = std::find(all.begin(), all.end(), ChartPoint{from.plot, from.series, 0});
+    const ChartPoint start = Exists(chart, from) ? from : all.front();
+    const auto now = std::find(all.begin(), all.end(), ChartPoint{start.plot, start.series, 0});
     ChartPoint to = all[MovedWithin(static_cast<std::size_t>(now - all.begin()), series, all.size())];
     to.place =
-        MovedWithin(SamePlace(chart, from, to.plot), places, chart.content.plots[to.plot].PlaceCount());
+        MovedWithin(SamePlace(chart, start, to.plot), places, chart.content.plots[to.plot].PlaceCount());
     return to;
 }
 

@@ -12,9 +12,9 @@ class QPainter;
 namespace orlo {
 
 // How the series of a chart are told apart: by colours that differ for people who don't see all of them, and
-// besides by line styles and hatches. The ninth series looks like the first.
+// besides by line styles and hatches. The twelfth series looks like the first.
 
-constexpr std::size_t kChartStyles = 8;
+constexpr std::size_t kChartStyles = 11;
 
 struct ChartColours {
     QColor ground;

@@ -303,6 +303,11 @@ TEST_F(Charts, ArrowKeysTellEachValueInATipAndToScreenReaders) {
             EXPECT_EQ(QToolTip::text().replace('\n', ", ").toStdString(), text);
         }
     }
+    ChartPlot empty = DayOfSteps(0, 1);
+    ChartWidget& second = Show(Of({empty, Plot(SeriesKind::Bars, 1, kHours)}));
+    second.setFocus();
+    QTest::keyClick(test::WindowOf(form).windowHandle(), Key_End);
+    EXPECT_EQ(second.accessibleDescription(), "Place 03, S0: 31");
     const ChartWidget& chart = Show(Of({}));
     EXPECT_EQ(chart.accessibleDescription(), "Title Note");
     EXPECT_EQ(chart.focusPolicy(), Qt::NoFocus);
@@ -332,7 +337,9 @@ TEST_F(Charts, ThePointerHasATipAndRowsThatDoNotFitAreScrolled) {
 
 TEST_F(Charts, SavedPicturesAreReadByOthersAndHoldAllRows) {
     std::vector<std::string> names(200, "An airline of a long name");
-    form.chPlots.Show(Of({Plot(SeriesKind::Bars, 2, names)}));
+    ChartContent content = Of({Plot(SeriesKind::Bars, 2, names)});
+    content.title = "Fred & Sons <old>\x01\n";
+    form.chPlots.Show(content);
     struct Second : Form {
         Second() : Form("frmSecond", "") {}
         Chart chOther{*this, "chOther"};
@@ -352,6 +359,7 @@ TEST_F(Charts, SavedPicturesAreReadByOthersAndHoldAllRows) {
         EXPECT_EQ(image.pixelColor(2, 2), Qt::white);
         QSvgRenderer svg(bytes(PictureFormat::Svg));
         EXPECT_TRUE(svg.isValid());
+        EXPECT_TRUE(bytes(PictureFormat::Svg).contains("<title>Fred &amp; Sons &lt;old&gt;  </title>"));
         EXPECT_EQ(svg.viewBoxF().size(), QSizeF(image.size()));
         const QByteArray pdf = bytes(PictureFormat::Pdf);
         EXPECT_TRUE(pdf.startsWith("%PDF"));
