@@ -11,7 +11,6 @@ namespace {
 constexpr int kDarkBelow = 128;
 constexpr double kTint = 0.25;
 constexpr double kLineDistance = 5;  // within a hatch
-constexpr double kNarrowest = 3;     // that shows a hatch
 
 // After Okabe and Ito; the light ones are darkened until they stand out on white by 3 to 1 at least.
 constexpr std::array<QColor, kChartStyles> kOnLight = {
@@ -128,12 +127,12 @@ bool DashDrawn(std::span<const int> dashes, int distance) {
     return drawn;
 }
 
-void FillAsSeries(QPainter& painter, const QRectF& bar, std::size_t series, const ChartColours& colours) {
+void FillAsSeries(QPainter& painter, const QRectF& bar, std::size_t series, BarFill fill,
+                  const ChartColours& colours) {
     if (bar.isEmpty()) return;
     const QColor& colour = SeriesColour(colours, series);
     const int hatch = kHatches[series % kChartStyles];
-    if (hatch == kFilled || std::min(bar.width(), bar.height()) < kNarrowest)
-        return painter.fillRect(bar, colour);
+    if (hatch == kFilled || fill == BarFill::Plain) return painter.fillRect(bar, colour);
     painter.save();
     painter.setPen(QPen(colour, 1));
     painter.setBrush((hatch & kHollow) != 0 ? colours.ground : Blend(colour, colours.ground, kTint));

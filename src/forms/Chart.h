@@ -47,6 +47,7 @@ struct ChartPlot {
     std::vector<ChartSeries> series;
     std::vector<ChartLevel> levels;
     bool stacked = false;  // the bars of a place stand on one another, as those of many series always do
+    int decimals = -1;     // of shown values; -1: none of whole numbers, one of others
 
     std::size_t PlaceCount() const { return places == ChartPlaces::Named ? names.size() : at.size(); }
     // As it is shown: a name, "HH:MM:SS" or a number.
