@@ -45,9 +45,9 @@ int NameStep(int names, int most) {
     return (names + most - 1) / most;
 }
 
-QString ValueText(double value) {
+QString ValueText(double value, int decimals) {
     if (value >= kHuge) return QString::number(value, 'g', 3);
-    return QString::number(value, 'f', value == std::floor(value) ? 0 : 1);
+    return QString::number(value, 'f', value == std::floor(value) ? 0 : decimals);
 }
 
 QString ClockText(double seconds) {

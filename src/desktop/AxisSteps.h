@@ -15,8 +15,8 @@ double TimeStep(double range, int most);
 // Of so many names along an axis, each how many-th is shown so that there are `most` at most.
 int NameStep(int names, int most);
 
-// Whole numbers without decimals, others with one; huge ones by their power of ten.
-QString ValueText(double value);
+// With so many decimals unless it is whole. Huge numbers by their power of ten.
+QString ValueText(double value, int decimals = 1);
 // "HH:MM", or "HH:MM:SS" where it is no whole minute; the end of the day is "24:00".
 QString ClockText(double seconds);
 

@@ -10,6 +10,7 @@ namespace orlo {
 namespace {
 
 constexpr double kNaturalPlotHeight = 13;   // lines
+constexpr double kLeastAxes = 4;            // lines that a legend leaves them
 constexpr double kNaturalAspect = 0.8;      // of runways, height to width
 constexpr double kLargestShare = 0.3;       // of the width that names beside a plot take
 constexpr double kLeastWidthForNames = 45;  // characters
@@ -46,21 +47,33 @@ struct PlotHeads {
     double gap = 0;  // above upright axes, for half of the uppermost mark's text
     double marks = 0;
     double placesTitle = 0;
+    double below = 0;
 
-    double Sum() const { return title + legend + gap + marks + placesTitle; }
+    // With the distance to the next plot.
+    double Sum() const { return title + legend + gap + marks + placesTitle + below; }
 };
 
-PlotHeads HeadsOf(const PlotBox& box, const Measures& measures, double width) {
+PlotHeads HeadsOf(const PlotBox& box, const Measures& measures) {
     PlotHeads heads;
     heads.title = box.plot.title.empty() ? measures.line * 0.5 : measures.line * 1.3;
-    const std::vector<std::size_t> named = SeriesOfLegend(box.facts, box.namesAtLines);
-    if (!named.empty())
-        heads.legend =
-            LegendLines(box.plot, named, measures.metrics, width) * measures.line * 1.2 + measures.line * 0.3;
+    if (box.legendLines > 0) heads.legend = measures.line * (1.2 * box.legendLines + 0.3);
     if (!box.facts.lying) heads.gap = measures.line * 0.4;
     heads.marks = measures.line * 1.2;
     if (!box.plot.placesTitle.empty() || box.facts.lying) heads.placesTitle = measures.line * 1.1;
+    heads.below = measures.line * 0.3;
     return heads;
+}
+
+// All of them where the axes have room enough beside; in a small window the values are more than their names.
+int LegendLines(PlotBox box, const Measures& measures, double width, double height) {
+    const std::vector<std::size_t> named = SeriesOfLegend(box.facts, box.namesAtLines);
+    box.legendLines = LinesOf(LegendOf(box.plot, named, measures.metrics, width));
+    double least = kLeastAxes * measures.line;
+    if (box.facts.lying)
+        least = std::min(least,
+                         NaturalRow(box.facts, measures.line) * static_cast<double>(box.plot.names.size()));
+    while (box.legendLines > 0 && height - HeadsOf(box, measures).Sum() < least - 0.5) --box.legendLines;
+    return box.legendLines;
 }
 
 // The axis of the values: a mark at its upper end, and above the greatest value room for a text of a line.
@@ -76,8 +89,8 @@ void SetAxis(PlotBox& box, const Measures& measures) {
 }
 
 double ValuesWidth(const PlotBox& box, const Measures& measures) {
-    const double marks = std::max(measures.metrics.horizontalAdvance(ValueText(box.top)),
-                                  measures.metrics.horizontalAdvance(ValueText(box.top - box.step)));
+    const double marks = std::max(measures.metrics.horizontalAdvance(box.MarkText(box.top)),
+                                  measures.metrics.horizontalAdvance(box.MarkText(box.top - box.step)));
     const double title = box.plot.valuesTitle.empty() ? 0 : measures.line * 1.1;
     return marks + title + measures.Character();
 }
@@ -87,7 +100,7 @@ double NamesWidth(const PlotBox& box, const Measures& measures) {
     for (const std::size_t series : box.facts.steps)
         widest = std::max(widest, measures.Width(box.plot.series[series].name));
     for (const ChartLevel& level : box.plot.levels)
-        widest = std::max(widest, measures.metrics.horizontalAdvance(LevelText(level)));
+        widest = std::max(widest, measures.metrics.horizontalAdvance(LevelText(box.plot, level)));
     return widest + SampleWidth(measures.metrics) + measures.Character();
 }
 
@@ -108,7 +121,8 @@ void PlaceSides(ChartBoxes& boxes, const Measures& measures, const QRectF& room)
                 box.plot.names.empty() ? 0 : measures.Width(box.plot.names[box.facts.longestName]);
             left = std::max(
                 left, std::min(longest * 1.1, room.width() * kLargestShare * 1.3) + measures.Character());
-            right = std::max(right, measures.metrics.horizontalAdvance(ValueText(box.facts.greatest + 0.1)) +
+            right = std::max(right, measures.metrics.horizontalAdvance(
+                                        ValueText(box.facts.greatest + 0.1, box.plot.decimals)) +
                                         measures.Character());
             continue;
         }
@@ -139,14 +153,15 @@ void PlacePlots(ChartBoxes& boxes, const Measures& measures, const QRectF& room,
     double top = room.top();
     for (PlotBox& box : boxes.plots) {
         box.namesAtLines = NamesFitAtLines(box.facts, box, measures, room.width(), share);
-        const PlotHeads heads = HeadsOf(box, measures, room.width());
+        box.legendLines = LegendLines(box, measures, room.width(), share);
+        const PlotHeads heads = HeadsOf(box, measures);
         box.title = QRectF(room.left(), top, room.width(), heads.title);
         box.legend = QRectF(room.left(), box.title.bottom(), room.width(), heads.legend);
         // The marks of lying bars stand above them, so that they are seen while the rows are scrolled.
         const double above = box.facts.lying ? heads.marks + heads.placesTitle : heads.gap;
         const double innerTop = std::round(box.legend.bottom() + above);
-        box.inner = QRectF(room.left(), innerTop, room.width(),
-                           std::max(1.0, std::round(share - heads.Sum() - measures.line * 0.3)));
+        box.inner =
+            QRectF(room.left(), innerTop, room.width(), std::max(1.0, std::round(share - heads.Sum())));
         const double placesTop = box.facts.lying ? box.legend.bottom() : box.inner.bottom() + heads.marks;
         box.placesTitle = QRectF(room.left(), placesTop, room.width(), heads.placesTitle);
         if (!box.facts.lying) SetAxis(box, measures);
@@ -200,7 +215,8 @@ double NaturalHeight(const ChartData& chart, const QFont& font, double width) {
     for (std::size_t i = 0; i < content.plots.size(); ++i) {
         PlotBox box(content.plots[i], facts[i]);
         box.namesAtLines = NamesFitAtLines(facts[i], box, measures, inner, 1e6);
-        height += HeadsOf(box, measures, inner).Sum() + measures.line * 0.3;
+        box.legendLines = LegendLines(box, measures, inner, 1e6);
+        height += HeadsOf(box, measures).Sum();
         const auto count = static_cast<double>(box.plot.names.size());
         height +=
             facts[i].lying ? NaturalRow(facts[i], measures.line) * count : kNaturalPlotHeight * measures.line;

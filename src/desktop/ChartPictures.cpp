@@ -72,8 +72,8 @@ bool DrawSvg(const Sheet& sheet, QBuffer& file) {
     picture.setResolution(kPixelsPerInch);
     picture.setSize(sheet.size.toSize());
     picture.setViewBox(QRectF(QPointF(), sheet.size));
-    picture.setTitle(ShownText(sheet.charts.front().content.title));
-    picture.setDescription(ShownText(sheet.charts.front().content.note));
+    picture.setTitle(ShownText(sheet.charts.front().content.title).toHtmlEscaped());
+    picture.setDescription(ShownText(sheet.charts.front().content.note).toHtmlEscaped());
     return Draw(sheet, picture);
 }
 

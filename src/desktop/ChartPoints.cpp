@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "desktop/AxisSteps.h"
-#include "desktop/RunwayPainter.h"
+#include "desktop/RunwayLayout.h"
 #include "desktop/ScreenText.h"
 
 namespace orlo {
@@ -30,7 +30,7 @@ std::optional<ChartPoint> RunwayUnder(const ChartData& chart, const ChartBoxes& 
                                       const QPointF& at) {
     std::optional<ChartPoint> found;
     double nearest = kReach;
-    const std::vector<RunwayPlace> places = PlaceRunways(chart.content, font, boxes.runways);
+    const std::vector<RunwayPlace> places = LayOutRunways(chart.content, font, boxes.runways).places;
     for (std::size_t i = 0; i < places.size(); ++i) {
         const double distance = DistanceToLine(at, places[i].ends[0], places[i].ends[1]);
         if (distance > nearest) continue;
@@ -168,7 +168,7 @@ QPolygonF MarkOf(const ChartData& chart, const ChartBoxes& boxes, const QFont& f
                  const ChartPoint& point) {
     if (!Exists(chart, point)) return {};
     if (!chart.content.runways.empty()) {
-        const RunwayPlace place = PlaceRunways(chart.content, font, boxes.runways)[point.place];
+        const RunwayPlace place = LayOutRunways(chart.content, font, boxes.runways).places[point.place];
         const QPointF way = place.ends[1] - place.ends[0];
         const double length = std::hypot(way.x(), way.y());
         const QPointF unit = length > 0 ? way / length : QPointF(1, 0);
@@ -198,11 +198,11 @@ ChartPoint Moved(const ChartData& chart, const ChartPoint& from, std::ptrdiff_t 
     if (!chart.content.runways.empty())
         return {0, 0, MovedWithin(from.place, places, chart.content.runways.size())};
     const std::vector<ChartPoint> all = AllSeries(chart);
-    if (!Exists(chart, from)) return all.front();
-    const auto now = std::find(all.begin(), all.end(), ChartPoint{from.plot, from.series, 0});
+    const ChartPoint start = Exists(chart, from) ? from : all.front();
+    const auto now = std::find(all.begin(), all.end(), ChartPoint{start.plot, start.series, 0});
     ChartPoint to = all[MovedWithin(static_cast<std::size_t>(now - all.begin()), series, all.size())];
     to.place =
-        MovedWithin(SamePlace(chart, from, to.plot), places, chart.content.plots[to.plot].PlaceCount());
+        MovedWithin(SamePlace(chart, start, to.plot), places, chart.content.plots[to.plot].PlaceCount());
     return to;
 }
 
@@ -212,7 +212,7 @@ QString PointText(const ChartData& chart, const ChartPoint& point) {
     const ChartPlot& plot = chart.content.plots[point.plot];
     const ChartSeries& series = plot.series[point.series];
     return Named(plot.placesTitle, ShownText(plot.PlaceText(point.place)), " ") + '\n' +
-           Named(series.name, ValueText(DrawnValue(series, point.place)), ": ");
+           Named(series.name, ValueText(DrawnValue(series, point.place), plot.decimals), ": ");
 }
 
 }  // namespace orlo

@@ -27,8 +27,8 @@ QPolygonF MarkOf(const ChartData& chart, const ChartBoxes& boxes, const QFont& f
 
 bool HasPoints(const ChartData& chart);
 // The point so many places further along the axis, and so many series further down, through all plots; what
-// lies beyond an end is the end. A point that the chart doesn't have becomes one that it has; the chart has
-// one at least.
+// lies beyond an end is the end. From a point that the chart doesn't have it goes as from its first one; the
+// chart has one at least.
 ChartPoint Moved(const ChartData& chart, const ChartPoint& from, std::ptrdiff_t places,
                  std::ptrdiff_t series);
 

@@ -12,9 +12,9 @@ class QPainter;
 namespace orlo {
 
 // How the series of a chart are told apart: by colours that differ for people who don't see all of them, and
-// besides by line styles and hatches. The ninth series looks like the first.
+// besides by line styles and hatches. The twelfth series looks like the first.
 
-constexpr std::size_t kChartStyles = 8;
+constexpr std::size_t kChartStyles = 11;
 
 struct ChartColours {
     QColor ground;
@@ -37,8 +37,13 @@ int DashLength(std::span<const int> dashes);
 // Whether the line is drawn at this distance from its start, 0 or more.
 bool DashDrawn(std::span<const int> dashes, int distance);
 
-// Fills the rectangle as a bar of the series, with its hatch, and draws its edges. One that is too narrow for
-// a hatch is filled.
-void FillAsSeries(QPainter& painter, const QRectF& bar, std::size_t series, const ChartColours& colours);
+enum class BarFill {
+    Hatched,  // with edges
+    Plain,    // where the bars are too narrow for hatches
+};
+
+// Fills the rectangle as a bar of the series.
+void FillAsSeries(QPainter& painter, const QRectF& bar, std::size_t series, BarFill fill,
+                  const ChartColours& colours);
 
 }  // namespace orlo

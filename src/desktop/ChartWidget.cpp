@@ -22,6 +22,7 @@ constexpr std::ptrdiff_t kPages = 10;  // Page Down goes so many parts of the ax
 constexpr int kLinesHigh = 20;         // of each plot, the same below
 constexpr int kCharactersWide = 70;
 constexpr int kLeastLinesHigh = 10;
+constexpr int kLinesForLegends = 4;  // more, so that each plot with a legend shows a line of it
 constexpr int kLeastCharactersWide = 30;
 
 // A tip is no markup, and keeps its lines.
@@ -64,7 +65,10 @@ QSize ChartWidget::sizeHint() const {
 }
 
 QSize ChartWidget::minimumSizeHint() const {
-    return SizeOf(kLeastCharactersWide, kLeastLinesHigh);
+    const auto named = [](const PlotFacts& facts) { return !SeriesOfLegend(facts, false).empty(); };
+    const bool legend = std::any_of(chart_.facts.begin(), chart_.facts.end(), named);
+    const int more = legend ? fontMetrics().height() * kLinesForLegends : 0;
+    return SizeOf(kLeastCharactersWide, kLeastLinesHigh).grownBy({0, 0, 0, more});
 }
 
 void ChartWidget::paintEvent(QPaintEvent*) {

@@ -13,6 +13,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QUrl>
 #include <algorithm>
 
@@ -120,6 +121,13 @@ QStringList FiltersOf(const std::string& filter) {
     return filters;
 }
 
+// What a name without an extension gets by a filter of the toolkit's form: that of the first pattern, empty
+// where this stands for any.
+QString SuffixOf(const QString& filter) {
+    static const QRegularExpression kFirstPattern("\\(\\*\\.([^ *?)]+)[ )]");
+    return kFirstPattern.match(filter).captured(1);
+}
+
 // The folder of a path that may name a file; empty where there is none.
 QString FolderOf(const std::string& path) {
     if (path.empty()) return {};
@@ -199,6 +207,12 @@ std::string DesktopHost::ShowSaveDialog(const FileDialog& dialog) {
     shown.setFileMode(QFileDialog::AnyFile);
     shown.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
     SetUp(shown, dialog, saveFolder_);
+    if (dialog.defaultExtension.empty()) {
+        // Set before the name is accepted, so that the question before overwriting is about the whole name.
+        shown.setDefaultSuffix(SuffixOf(shown.selectedNameFilter()));
+        QObject::connect(&shown, &QFileDialog::filterSelected, &shown,
+                         [&shown](const QString& filter) { shown.setDefaultSuffix(SuffixOf(filter)); });
+    }
     std::string path = ChosenPath(shown, saveFolder_);
     while (!path.empty() && dialog.overwritePrompt && !MayReplace(shown, path))
         path = endTimer_.isActive() ? std::string() : ChosenPath(shown, saveFolder_);

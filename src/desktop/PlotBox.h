@@ -2,8 +2,11 @@
 
 #include <QFontMetricsF>
 #include <QRectF>
+#include <QString>
 #include <vector>
 
+#include "desktop/ChartStyle.h"
+#include "desktop/LegendItems.h"
 #include "desktop/PlotFacts.h"
 #include "forms/Chart.h"
 
@@ -17,6 +20,7 @@ struct PlotBox {
     const PlotFacts& facts;
     QRectF title;               // a line
     QRectF legend;              // lines above the axes; empty for none
+    int legendLines = 0;        // of the legend that are shown
     QRectF inner;               // between the axes
     QRectF placesTitle;         // a line below
     bool namesAtLines = false;  // the names of step lines and levels stand at their right ends
@@ -34,22 +38,25 @@ struct PlotBox {
     double SlotWidth() const { return inner.width() / (facts.last - facts.first); }
     // The bars are so narrow that they are drawn like steps.
     bool Dense() const;
+    // The same for all bars, so that none seems to be of another series.
+    BarFill Fill() const;
+    // As a mark of the axis of the values has it.
+    QString MarkText(double value) const;
 
   private:
-    double BarStart(std::size_t series, double slot, double& thickness) const;
+    double BarThickness() const;
+    double BarStart(std::size_t series) const;
 };
 
 // The height of a place of lying bars at which names and values are seen best, by that of a line of text.
 double NaturalRow(const PlotFacts& facts, double line);
 
-// What a legend needs at this width, in lines of text.
-int LegendLines(const ChartPlot& plot, const std::vector<std::size_t>& series, const QFontMetricsF& metrics,
-                double width);
-// The room of a sample and a name in a legend.
-double LegendItemWidth(const ChartSeries& series, const QFontMetricsF& metrics);
+// Where these series stand in a legend of this width.
+std::vector<LegendItem> LegendOf(const ChartPlot& plot, const std::vector<std::size_t>& series,
+                                 const QFontMetricsF& metrics, double width);
 double SampleWidth(const QFontMetricsF& metrics);
 // Its name and value.
-QString LevelText(const ChartLevel& level);
+QString LevelText(const ChartPlot& plot, const ChartLevel& level);
 // The series that the legend of the plot names.
 std::vector<std::size_t> SeriesOfLegend(const PlotFacts& facts, bool namesAtLines);
 

@@ -52,6 +52,29 @@ void WalkValues(const ChartPlot& plot, PlotFacts& facts) {
     }
 }
 
+// No line of a picture holds a line break or tab, and its file may hold no other control character.
+void BlankControls(std::string& text) {
+    for (char& byte : text) {
+        if (static_cast<unsigned char>(byte) < ' ') byte = ' ';
+    }
+}
+
+void BlankControls(ChartPlot& plot) {
+    for (std::string* text : {&plot.title, &plot.placesTitle, &plot.valuesTitle}) BlankControls(*text);
+    for (std::string& name : plot.names) BlankControls(name);
+    for (ChartSeries& series : plot.series) BlankControls(series.name);
+    for (ChartLevel& level : plot.levels) BlankControls(level.name);
+}
+
+void BlankControls(ChartContent& content) {
+    for (std::string* text : {&content.title, &content.note, &content.lengthUnit}) BlankControls(*text);
+    for (ChartPlot& plot : content.plots) BlankControls(plot);
+    for (ChartRunway& runway : content.runways) {
+        BlankControls(runway.surface);
+        for (RunwayEnd& end : runway.ends) BlankControls(end.number);
+    }
+}
+
 }  // namespace
 
 double DrawnValue(const ChartSeries& series, std::size_t place) {
@@ -81,6 +104,7 @@ PlotFacts FactsOf(const ChartPlot& plot, bool alone) {
 }
 
 ChartData::ChartData(ChartContent contentOf) : content(std::move(contentOf)) {
+    BlankControls(content);
     for (const ChartPlot& plot : content.plots) facts.push_back(FactsOf(plot, content.plots.size() == 1));
 }
 

@@ -27,7 +27,7 @@ struct PlotFacts {
 // `alone`: its chart has no other plot, so that it may be as high as it likes.
 PlotFacts FactsOf(const ChartPlot& plot, bool alone);
 
-// A chart with what is drawn of it.
+// A chart with what is drawn of it. Control characters of its texts are blanks here.
 struct ChartData {
     explicit ChartData(ChartContent contentOf);
 

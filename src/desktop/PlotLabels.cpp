@@ -63,7 +63,7 @@ void DrawStepPeak(QPainter& painter, const PlotBox& box, const ChartColours& col
     painter.restore();
     const double line = QFontMetricsF(painter.font()).height();
     DrawOnGround(painter, box, colours, peak - QPointF(0, line * 0.5 + kDot + 1),
-                 ValueText(value) + " at " + PeakPlace(box.plot, place));
+                 ValueText(value, box.plot.decimals) + " at " + PeakPlace(box.plot, place));
 }
 
 void DrawBarPeak(QPainter& painter, const PlotBox& box, const ChartColours& colours) {
@@ -82,7 +82,7 @@ void DrawBarPeak(QPainter& painter, const PlotBox& box, const ChartColours& colo
     if (greatest <= 0) return;
     const double line = QFontMetricsF(painter.font()).height();
     DrawOnGround(painter, box, colours, QPointF(highest.center().x(), highest.top() - line * 0.55),
-                 ValueText(greatest));
+                 ValueText(greatest, box.plot.decimals));
 }
 
 }  // namespace
@@ -97,25 +97,32 @@ std::vector<double> Spread(std::vector<double> at, double distance, double top, 
 void DrawLegend(QPainter& painter, const PlotBox& box, const ChartColours& colours) {
     const QFontMetricsF metrics(painter.font());
     const double line = metrics.height();
-    const double sample = SampleWidth(metrics) - metrics.horizontalAdvance('0');
-    QPointF at = box.legend.topLeft();
-    for (const std::size_t series : SeriesOfLegend(box.facts, box.namesAtLines)) {
-        const double item = LegendItemWidth(box.plot.series[series], metrics);
-        if (at.x() > box.legend.left() && at.x() + item > box.legend.right())
-            at = QPointF(box.legend.left(), at.y() + line * 1.2);
+    const double digit = metrics.horizontalAdvance('0');
+    const double sample = SampleWidth(metrics) - digit;
+    const std::vector<std::size_t> named = SeriesOfLegend(box.facts, box.namesAtLines);
+    const std::vector<LegendItem> items = LegendOf(box.plot, named, metrics, box.legend.width());
+    double end = 0;  // of the last name
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        painter.setPen(colours.text);
+        if (items[i].line >= box.legendLines) {  // the others have no room
+            const double y = box.legend.top() + line * 1.2 * (box.legendLines - 1) + line * 0.1;
+            if (i > 0) painter.drawText(QRectF(end, y, line * 2, line), Qt::AlignLeft, QChar(0x2026));
+            return;
+        }
+        const ChartSeries& series = box.plot.series[named[i]];
+        const QPointF at = box.legend.topLeft() + QPointF(items[i].x, line * 1.2 * items[i].line);
         const double middle = at.y() + line * 0.6;
-        if (box.plot.series[series].kind == SeriesKind::Bars) {
+        const QRectF room(at.x() + SampleWidth(metrics), middle - line, box.legend.width(), line * 2);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, ShownText(series.name));
+        end = room.left() + metrics.horizontalAdvance(ShownText(series.name)) + digit / 2;
+        if (series.kind == SeriesKind::Bars) {
             FillAsSeries(painter,
                          QRectF(std::round(at.x()), std::round(middle - line * 0.35), std::round(sample),
                                 std::round(line * 0.7)),
-                         series, colours);
+                         named[i], box.Fill(), colours);
         } else {
-            DrawLineSample(painter, QPointF(at.x(), middle), sample, series, colours);
+            DrawLineSample(painter, QPointF(at.x(), middle), sample, named[i], colours);
         }
-        painter.setPen(colours.text);
-        painter.drawText(QRectF(at.x() + SampleWidth(metrics), middle - line, item, line * 2),
-                         Qt::AlignLeft | Qt::AlignVCenter, ShownText(box.plot.series[series].name));
-        at.rx() += item;
     }
 }
 
@@ -133,7 +140,7 @@ void DrawNamesAtLines(QPainter& painter, const PlotBox& box, const ChartColours&
         names.push_back({box.Y(DrawnValue(line, box.plot.PlaceCount() - 1)), ShownText(line.name), &series});
     }
     for (const ChartLevel& level : box.plot.levels) {
-        if (IsShown(box, level)) names.push_back({box.Y(level.value), LevelText(level), nullptr});
+        if (IsShown(box, level)) names.push_back({box.Y(level.value), LevelText(box.plot, level), nullptr});
     }
     std::stable_sort(names.begin(), names.end(),
                      [](const LineName& a, const LineName& b) { return a.y < b.y; });
@@ -167,14 +174,15 @@ void DrawLevels(QPainter& painter, const PlotBox& box, const ChartColours& colou
         if (box.facts.lying) {
             const double x = std::floor(box.inner.left() + box.Length(level.value)) + 0.5;
             painter.drawLine(QPointF(x, box.inner.top()), QPointF(x, box.inner.bottom()));
-            DrawOnGround(painter, box, colours, QPointF(x, box.inner.bottom() - line), LevelText(level));
+            DrawOnGround(painter, box, colours, QPointF(x, box.inner.bottom() - line),
+                         LevelText(box.plot, level));
             continue;
         }
         const double y = std::floor(box.Y(level.value)) + 0.5;
         painter.drawLine(QPointF(box.inner.left(), y), QPointF(box.inner.right(), y));
         if (box.namesAtLines) continue;
         const double x = PeakIsLeft(box) ? box.inner.right() : box.inner.left();
-        DrawOnGround(painter, box, colours, QPointF(x, y - line * 0.6), LevelText(level));
+        DrawOnGround(painter, box, colours, QPointF(x, y - line * 0.6), LevelText(box.plot, level));
     }
 }
 

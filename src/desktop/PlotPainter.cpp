@@ -35,7 +35,7 @@ void DrawUprightValues(QPainter& painter, const PlotBox& box, const ChartColours
         painter.drawLine(QPointF(box.inner.left(), y), QPointF(box.inner.right(), y));
         painter.setPen(colours.text);
         const QRectF room(0, y - line, box.inner.left() - line * 0.35, line * 2);
-        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, ValueText(value));
+        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, box.MarkText(value));
     }
 }
 
@@ -96,7 +96,7 @@ void DrawUprightBars(QPainter& painter, const PlotBox& box, const ChartColours& 
     if (box.Dense()) return DrawDenseBars(painter, box, colours);
     for (std::size_t place = 0; place < box.plot.PlaceCount(); ++place) {
         for (const std::size_t series : box.facts.bars)
-            FillAsSeries(painter, box.Bar(series, place), series, colours);
+            FillAsSeries(painter, box.Bar(series, place), series, box.Fill(), colours);
     }
 }
 
@@ -130,7 +130,7 @@ void DrawLyingMarks(QPainter& painter, const PlotBox& box, const ChartColours& c
         painter.drawLine(QPointF(x, box.inner.top()), QPointF(x, bottom));
         painter.setPen(colours.text);
         painter.drawText(QRectF(x - line * 4, box.inner.top() - line * 1.1, line * 8, line), Qt::AlignCenter,
-                         ValueText(value));
+                         box.MarkText(value));
     }
     painter.drawText(box.placesTitle, Qt::AlignLeft | Qt::AlignVCenter,
                      Elided(painter, box.plot.valuesTitle, box.placesTitle.width()));
@@ -150,11 +150,11 @@ void DrawRow(QPainter& painter, const PlotBox& box, const ChartColours& colours,
     }
     for (const std::size_t series : box.facts.bars) {
         const QRectF bar = box.Bar(series, place);
-        FillAsSeries(painter, bar, series, colours);
+        FillAsSeries(painter, bar, series, box.Fill(), colours);
         if (bar.height() < line * 0.6 || (box.facts.stacked && series != box.facts.bars.back())) continue;
         const double value = box.facts.stacked ? StackedValue(box.plot, box.facts, series, place)
                                                : DrawnValue(box.plot.series[series], place);
-        const QString text = ValueText(value);
+        const QString text = ValueText(value, box.plot.decimals);
         const QRectF beside(bar.right() + line * 0.25, bar.center().y() - line * 0.4,
                             QFontMetricsF(painter.font()).horizontalAdvance(text), line * 0.8);
         painter.fillRect(beside, colours.ground);  // no line of the scale crosses it

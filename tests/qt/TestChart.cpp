@@ -17,6 +17,7 @@
 #include "desktop/ChartWidget.h"
 #include "desktop/ColumnRanges.h"
 #include "desktop/PlotLabels.h"
+#include "desktop/RunwayLayout.h"
 #include "qt/DesktopProgram.h"
 
 namespace orlo {
@@ -208,6 +209,77 @@ TEST(Chart, AllPlotsHaveTheSameSidesAndNoLabelsOverlap) {
     EXPECT_EQ(NameStep(24, 12), 2);
 }
 
+TEST(Chart, ALegendLeavesTheAxesRoomAndDecimalsAreThoseOfThePlotOrOfItsSteps) {
+    ChartPlot many = Plot(SeriesKind::Bars, 11, kHours);
+    many.decimals = 2;
+    const double line = QFontMetricsF(QFont()).height();
+    for (const int lines : {14, 60}) {
+        const Drawn drawn(Of({many}), {250, static_cast<int>(lines * line)});
+        const PlotBox& box = drawn.boxes.plots[0];
+        EXPECT_GE(box.inner.height(), 4 * line - 1);
+        const int all =
+            LinesOf(LegendOf(box.plot, box.facts.bars, QFontMetricsF(QFont()), box.legend.width()));
+        EXPECT_EQ(box.legendLines == all, lines == 60);
+        EXPECT_GT(box.legendLines, 0);
+        EXPECT_EQ(PointText(drawn.chart, {0, 1, 2}), "Place 02\nS1: 27");
+        EXPECT_EQ(box.MarkText(box.step), ValueText(box.step, 2));
+    }
+    const ChartData plain(Of({Plot(SeriesKind::Bars, 1, kHours)}));
+    PlotBox box(plain.content.plots[0], plain.facts[0]);
+    for (const auto& [step, text] : {std::pair(0.5, "0.1"), {0.1, "0.1"}, {0.05, "0.06"}, {0.002, "0.060"}}) {
+        box.step = step;
+        EXPECT_EQ(box.MarkText(0.06), text);
+    }
+}
+
+TEST(Chart, ParallelRunwaysLieFromLeftToRightAndNothingLiesUnderTheNorthArrow) {
+    struct Case {
+        std::vector<double> headings;
+        std::vector<std::string> ends;   // the first ones
+        std::vector<std::size_t> order;  // as seen in the direction of the first
+    };
+    const Case cases[] = {
+        {{359.5, 0.5}, {"36L", "36R"}, {0, 1}},      {{0.5, 359.5}, {"36R", "36L"}, {1, 0}},
+        {{179.9, 180.2}, {"16R", "16L"}, {1, 0}},    {{180.2, 179.9}, {"16L", "16R"}, {0, 1}},
+        {{90, 90, 90}, {"10", "9", "8"}, {2, 1, 0}}, {{70, 70, 70}, {"07R", "07C", "07L"}, {2, 1, 0}}};
+    const QRectF room(0, 0, 500, 400);
+    for (const Case& one : cases) {
+        ChartContent content;
+        for (std::size_t i = 0; i < one.ends.size(); ++i) {
+            std::string other = one.ends[i];
+            if (other.back() == 'L' || other.back() == 'R') other.back() = other.back() == 'L' ? 'R' : 'L';
+            content.runways.push_back(
+                {one.headings[i], 3000, 45, "", {{one.ends[i], false}, {other, false}}});
+        }
+        SCOPED_TRACE(one.ends.front());
+        const std::vector<RunwayPlace> places = LayOutRunways(content, QFont(), room).places;
+        const RunwayPlace& first = places[0];
+        const QPointF along = (first.ends[1] - first.ends[0]) / QLineF(first.ends[0], first.ends[1]).length();
+        const auto across = [&](std::size_t i) {
+            return QPointF::dotProduct((places[i].ends[0] + places[i].ends[1]) / 2, {-along.y(), along.x()});
+        };
+        for (std::size_t i = 1; i < places.size(); ++i)
+            EXPECT_GT(across(one.order[i]), across(one.order[i - 1]) + 10) << i;
+    }
+    const std::vector<std::string> surfaces(12, "A surface of a long name ");
+    for (int heading = 0; heading < 180; heading += 5) {
+        ChartContent content = Runways();
+        content.runways.resize(1);
+        content.runways[0].heading = heading;
+        for (std::size_t i = 0; i < surfaces.size(); ++i) {
+            content.runways.push_back(content.runways[0]);
+            content.runways.back().surface = surfaces[i] + std::to_string(i);
+        }
+        const RunwayLayout layout = LayOutRunways(content, QFont(), room);
+        for (const RunwayPlace& place : layout.places) {
+            QLineF way(place.ends[0], place.ends[1]);
+            way.setLength(way.length() + QFontMetricsF(QFont()).horizontalAdvance("27R"));
+            EXPECT_FALSE(layout.north.contains(way.p2())) << heading;
+        }
+        for (const SurfaceItem& item : layout.surfaces) EXPECT_LE(item.room.right(), room.right());
+    }
+}
+
 TEST(Chart, TheValueUnderThePointerIsTheOneWhoseMarkIsThere) {
     ChartPlot stacked = Plot(SeriesKind::Bars, 5, kHours);
     ChartPlot steps = DayOfSteps(4, 2);
@@ -303,6 +375,11 @@ TEST_F(Charts, ArrowKeysTellEachValueInATipAndToScreenReaders) {
             EXPECT_EQ(QToolTip::text().replace('\n', ", ").toStdString(), text);
         }
     }
+    ChartPlot empty = DayOfSteps(0, 1);
+    ChartWidget& second = Show(Of({empty, Plot(SeriesKind::Bars, 1, kHours)}));
+    second.setFocus();
+    QTest::keyClick(test::WindowOf(form).windowHandle(), Key_End);
+    EXPECT_EQ(second.accessibleDescription(), "Place 03, S0: 31");
     const ChartWidget& chart = Show(Of({}));
     EXPECT_EQ(chart.accessibleDescription(), "Title Note");
     EXPECT_EQ(chart.focusPolicy(), Qt::NoFocus);
@@ -332,7 +409,9 @@ TEST_F(Charts, ThePointerHasATipAndRowsThatDoNotFitAreScrolled) {
 
 TEST_F(Charts, SavedPicturesAreReadByOthersAndHoldAllRows) {
     std::vector<std::string> names(200, "An airline of a long name");
-    form.chPlots.Show(Of({Plot(SeriesKind::Bars, 2, names)}));
+    ChartContent content = Of({Plot(SeriesKind::Bars, 2, names)});
+    content.title = "Fred & Sons <old>\x01\n";
+    form.chPlots.Show(content);
     struct Second : Form {
         Second() : Form("frmSecond", "") {}
         Chart chOther{*this, "chOther"};
@@ -352,6 +431,7 @@ TEST_F(Charts, SavedPicturesAreReadByOthersAndHoldAllRows) {
         EXPECT_EQ(image.pixelColor(2, 2), Qt::white);
         QSvgRenderer svg(bytes(PictureFormat::Svg));
         EXPECT_TRUE(svg.isValid());
+        EXPECT_TRUE(bytes(PictureFormat::Svg).contains("<title>Fred &amp; Sons &lt;old&gt;  </title>"));
         EXPECT_EQ(svg.viewBoxF().size(), QSizeF(image.size()));
         const QByteArray pdf = bytes(PictureFormat::Pdf);
         EXPECT_TRUE(pdf.startsWith("%PDF"));

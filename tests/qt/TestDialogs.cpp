@@ -89,6 +89,31 @@ TEST_F(Dialogs, ASaveDialogAsksAboutANameThatDiffersOnlyInCase) {
     }
 }
 
+TEST_F(Dialogs, ANameWithoutAnExtensionIsSavedWithThatOfTheFilter) {
+    const Folders folders;
+    struct Case {
+        int filter;       // at first
+        qsizetype later;  // the one that the user takes then
+        const char* extension;
+        const char* typed;
+        const char* saved;
+    };
+    const Case cases[] = {{1, 0, "", "new", "new.png"},     {2, 1, "", "new", "new.svg"},
+                          {1, 1, "", "new", "new.svg"},     {1, 2, "", "new", "new"},
+                          {1, 1, "", "new.pdf", "new.pdf"}, {1, 1, "orp", "new", "new.orp"}};
+    FileDialog dialog;
+    dialog.filter = "PNG picture (*.png)|*.png|SVG picture (*.svg)|*.svg;*.svgz|All Files (*.*)|*.*";
+    for (const Case& one : cases) {
+        dialog.filterIndex = one.filter;
+        dialog.defaultExtension = one.extension;
+        InDialog<QFileDialog>([&](QFileDialog& shown) {
+            if (one.later != one.filter - 1) shown.filterSelected(shown.nameFilters()[one.later]);
+            test::Choose(shown, folders.Path("exports/") + one.typed);
+        });
+        EXPECT_EQ(desktop.host.ShowSaveDialog(dialog), folders.Path("exports/") + one.saved);
+    }
+}
+
 QByteArray ReadAll(const std::string& path) {
     QFile file(QString::fromStdString(path));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
