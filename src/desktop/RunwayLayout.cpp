@@ -13,12 +13,11 @@
 namespace orlo {
 namespace {
 
-constexpr double kSameDirection = 5;  // degrees
-constexpr double kLeastWidth = 8;     // pixels, in which a surface's pattern can be seen
-constexpr double kScaleLines = 1.7;   // below the runways
-constexpr double kLegendPitch = 1.1;  // lines
-constexpr double kLegendShare =
-    0.35;  // of the height that more than one line of the legend and the scale take
+constexpr double kSameDirection = 5;    // degrees
+constexpr double kLeastWidth = 8;       // pixels, in which a surface's pattern can be seen
+constexpr double kScaleLines = 1.7;     // below the runways
+constexpr double kLegendPitch = 1.1;    // lines
+constexpr double kLegendShare = 0.35;   // of the height that scale and legend take, beyond its first line
 constexpr double kParallelShare = 0.7;  // of the room that parallel runways lie in at most
 constexpr double kFlat = 1e-6;          // a share of a way that counts for none
 
