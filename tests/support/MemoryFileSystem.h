@@ -20,6 +20,7 @@ class MemoryFileSystem : public FileSystem {
   public:
     std::map<std::string, std::string> files;  // full path to content
     std::vector<std::string> folders;          // empty ones
+    std::string heldFile;                      // which another program has open
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
@@ -110,6 +111,7 @@ class MemoryFileSystem : public FileSystem {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }
     bool CreatePrivateFolders(const std::string& path) override { return CreateFolders(path); }
+    bool IsHeld(const std::string& path) override { return path == heldFile; }
     bool IsLink(const std::string& path) override { return links.contains(path); }
     std::set<std::string> links;  // those of the files that are links
     bool CreateFolders(const std::string& path) override {
