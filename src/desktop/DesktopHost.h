@@ -1,8 +1,11 @@
 #pragma once
 
+#include <qwindowdefs.h>
+
 #include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -32,6 +35,10 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     void Attach(EventPump& pump, ProgressForm& progress);
     // Deletes all windows, stops the timers and forgets the pump and the forms.
     void Detach();
+
+    // Puts the entry "About" into the system menu of a window until the result goes; see platform/Platform.h.
+    // Null where the system has no such menu.
+    std::function<std::shared_ptr<void>(WId window, std::function<void()> chosen)> addAboutToSystemMenu;
 
     // Says in the status bar that a drawing failed, and why.
     void TellFailure(const std::string& reason);
@@ -109,6 +116,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     void ScheduleDraw();
     void DrawWhenDue();
     void DrawAll();
+    void DrawSystemMenu(FormWindow& window);
 
     EventPump* pump_ = nullptr;
     ProgressForm* progress_ = nullptr;
