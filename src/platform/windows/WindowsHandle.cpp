@@ -84,8 +84,9 @@ bool WindowsHandle::Rename(const std::string& from, const std::string& to) {
     const std::wstring source = SystemPath(from);
     const std::wstring target = SystemPath(to);
     if (source.empty() || target.empty()) return false;
-    return DoUnlessHeld([&] { return RenameOnce(source, target); },
-                        [&] { return IsHeldAt(source, DELETE) || IsHeldAt(target, DELETE); });
+    // Asked before each try too: one that fails can leave files of the system's own in the folder.
+    const auto held = [&] { return IsHeldAt(source, DELETE) || IsHeldAt(target, DELETE); };
+    return DoUnlessHeld([&] { return !held() && RenameOnce(source, target); }, held);
 }
 
 bool WindowsHandle::Remove(const std::string& path) {

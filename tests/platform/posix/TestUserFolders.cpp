@@ -10,14 +10,14 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kKey = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
+constexpr std::string_view kSettingsKey = "SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings";
 
 TEST(TextSettingsStore, ItsFolderIsMadeAndAFileThatCannotBeReadIsNotReplaced) {
     const test::TemporaryFolder folder;
     PosixFileSystem files;
     const std::string path = folder.Path("config/orlo/settings.txt");
     TextSettingsStore store(files, path);
-    store.Set(kKey, "TATime", "30");
+    store.Set(kSettingsKey, "TATime", "30");
     ASSERT_TRUE(store.Flush());
     EXPECT_EQ(folder.Content("config/orlo/settings.txt"),
               "[SOFTWARE\\Brantel Data Service\\Orlo\\1.0\\Settings]\r\nTATime=30\r\n");
@@ -25,13 +25,13 @@ TEST(TextSettingsStore, ItsFolderIsMadeAndAFileThatCannotBeReadIsNotReplaced) {
     std::filesystem::permissions(path, std::filesystem::perms(0200));
     EXPECT_EQ(test::RunAsPlainUser([&] {
                   TextSettingsStore other(files, path);
-                  other.Set(kKey, "TATime", "45");
+                  other.Set(kSettingsKey, "TATime", "45");
                   return other.Flush() ? 1 : 0;
               }),
               0);
     EXPECT_EQ(folder.Entries("config/orlo"), 1u);
     std::filesystem::permissions(path, std::filesystem::perms(0600));
-    EXPECT_EQ(TextSettingsStore(files, path).Get(kKey, "TATime"), "30");
+    EXPECT_EQ(TextSettingsStore(files, path).Get(kSettingsKey, "TATime"), "30");
 }
 
 TEST(UserFolders, VariablesWithFullPathsComeBeforeTheHomeFolder) {
