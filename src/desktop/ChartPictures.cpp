@@ -6,13 +6,16 @@
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 #include <algorithm>
 
 #include "desktop/ChartPainter.h"
 #include "desktop/DesktopHost.h"
 #include "desktop/ScreenText.h"
 #include "forms/Chart.h"
+
+#ifdef ORLO_SVG
+#include <QSvgGenerator>
+#endif
 
 namespace orlo {
 namespace {
@@ -66,6 +69,9 @@ bool DrawPng(const Sheet& sheet, QBuffer& file) {
     return !image.isNull() && Draw(sheet, image) && image.save(&file, "PNG");
 }
 
+#ifdef ORLO_SVG
+constexpr bool kDrawsSvg = true;
+
 bool DrawSvg(const Sheet& sheet, QBuffer& file) {
     QSvgGenerator picture;
     picture.setOutputDevice(&file);
@@ -76,6 +82,13 @@ bool DrawSvg(const Sheet& sheet, QBuffer& file) {
     picture.setDescription(ShownText(sheet.charts.front().content.note).toHtmlEscaped());
     return Draw(sheet, picture);
 }
+#else
+constexpr bool kDrawsSvg = false;
+
+bool DrawSvg(const Sheet&, QBuffer&) {
+    return false;
+}
+#endif
 
 bool DrawPdf(const Sheet& sheet, QBuffer& file) {
     QPdfWriter document(&file);
@@ -87,6 +100,10 @@ bool DrawPdf(const Sheet& sheet, QBuffer& file) {
 }
 
 }  // namespace
+
+bool DesktopHost::DrawsFormat(PictureFormat format) const {
+    return format != PictureFormat::Svg || kDrawsSvg;
+}
 
 std::string DesktopHost::DrawCharts(std::span<const Chart* const> charts, PictureFormat format) {
     if (charts.empty()) return {};

@@ -369,8 +369,23 @@ void DesktopHost::DrawAll() {
     drawing_ = true;
     const Drawing drawing{*this};
     drawTimer_.stop();
-    for (FormWindow* window : windows_) window->Draw();
+    for (FormWindow* window : windows_) {
+        window->Draw();
+        DrawSystemMenu(*window);
+    }
     for (FormWindow* window : windows_) window->TakeRequests();
+}
+
+void DesktopHost::DrawSystemMenu(FormWindow& window) {
+    Form* form = window.Shown();
+    const bool wanted = form != nullptr && form->systemMenuAbout && addAboutToSystemMenu;
+    if (!wanted) {
+        window.aboutEntry.reset();
+    } else if (window.aboutEntry == nullptr && window.internalWinId() != 0) {
+        window.aboutEntry = addAboutToSystemMenu(window.internalWinId(), [this, form] {
+            Post({form, nullptr, EventKind::SystemMenu});
+        });
+    }
 }
 
 }  // namespace orlo

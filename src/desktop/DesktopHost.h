@@ -1,8 +1,11 @@
 #pragma once
 
+#include <qwindowdefs.h>
+
 #include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -32,6 +35,10 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     void Attach(EventPump& pump, ProgressForm& progress);
     // Deletes all windows, stops the timers and forgets the pump and the forms.
     void Detach();
+
+    // Puts the entry "About" into the system menu of a window until the result goes; see platform/Platform.h.
+    // Null where the system has no such menu.
+    std::function<std::shared_ptr<void>(WId window, std::function<void()> chosen)> addAboutToSystemMenu;
 
     // Says in the status bar that a drawing failed, and why.
     void TellFailure(const std::string& reason);
@@ -85,6 +92,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     bool ShowPrintDialog(std::string_view title) override;
     PrintOutcome Print(std::string_view text) override;
     std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) override;
+    bool DrawsFormat(PictureFormat format) const override;
     bool OpenDocument(const std::string& path, const std::string& workingFolder) override;
 
   protected:
@@ -110,6 +118,7 @@ class DesktopHost : public QObject, public InputSink, public FrontEnd {
     void ScheduleDraw();
     void DrawWhenDue();
     void DrawAll();
+    void DrawSystemMenu(FormWindow& window);
 
     EventPump* pump_ = nullptr;
     ProgressForm* progress_ = nullptr;

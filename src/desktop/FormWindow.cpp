@@ -202,6 +202,7 @@ void FormWindow::TakeRequests() {
 }
 
 void FormWindow::Release() {
+    aboutEntry.reset();
     byWidget_.clear();
     byControl_.clear();
     menus_.reset();

@@ -29,6 +29,9 @@ class FormWindow : public QWidget {
     // Forgets the form, and deletes the binders and menus.
     void Release();
 
+    // The entry "About" in the window's system menu; null where there is none.
+    std::shared_ptr<void> aboutEntry;
+
     // The binder whose widget this is, or is inside of; null where there is none.
     Binder* BinderOf(const QWidget* widget) const;
     // The control that has the focus within this window; null for none.

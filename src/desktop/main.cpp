@@ -67,6 +67,7 @@ int RunDesktop(DesktopApplication& application) {
     SystemServices system;
     DesktopHost host;
     PassOn(*end, host);
+    host.addAboutToSystemMenu = AddAboutToSystemMenu;
     Services services = system.Behind(host);
 
     Program program(services, FindProgramFolder(*system.files), UserStateFolder());

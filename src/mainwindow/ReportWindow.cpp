@@ -10,8 +10,11 @@ namespace orlo {
 
 namespace {
 
-constexpr std::string_view kPictureFilter =
-    "PNG picture (*.png)|*.png|SVG picture (*.svg)|*.svg|PDF document (*.pdf)|*.pdf";
+std::string PictureFilter(const WindowHost& windows) {
+    const bool svg = windows.DrawsFormat(PictureFormat::Svg);
+    return Concat("PNG picture (*.png)|*.png|", svg ? "SVG picture (*.svg)|*.svg|" : "",
+                  "PDF document (*.pdf)|*.pdf");
+}
 
 PictureFormat FormatOf(std::string_view path) {
     const auto endsIn = [path](std::string_view extension) {
@@ -41,7 +44,8 @@ bool AskAndPrint(Context& context, std::string_view dialogTitle, std::string_vie
 void SavePicture(Context& context, Form& form, std::string_view startFile,
                  std::initializer_list<const Chart*> charts) {
     Services& services = context.services;
-    const std::string path = AskForSavePath(context, "Save Picture", startFile, kPictureFilter);
+    const std::string path =
+        AskForSavePath(context, "Save Picture", startFile, PictureFilter(services.windows));
     if (path.empty()) return;
     ForgetNotWritten(context);
     const std::string picture =

@@ -35,7 +35,8 @@ void TellFailure(Context& context) {
 }  // namespace
 
 void ReportNotWritten(Context& context, std::string_view path) {
-    Report(context, Concat(kNotWritten, path, "]."));
+    const bool held = context.services.files.IsHeld(std::string(path));
+    Report(context, Concat(kNotWritten, path, held ? "], which another program has open." : "]."));
 }
 
 void ReportNotPrinted(Context& context) {

@@ -6,7 +6,8 @@
 
 namespace orlo {
 
-// Says in the status bar that the file could not be written. The messages to the user don't change by it.
+// Says in the status bar that the file could not be written, and whether another program has it open. The
+// messages to the user don't change by it.
 void ReportNotWritten(Context& context, std::string_view path);
 // The same for a print that failed.
 void ReportNotPrinted(Context& context);

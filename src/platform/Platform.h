@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <memory_resource>
 #include <optional>
@@ -57,6 +59,12 @@ std::pmr::memory_resource& ListMemory();
 
 // Whether a person reads what goes to standard error.
 bool ErrorsAreOnTerminal();
+
+// Puts a separator and the entry "About" at the end of a window's system menu, that of its title bar.
+// `window` is the system's own number of a window of this thread; `chosen` runs within its loop of events.
+// When the last copy of the result goes, also after the window, the menu is as before. Null where the
+// system's windows have no such menu of their own.
+[[nodiscard]] std::shared_ptr<void> AddAboutToSystemMenu(std::uintptr_t window, std::function<void()> chosen);
 
 // The words behind the program's name on the command line; `count` and `words` are the arguments of main.
 std::vector<std::string> ProgramArguments(int count, char** words);

@@ -112,6 +112,10 @@ class FileSystem {
     virtual bool CreatePrivateFolders(const std::string& path) = 0;
     virtual bool IsLink(const std::string& path) = 0;
 
+    // Whether another program has the file open in a way that lets nobody write or replace it, as some
+    // systems allow.
+    virtual bool IsHeld(const std::string&) { return false; }
+
     // Entries without "." and "..", sorted by name with case folded so that a walk is repeatable. Empty when
     // the path is no readable folder.
     virtual std::vector<FolderEntry> ListFolder(const std::string& path) = 0;

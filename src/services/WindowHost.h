@@ -75,6 +75,8 @@ class WindowHost {
     // front end without a screen gives their tables as text. Empty where it can't be made.
     virtual std::string DrawCharts(std::span<const Chart* const> charts, PictureFormat format) = 0;
 
+    virtual bool DrawsFormat(PictureFormat) const { return true; }
+
     // Opens a document with the system's default handler.
     virtual bool OpenDocument(const std::string& path, const std::string& workingFolder) = 0;
 };

@@ -5,7 +5,7 @@
 #include "config/FlightLevels.h"
 #include "config/NameLists.h"
 #include "config/RuleWorld.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/TemporaryFolder.h"
 
 namespace orlo::test {
 namespace {
@@ -73,7 +73,7 @@ TEST(FlightLevelRules, AWrongCountOfFieldsKeepsTheRulesReadSoFar) {
 }
 
 TEST(RuleFiles, TheInstalledFilesReadWithoutAMessage) {
-    PosixFileSystem disk;
+    SystemFileSystem disk;
     FakeMessages messages;
     Session session;
     session.ProgramFolder = ORLO_SOURCE_DIR "/share";

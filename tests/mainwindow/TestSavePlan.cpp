@@ -143,6 +143,9 @@ TEST_F(SavePlan, ASaveThatFailsIsRememberedAskedForAndKeptFromMemory) {
     }
     session.project = {};
     EXPECT_EQ(program.form.sbMain.text, "Not written: [/p/Plan.txt].");
+    program.world.files.heldFile = "/p/Plan.txt";
+    SaveFlightplan(program.context);
+    EXPECT_EQ(program.form.sbMain.text, "Not written: [/p/Plan.txt], which another program has open.");
 
     program.world.messages.answers = {MessageAnswer::Yes};
     files["/p/Other.txt"] = std::string(kFlight);

@@ -58,7 +58,7 @@ TEST_F(SystemFiles, PatchesChangeTheirBytesInPlaceOrNothing) {
     EXPECT_FALSE(files.PatchFile(folder.Path("Model.mdl"), beyond));
     EXPECT_EQ(folder.Content("Model.mdl"), "ab234567xy");
     EXPECT_FALSE(files.PatchFile(folder.Path("missing.mdl"), inside));
-    fs::permissions(folder.Path("Model.mdl"), fs::perms::owner_read);
+    fs::permissions(folder.Place("Model.mdl"), fs::perms::owner_read);
     EXPECT_FALSE(files.PatchFile(folder.Path("Model.mdl"), inside));
     EXPECT_EQ(folder.Content("Model.mdl"), "ab234567xy");
 }

@@ -2,11 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ctime>
-
-#include "platform/ChildProcess.h"
-#include "platform/posix/SystemClock.h"
-
 namespace orlo {
 namespace {
 
@@ -22,16 +17,6 @@ TEST(SystemRandom, AFixedSeedRepeatsItsValuesAtEverySeeding) {
     EXPECT_EQ(random.Next(), first);
     SystemRandom other(5490);
     EXPECT_NE(other.Next(), first);
-}
-
-TEST(SystemClock, TellsLocalTime) {
-    EXPECT_EQ(test::RunInChild([] {
-                  setenv("TZ", "XXX-5:30", 1);  // five and a half hours ahead
-                  tzset();
-                  const std::int64_t ahead = SystemClock().Now() - std::time(nullptr);
-                  return ahead >= 19799 && ahead <= 19801 ? 0 : 1;
-              }),
-              0);
 }
 
 }  // namespace

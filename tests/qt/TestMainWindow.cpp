@@ -46,6 +46,34 @@ TEST(MainWindow, TheCloseBoxEndsTheProgramAndStoresThePlaceOfTheWindow) {
         "40");
 }
 
+// Here with a menu of the test's own; the system's is tested with the platform.
+TEST(MainWindow, AboutInTheSystemMenuOpensTheDialogAndGoesWithTheWindow) {
+    int standing = 0;
+    bool seen = false;
+    {
+        StartedProgram desktop;
+        std::function<void()> chosen;
+        desktop.host.addAboutToSystemMenu = [&](WId window, std::function<void()> choose) {
+            EXPECT_EQ(window, DesktopProgram::WindowOf(desktop.form).winId());
+            chosen = std::move(choose);
+            ++standing;
+            return std::shared_ptr<void>(&standing, [](void* count) { --*static_cast<int*>(count); });
+        };
+        CloseSplash(desktop.program.context);
+        DesktopProgram::Settle();
+        ASSERT_EQ(standing, 1);
+        QTimer::singleShot(100, &desktop.host, [&] {
+            const AboutForm& about = desktop.program.forms.frmAbout;
+            seen = desktop.program.pump.Windows().TopModal() == &about;
+            test::PressKeys(DesktopProgram::WindowOf(about), "Escape");
+        });
+        chosen();
+        QTest::qWait(200);
+    }
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(standing, 0);
+}
+
 TEST(MainWindow, TheSplashStandsInTheMiddleAndGoesByAnyKey) {
     for (const char* keys : {"X", "Alt+F"}) {
         SCOPED_TRACE(keys);

@@ -9,7 +9,7 @@
 #include "core/FlightplanFile.h"
 #include "core/Settings.h"
 #include "core/TextLines.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/TemporaryFolder.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 #include "shell/UserHands.h"
@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 // A copy of the plan, a program folder with the default rules, and the program on them.
 struct RealWorld {
     fs::path folder;
-    PosixFileSystem files;
+    test::SystemFileSystem files;
     test::FakeWorld fakes{{.files = &files}};
     Program program{fakes.services, (folder / "Program").string(), (folder / "kept").string()};
 

@@ -3,7 +3,7 @@
 #include <set>
 
 #include "core/TextLines.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/TemporaryFolder.h"
 #include "simulator/AircraftClassLookup.h"
 #include "simulator/AircraftFiles.h"
 #include "simulator/AircraftScan.h"
@@ -256,7 +256,7 @@ TEST(AircraftScan, ManySectionsOfOneNameCantMultiplyALongText) {
 
 // Against the list of its fleet: number, title, airline, maker, model and so on.
 TEST(AircraftScan, TheWorldOfRealAircraftIsReadWhole) {
-    PosixFileSystem disk;
+    SystemFileSystem disk;
     const std::string world = ORLO_SOURCE_DIR "/../shared/real/";
     const auto fleet = ReadWholeFile(disk, world + "facts/fleet.csv");
     if (!fleet) GTEST_SKIP() << "no aircraft of a real world lie beside the checkout";

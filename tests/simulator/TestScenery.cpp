@@ -5,7 +5,7 @@
 
 #include "core/Settings.h"
 #include "core/TextLines.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/TemporaryFolder.h"
 #include "simulator/AfdCache.h"
 #include "simulator/BglAirport.h"
 #include "simulator/GreatCircle.h"
@@ -331,7 +331,7 @@ TEST(Scenery, WithoutASimulatorNothingIsReadAndNoCacheWritten) {
 // Against the plan, which tells heights in feet.
 TEST(Scenery, TheWorldOfRealAirportsIsReadWhole) {
     const std::string world = ORLO_SOURCE_DIR "/../shared/real/";
-    PosixFileSystem disk;
+    SystemFileSystem disk;
     const std::string folder = SceneryFolder(world + "simulator");
     if (!disk.FolderExists(folder)) GTEST_SKIP() << "no scenery of real airports lies beside the checkout";
     std::vector<AirportRecord> records;

@@ -16,10 +16,12 @@
 namespace orlo::test {
 
 // A file system in memory, with case-insensitive names, that fails on demand. Folders exist by their files.
+// Tests name them with "/"; where the system has another separator, it finds the same.
 class MemoryFileSystem : public FileSystem {
   public:
     std::map<std::string, std::string> files;  // full path to content
     std::vector<std::string> folders;          // empty ones
+    std::string heldFile;                      // which another program has open
     int failAfterBytes = -1;                   // writes beyond this many bytes fail (a full disk)
     bool failCommit = false;                   // the rename at the end fails
     bool failCreate = false;
@@ -28,16 +30,17 @@ class MemoryFileSystem : public FileSystem {
     int commitsBeforeKill = -1;
 
     std::string Resolve(const std::string& path) override {
+        const std::string key = Key(path);
         for (const auto& [name, content] : files) {
-            if (EqualNoCase(name, path)) return name;
+            if (EqualNoCase(name, key)) return name;
         }
-        return path;
+        return key;
     }
     std::string FullPath(const std::string& path) override { return path; }
     bool FileExists(const std::string& path) override { return files.contains(Resolve(path)); }
     bool FolderExists(const std::string& path) override {
-        const auto isIt = [&](std::string_view name) {
-            return EqualNoCase(WithoutTrailingSeparator(name), WithoutTrailingSeparator(path));
+        const auto isIt = [key = Key(path)](std::string_view name) {
+            return EqualNoCase(WithoutTrailingSeparator(name), WithoutTrailingSeparator(key));
         };
         return std::any_of(folders.begin(), folders.end(), isIt) || !ListFolder(path).empty();
     }
@@ -68,7 +71,7 @@ class MemoryFileSystem : public FileSystem {
     std::unique_ptr<OutputFile> CreateNew(const std::string& path) override {
         if (failCreate) return nullptr;
         files.erase(Resolve(path));
-        return std::make_unique<Writer>(*this, path, true);
+        return std::make_unique<Writer>(*this, Key(path), true);
     }
     bool PatchFile(const std::string& path, std::span<const FilePatch> patches) override {
         const auto found = files.find(Resolve(path));
@@ -91,39 +94,40 @@ class MemoryFileSystem : public FileSystem {
         if (found == files.end()) return false;
         std::string text = std::move(found->second);
         files.erase(found);
-        files[to] = std::move(text);
+        files[Key(to)] = std::move(text);
         return true;
     }
     bool RenameFolder(const std::string& from, const std::string& to) override {
         if (FolderExists(to) || failCommit || commitsBeforeKill == 0) return false;
         std::map<std::string, std::string> renamed;
         for (auto& [name, text] : files) {
-            const bool inside = StartsWithNoCase(name, JoinPath(from, ""));
-            renamed[inside ? to + name.substr(from.size()) : name] = text;
+            const bool inside = StartsWithNoCase(name, Key(JoinPath(from, "")));
+            renamed[inside ? Key(to) + name.substr(from.size()) : name] = text;
         }
         files = std::move(renamed);
-        std::erase(folders, from);
-        folders.push_back(to);
+        std::erase(folders, Key(from));
+        folders.push_back(Key(to));
         return true;
     }
-    bool DeleteEmptyFolder(const std::string& path) override { return std::erase(folders, path) > 0; }
+    bool DeleteEmptyFolder(const std::string& path) override { return std::erase(folders, Key(path)) > 0; }
     bool DeleteFile(const std::string& path) override {
         return commitsBeforeKill != 0 && files.erase(Resolve(path)) > 0;
     }
     bool CreatePrivateFolders(const std::string& path) override { return CreateFolders(path); }
-    bool IsLink(const std::string& path) override { return links.contains(path); }
+    bool IsHeld(const std::string& path) override { return Key(path) == heldFile; }
+    bool IsLink(const std::string& path) override { return links.contains(Key(path)); }
     std::set<std::string> links;  // those of the files that are links
     bool CreateFolders(const std::string& path) override {
-        folders.push_back(path);
+        folders.push_back(Key(path));
         return true;
     }
     std::vector<FolderEntry> ListFolder(const std::string& path) override {
-        const std::string folder = JoinPath(WithoutTrailingSeparator(path), "");
+        const std::string folder = Key(JoinPath(WithoutTrailingSeparator(path), ""));
         std::map<std::string, FolderEntry> entries;  // by folded name
         const auto add = [&](std::string_view full, bool isFile) {
             if (!StartsWithNoCase(full, folder) || full.size() == folder.size()) return;
             const std::string_view rest = full.substr(folder.size());
-            const std::string_view name = rest.substr(0, rest.find(kPathSeparator));
+            const std::string_view name = rest.substr(0, rest.find('/'));
             const bool isFolder = !isFile || name.size() < rest.size();
             entries.try_emplace(UpperText(name), FolderEntry{std::string(name), isFolder});
         };
@@ -135,6 +139,13 @@ class MemoryFileSystem : public FileSystem {
     }
 
   private:
+    static std::string Key(std::string path) {
+        for (char& character : path) {
+            if (IsPathSeparator(character)) character = '/';
+        }
+        return path;
+    }
+
     class Reader : public InputFile {
       public:
         explicit Reader(std::string content) : content_(std::move(content)) {}

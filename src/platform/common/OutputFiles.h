@@ -20,7 +20,7 @@ namespace orlo {
 //   bool SetSize(const Handle&, std::uint64_t size)                 cuts, or adds zero bytes
 //   bool TakeRoom(const Handle&, std::uint64_t from, std::uint64_t to)
 //     has the disk set aside what the file grows by; false on a full disk
-//   static bool Handle::Rename(from, to) and static void Handle::Remove(path)
+//   static bool Handle::Rename(from, to) and static Handle::Remove(path)
 //     for files; what stands at `to` is replaced
 
 // Gathers small writes into larger ones.

@@ -57,6 +57,11 @@ bool ErrorsAreOnTerminal() {
     return IsTerminal(StandardStream::Error);
 }
 
+// The menu belongs to the window manager.
+std::shared_ptr<void> AddAboutToSystemMenu(std::uintptr_t, std::function<void()>) {
+    return nullptr;
+}
+
 std::vector<std::string> ProgramArguments(int count, char** words) {
     return count > 1 ? std::vector<std::string>(words + 1, words + count) : std::vector<std::string>();
 }

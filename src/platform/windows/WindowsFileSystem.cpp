@@ -145,8 +145,7 @@ bool WindowsFileSystem::DeleteEmptyFolder(const std::string& path) {
 }
 
 bool WindowsFileSystem::DeleteFile(const std::string& path) {
-    const std::wstring systemPath = SystemPath(path);
-    return !systemPath.empty() && DeleteFileW(systemPath.c_str()) != 0;
+    return WindowsHandle::Remove(path);
 }
 
 bool WindowsFileSystem::CreateFolders(const std::string& path) {
@@ -165,6 +164,10 @@ bool WindowsFileSystem::CreatePrivateFolders(const std::string& path) {
 bool WindowsFileSystem::IsLink(const std::string& path) {
     const DWORD attributes = GetFileAttributesW(SystemPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+bool WindowsFileSystem::IsHeld(const std::string& path) {
+    return orlo::IsHeld(path);
 }
 
 std::vector<FolderEntry> WindowsFileSystem::ListFolder(const std::string& path) {

@@ -27,6 +27,7 @@ class WindowsFileSystem : public FileSystem {
     bool CreateFolders(const std::string& path) override;
     bool CreatePrivateFolders(const std::string& path) override;
     bool IsLink(const std::string& path) override;
+    bool IsHeld(const std::string& path) override;
     std::vector<FolderEntry> ListFolder(const std::string& path) override;
 };
 

@@ -12,8 +12,8 @@ constexpr std::size_t kLargestTransfer = std::size_t{1} << 30;
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 // A virus scanner or an indexer can hold a new file for a moment.
-constexpr int kRenameTries = 6;
-constexpr DWORD kRenamePause = 20;  // milliseconds
+constexpr int kHeldTries = 6;
+constexpr DWORD kHeldPause = 20;  // milliseconds
 
 DWORD AccessFor(OpenFor purpose) {
     return purpose == OpenFor::Reading ? GENERIC_READ : GENERIC_WRITE;
@@ -37,6 +37,26 @@ bool IsReadOnly(HANDLE file) {
     BY_HANDLE_FILE_INFORMATION facts{};
     return GetFileInformationByHandle(file, &facts) == 0 ||
            (facts.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+// Another program has the file open and doesn't share it: not by the error of the step that failed, which is
+// that of a missing right too.
+bool IsHeldAt(const std::wstring& systemPath, DWORD access) {
+    const HANDLE opened = CreateFileW(systemPath.c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(opened);
+    return false;
+}
+
+// Does the step, again and again while it fails because a file is held.
+template <typename Step, typename Held>
+bool DoUnlessHeld(Step step, Held held) {
+    for (int i = 0;; ++i) {
+        if (step()) return true;
+        if (i == kHeldTries || !held()) return false;
+        Sleep(kHeldPause);
+    }
 }
 
 // A replaced file hands its permissions and attributes on, where the disk can do that.
@@ -64,25 +84,33 @@ bool WindowsHandle::Rename(const std::string& from, const std::string& to) {
     const std::wstring source = SystemPath(from);
     const std::wstring target = SystemPath(to);
     if (source.empty() || target.empty()) return false;
-    for (int i = 0; i < kRenameTries; ++i) {
-        if (RenameOnce(source, target)) return true;
-        const DWORD fault = GetLastError();
-        if (fault != ERROR_SHARING_VIOLATION && fault != ERROR_ACCESS_DENIED) return false;
-        Sleep(kRenamePause);
-    }
-    return false;
+    // Asked before each try too: one that fails can leave files of the system's own in the folder.
+    const auto held = [&] { return IsHeldAt(source, DELETE) || IsHeldAt(target, DELETE); };
+    return DoUnlessHeld([&] { return !held() && RenameOnce(source, target); }, held);
 }
 
-void WindowsHandle::Remove(const std::string& path) {
-    DeleteFileW(SystemPath(path).c_str());
+bool WindowsHandle::Remove(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    if (systemPath.empty()) return false;
+    return DoUnlessHeld([&] { return DeleteFileW(systemPath.c_str()) != 0; },
+                        [&] { return IsHeldAt(systemPath, DELETE); });
+}
+
+bool IsHeld(const std::string& path) {
+    const std::wstring systemPath = SystemPath(path);
+    return !systemPath.empty() && IsHeldAt(systemPath, DELETE | GENERIC_WRITE);
 }
 
 WindowsHandle OpenOnDisk(const std::string& path, OpenFor purpose) {
     const std::wstring systemPath = SystemPath(path);
     if (systemPath.empty()) return {};
-    const HANDLE opened = CreateFileW(systemPath.c_str(), AccessFor(purpose), kShareAll, nullptr,
-                                      DispositionFor(purpose), FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return {};
+    HANDLE opened = INVALID_HANDLE_VALUE;
+    const auto open = [&] {
+        opened = CreateFileW(systemPath.c_str(), AccessFor(purpose), kShareAll, nullptr,
+                             DispositionFor(purpose), FILE_ATTRIBUTE_NORMAL, nullptr);
+        return opened != INVALID_HANDLE_VALUE;
+    };
+    if (!DoUnlessHeld(open, [] { return GetLastError() == ERROR_SHARING_VIOLATION; })) return {};
     WindowsHandle file(opened);
     if (GetFileType(opened) != FILE_TYPE_DISK) return {};
     if (purpose != OpenFor::Reading && IsReadOnly(opened)) return {};

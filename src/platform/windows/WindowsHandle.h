@@ -25,8 +25,9 @@ class WindowsHandle {
     // False when the system reports a failure; the handle is closed either way.
     bool Close();
 
+    // For files. While another program holds one, they wait a moment for it.
     static bool Rename(const std::string& from, const std::string& to);
-    static void Remove(const std::string& path);
+    static bool Remove(const std::string& path);
 
   private:
     void* handle_ = nullptr;  // nothing where no file is open
@@ -40,8 +41,11 @@ enum class OpenFor {
 };
 
 // Not open when that fails, when the path is no file of a disk, or when a read-only file is to be written.
-// Others may read, write and rename the file meanwhile.
+// Others may read, write and rename the file meanwhile. Where another program holds it, it waits a moment.
 WindowsHandle OpenOnDisk(const std::string& path, OpenFor purpose);
+
+// Whether another program has the file open in a way that lets nobody write or replace it.
+bool IsHeld(const std::string& path);
 
 // See common/OutputFiles.h.
 bool WriteAll(const WindowsHandle& file, std::string_view bytes);

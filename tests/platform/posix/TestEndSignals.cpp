@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/ChildProcess.h"
+#include "platform/posix/ChildProcess.h"
 #include "platform/posix/EndSignals.h"
 #include "platform/posix/InterruptWatch.h"
 

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "core/TextLines.h"
 #include "platform/TemporaryFolder.h"
+#include "platform/windows/WideText.h"
 #include "platform/windows/WindowsHandle.h"
 
 namespace orlo {
@@ -59,6 +62,53 @@ TEST(WindowsFileSystem, AFileThatGrowsInPlaceTakesItsRoomFirst) {
     EXPECT_TRUE(WriteAll(file, "newer") && SetSize(file, 5));
     EXPECT_EQ(folder.Content("a.txt"), "newer");
     EXPECT_EQ(FinalPath(file).substr(1, 2), ":\\");
+}
+
+// A file of the name that another program has open.
+WindowsHandle Hold(const std::string& path, DWORD access, DWORD share) {
+    return WindowsHandle(CreateFileW(WideText(path).c_str(), access, share, nullptr, OPEN_EXISTING,
+                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+TEST(WindowsFileSystem, AFileThatAnotherProgramHoldsIsToldApartFromOneThatMayNotBeWritten) {
+    const TemporaryFolder folder;
+    WindowsFileSystem files;
+    const std::string path = folder.Put("a.txt", "old"), other = folder.Put("b.txt", "new");
+    const struct {
+        DWORD access, share;
+        bool readable, held;
+    } cases[] = {{GENERIC_READ, 0, false, true},
+                 {GENERIC_READ, FILE_SHARE_READ, true, true},
+                 {GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, true, true},
+                 {GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, true, false}};
+    for (const auto& c : cases) {
+        const WindowsHandle holder = Hold(path, c.access, c.share);
+        ASSERT_TRUE(holder.IsOpen());
+        EXPECT_TRUE(files.FileExists(path));
+        EXPECT_EQ(files.OpenForReading(path) != nullptr, c.readable) << c.share;
+        EXPECT_EQ(files.IsHeld(path), c.held) << c.share;
+        if (!c.held) continue;
+        EXPECT_NE(Replace(path, "new"), 0) << c.share;
+        EXPECT_FALSE(files.CopyFile(other, path)) << c.share;
+        EXPECT_FALSE(files.DeleteFile(path)) << c.share;
+    }
+    EXPECT_EQ(folder.Content("a.txt"), "old");
+    EXPECT_EQ(folder.Entries(), 2u);
+    std::filesystem::permissions(folder.Place("a.txt"), std::filesystem::perms(0444));
+    EXPECT_NE(Replace(path, "new"), 0);
+    EXPECT_FALSE(files.IsHeld(path));
+    EXPECT_FALSE(files.IsHeld(folder.Path("missing.txt")));
+    std::filesystem::permissions(folder.Place("a.txt"), std::filesystem::perms(0644));
+
+    // A scanner lets go soon.
+    WindowsHandle scanner = Hold(path, GENERIC_READ, FILE_SHARE_READ);
+    std::thread soon([&scanner] {
+        Sleep(50);
+        scanner.Close();
+    });
+    EXPECT_EQ(Replace(path, "new"), 0);
+    soon.join();
+    EXPECT_EQ(folder.Content("a.txt"), "new");
 }
 
 }  // namespace

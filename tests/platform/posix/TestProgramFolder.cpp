@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/ChildProcess.h"
 #include "platform/TemporaryFolder.h"
+#include "platform/posix/ChildProcess.h"
 #include "platform/posix/PosixFileSystem.h"
 
 namespace orlo {

@@ -5,8 +5,8 @@
 #include <csignal>
 
 #include "core/TextLines.h"
-#include "platform/ChildProcess.h"
 #include "platform/TemporaryFolder.h"
+#include "platform/posix/ChildProcess.h"
 
 namespace orlo {
 namespace {

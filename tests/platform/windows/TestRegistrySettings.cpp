@@ -8,15 +8,15 @@
 namespace orlo {
 namespace {
 
-constexpr std::string_view kKey = "SOFTWARE\\Brantel Data Service\\Orlo Tests\\1.0\\Settings";
+constexpr std::string_view kTestKey = "SOFTWARE\\Brantel Data Service\\Orlo Tests\\1.0\\Settings";
 
 class Registry : public testing::Test {
   protected:
-    ~Registry() override { RegDeleteKeyExW(HKEY_CURRENT_USER, WideText(kKey).c_str(), 0, 0); }
+    ~Registry() override { RegDeleteKeyExW(HKEY_CURRENT_USER, WideText(kTestKey).c_str(), 0, 0); }
 
     static void Store(const wchar_t* name, DWORD kind, const void* bytes, DWORD size) {
         HKEY key = nullptr;
-        ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, WideText(kKey).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, WideText(kTestKey).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
                                   nullptr, &key, nullptr),
                   ERROR_SUCCESS);
         RegSetValueExW(key, name, 0, kind, static_cast<const BYTE*>(bytes), size);
@@ -28,19 +28,19 @@ class Registry : public testing::Test {
 
 TEST_F(Registry, ValuesReachTheRegistryWithAFlushAndNotBefore) {
     const std::string path = "C:\\Caf\xC3\xA9\\plan.txt";
-    EXPECT_TRUE(settings.Set(kKey, "TATime", "45"));
-    EXPECT_TRUE(settings.Set(kKey, "1", path));
-    EXPECT_TRUE(settings.Set(kKey, "Long", std::string(5000, 'x')));
-    EXPECT_TRUE(settings.Set(kKey, "Empty", ""));
-    EXPECT_EQ(settings.Get(kKey, "tatime"), "45");
-    EXPECT_FALSE(RegistrySettings().Get(kKey, "TATime"));
+    EXPECT_TRUE(settings.Set(kTestKey, "TATime", "45"));
+    EXPECT_TRUE(settings.Set(kTestKey, "1", path));
+    EXPECT_TRUE(settings.Set(kTestKey, "Long", std::string(5000, 'x')));
+    EXPECT_TRUE(settings.Set(kTestKey, "Empty", ""));
+    EXPECT_EQ(settings.Get(kTestKey, "tatime"), "45");
+    EXPECT_FALSE(RegistrySettings().Get(kTestKey, "TATime"));
     EXPECT_TRUE(settings.Flush());
     RegistrySettings later;
-    EXPECT_EQ(later.Get(kKey, "TATIME"), "45");
-    EXPECT_EQ(later.Get(kKey, "1"), path);
-    EXPECT_EQ(later.Get(kKey, "Long"), std::string(5000, 'x'));
-    EXPECT_EQ(later.Get(kKey, "Empty"), "");
-    EXPECT_FALSE(later.Get(kKey, "Missing"));
+    EXPECT_EQ(later.Get(kTestKey, "TATIME"), "45");
+    EXPECT_EQ(later.Get(kTestKey, "1"), path);
+    EXPECT_EQ(later.Get(kTestKey, "Long"), std::string(5000, 'x'));
+    EXPECT_EQ(later.Get(kTestKey, "Empty"), "");
+    EXPECT_FALSE(later.Get(kTestKey, "Missing"));
 }
 
 TEST_F(Registry, ATextEndsAtItsZeroOrAtItsEnd) {
@@ -50,10 +50,11 @@ TEST_F(Registry, ATextEndsAtItsZeroOrAtItsEnd) {
     Store(L"Nothing", REG_SZ, nullptr, 0);
     const DWORD number = 45;
     Store(L"Number", REG_DWORD, &number, sizeof number);
-    for (const auto* name : {"With", "Without", "More"}) EXPECT_EQ(settings.Get(kKey, name), "abc") << name;
-    EXPECT_EQ(settings.Get(kKey, "Nothing"), "");
-    EXPECT_FALSE(settings.Get(kKey, "Number"));
-    EXPECT_FALSE(settings.Set(kKey, "Zero", std::string("a\0b", 3)));
+    for (const auto* name : {"With", "Without", "More"})
+        EXPECT_EQ(settings.Get(kTestKey, name), "abc") << name;
+    EXPECT_EQ(settings.Get(kTestKey, "Nothing"), "");
+    EXPECT_FALSE(settings.Get(kTestKey, "Number"));
+    EXPECT_FALSE(settings.Set(kTestKey, "Zero", std::string("a\0b", 3)));
 }
 
 TEST(MachineRegistry, AGivenSimulatorAnswersForItsValueAlone) {
