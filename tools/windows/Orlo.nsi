@@ -1,7 +1,8 @@
 ; The installer for Windows: for the user who runs it, without an administrator's rights. tools/windows/package gives
 ; VERSION, STAGE (the folder with what is installed) and OUTPUT. Orlo reads no command line, so no file type leads to it.
 
-Unicode true
+; As the programs: a Wine or Windows without 32-bit parts runs it too.
+Target amd64-unicode
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
