@@ -31,6 +31,7 @@ struct World : test::FakeProgram {
         sets.Global = SetOf("", kGlobalAirlines);
         for (std::int64_t i = 1; i < count; ++i)
             sets.Airports.push_back(SetOf(Concat("Airport ", i), kAirlinesPerSet));
+        session.shuffle.HasResult = true;
     }
     AirlineSets& sets = session.shuffle.RunAirlines;
     SharesForm& shares = program.forms.frmShares;
